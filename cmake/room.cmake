@@ -1,0 +1,8 @@
+# A room is one static library for one folder of src/. Its sources are listed by hand, and it links
+# only rooms of the floors below it, so the link order is the architecture.
+function(add_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${ROOM_USES})
+endfunction()

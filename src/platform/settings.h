@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/settingsstore.h"
+
+namespace platform {
+
+// The title of the program, under which its settings, its tray icon and its autostart entry go.
+inline constexpr std::string_view ProgramTitle = "Quillmore";
+
+// The program's own part of the settings store.
+class Settings {
+  public:
+    explicit Settings(SettingsStore& store) : store_(store) {}
+
+    std::string GetSetting(std::string_view section, std::string_view key,
+                           std::string_view fallback = "") const {
+        return store_.Get(ProgramTitle, section, key, fallback);
+    }
+    void SaveSetting(std::string_view section, std::string_view key, std::string_view value) {
+        store_.Save(ProgramTitle, section, key, value);
+    }
+
+  private:
+    SettingsStore& store_;
+};
+
+}  // namespace platform

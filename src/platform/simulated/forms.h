@@ -1,0 +1,39 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "toolkit/form.h"
+
+namespace platform::simulated {
+
+class Journal;
+
+// Windows without a screen. A modal form is answered from a script.
+class Forms final : public toolkit::FormHost {
+  public:
+    explicit Forms(Journal& journal) : journal_(journal) {}
+
+    void Open(toolkit::Form& form) override;
+    void RunModal(toolkit::Form& form) override;
+    void Close(toolkit::Form& form) override;
+    toolkit::Bounds WorkArea() const override { return workArea; }
+    std::vector<toolkit::Form*> OpenForms() const override { return open_; }
+
+    // The next time a form of that name is shown modally, `user` runs and must hide or unload it;
+    // a modal form without a script, or one left open by it, is a mistake in the test
+    // (std::logic_error).
+    void WhenModal(std::string formName, std::function<void(toolkit::Form&)> user);
+
+    // 1024 by 740 pixels at 15 twips a pixel.
+    toolkit::Bounds workArea{0, 0, 15360, 11100};
+
+  private:
+    Journal& journal_;
+    std::vector<toolkit::Form*> open_;
+    std::deque<std::pair<std::string, std::function<void(toolkit::Form&)>>> scripts_;
+};
+
+}  // namespace platform::simulated

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/machine.h"
+#include "platform/simulated/autostart.h"
+#include "platform/simulated/clock.h"
+#include "platform/simulated/faults.h"
+#include "platform/simulated/files.h"
+#include "platform/simulated/forms.h"
+#include "platform/simulated/journal.h"
+#include "platform/simulated/locale.h"
+#include "platform/simulated/messages.h"
+#include "platform/simulated/processes.h"
+#include "platform/simulated/program.h"
+#include "platform/simulated/registry.h"
+#include "platform/simulated/session.h"
+#include "platform/simulated/settingsstore.h"
+#include "platform/simulated/system.h"
+#include "platform/simulated/tray.h"
+
+namespace platform::simulated {
+
+// A whole Windows XP in memory: seeded by a test, remembering every call, answering boxes and
+// dialogs from a script, moving time on request, failing where it is told to. A fresh one is a
+// German XP Professional with Service Pack 3, build 2600, code page 1252, an empty registry with
+// its three roots, an empty settings store, the program in C:\Programme\Quillmore.
+class Machine {
+  public:
+    Machine();
+    Machine(const Machine&) = delete;
+    Machine& operator=(const Machine&) = delete;
+
+    Journal journal;
+    Faults faults;
+    Forms forms;
+    Registry registry;
+    SettingsStore settings;
+    Files files;
+    Processes processes;
+    Session session;
+    AutoStart autostart;
+    OperatingSystem system;
+    SystemFacts facts;
+    Memory memory;
+    Clock clock;
+    Locale locale;
+    Messages messages;
+    Tray tray;
+    Program program;
+
+    // The machine as the program sees it.
+    platform::Machine services;
+};
+
+}  // namespace platform::simulated

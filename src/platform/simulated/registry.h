@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/registry.h"
+
+namespace platform::simulated {
+
+class Faults;
+class Journal;
+
+struct StoredValue {
+    std::uint32_t type = 0;
+    std::vector<std::uint8_t> bytes;
+
+    bool operator==(const StoredValue&) const = default;
+};
+
+// Values as a test writes them down. Text is taken to code page 1252.
+StoredValue DwordValue(std::uint32_t number);
+// With the terminating NUL, as Windows itself stores texts.
+StoredValue TextValue(std::string_view text);
+// Without it, as the program stores texts.
+StoredValue BareTextValue(std::string_view text);
+
+// The registry in memory. Key and value names are compared without regard to case and keep the
+// case in which they were made.
+class Registry final : public platform::Registry {
+  public:
+    Registry(Journal& journal, Faults& faults);
+    ~Registry() override;
+
+    Result Open(Key parent, std::string_view path, std::uint32_t access, Key& opened) override;
+    Result Create(Key parent, std::string_view name, std::uint32_t access, Key& created) override;
+    Result Query(Key key, std::string_view valueName, std::uint32_t& type, std::uint8_t* data,
+                 std::uint32_t& size) override;
+    Result Set(Key key, std::string_view valueName, std::uint32_t type, const std::uint8_t* data,
+               std::uint32_t size) override;
+    Result RemoveValue(Key key, std::string_view valueName) override;
+    Result RemoveKey(Key parent, std::string_view path) override;
+    Result Close(Key key) override;
+
+    // Seeding, unjournalled. `root` is one of the three predefined handles.
+    void MakeKey(Key root, std::string_view path);
+    void Put(Key root, std::string_view path, std::string_view valueName, StoredValue value);
+    void Erase(Key root, std::string_view path, std::string_view valueName);
+    void EraseKey(Key root, std::string_view path);
+    // Refuses any opening of the key or of what lies below it that asks for one of these rights.
+    void Deny(Key root, std::string_view path, std::uint32_t rights = MayDoAll);
+    // Loads a registration file (text "Windows Registry Editor Version 5.00", as UTF-8).
+    void Load(std::string_view registrationText);
+
+    // Looking, unjournalled.
+    bool HasKey(Key root, std::string_view path) const;
+    std::optional<StoredValue> Value(Key root, std::string_view path,
+                                     std::string_view valueName) const;
+    // Every value below the three roots as "HKLM\path|name" -> value; a key without values as
+    // "HKLM\path|" with type 0xFFFFFFFF. Two dumps that are equal are two equal registries.
+    std::map<std::string, StoredValue> Dump() const;
+    int OpenHandles() const;
+
+  private:
+    struct Node;
+    struct Handle;
+    std::unique_ptr<Node> root_;
+    std::map<Key, Handle> handles_;
+    Key nextHandle_ = 1;
+    Journal& journal_;
+    Faults& faults_;
+};
+
+}  // namespace platform::simulated

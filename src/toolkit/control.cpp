@@ -1,0 +1,36 @@
+#include "toolkit/control.h"
+
+namespace toolkit {
+
+Control::Control(Form& form, ControlKind kind, std::string name, std::string caption, bool tabStop)
+    : form_(form),
+      kind_(kind),
+      name_(std::move(name)),
+      caption_(std::move(caption)),
+      tabStop_(tabStop) {}
+
+Control::~Control() = default;
+
+void Control::SetCaption(std::string caption) {
+    if (caption == caption_) return;
+    caption_ = std::move(caption);
+    Changed(Aspect::Caption);
+}
+
+void Control::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    Changed(Aspect::Enabled);
+}
+
+void Control::SetVisible(bool visible) {
+    if (visible == visible_) return;
+    visible_ = visible;
+    Changed(Aspect::Visible);
+}
+
+void Control::Changed(Aspect what) {
+    if (view_) view_->Refresh(what);
+}
+
+}  // namespace toolkit

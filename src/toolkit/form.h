@@ -1,0 +1,174 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/control.h"
+#include "toolkit/layout.h"
+
+namespace toolkit {
+
+class DrawnControl;
+class Form;
+class FormHost;
+
+enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+
+// Pointer codes of a form.
+inline constexpr int DefaultPointer = 0;
+inline constexpr int Hourglass = 11;
+
+// What of a form has changed, for the window that shows it.
+enum class FormAspect { Caption, State, Position, Visible, TaskbarEntry, Pointer };
+
+class FormView {
+  public:
+    virtual ~FormView() = default;
+    virtual void Refresh(FormAspect what) = 0;
+};
+
+// Left, top, width and height in twips, 1440 to the inch, as they are stored and compared.
+struct Bounds {
+    float left = 0;
+    float top = 0;
+    float width = 0;
+    float height = 0;
+
+    bool operator==(const Bounds&) const = default;
+};
+
+// A window with its controls. Its events are virtual functions which do nothing here.
+class Form {
+  public:
+    Form(FormHost& host, std::string name, std::string caption, Bounds bounds);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& Name() const { return name_; }
+
+    // Makes a control of the class T and keeps it; the order of making is the tab order.
+    template <typename T, typename... Arguments>
+    T& Add(Arguments&&... arguments) {
+        auto control = std::make_unique<T>(*this, std::forward<Arguments>(arguments)...);
+        T& made = *control;
+        Keep(std::move(control));
+        return made;
+    }
+
+    // The control of that name, nullptr when there is none.
+    Control* FindControl(std::string_view name) const;
+
+    // The control of that name as a T. Asking for a name or a class that is not there is a mistake
+    // in the program and ends it (std::logic_error).
+    template <typename T>
+    T& Find(std::string_view name) const {
+        T* control = dynamic_cast<T*>(FindControl(name));
+        if (!control) ThrowMissing(name);
+        return *control;
+    }
+
+    const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+
+    const Box& Layout() const { return layout_; }
+    void SetLayout(Box layout) { layout_ = std::move(layout); }
+
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption);
+
+    WindowState State() const { return state_; }
+    void SetState(WindowState state);
+
+    const Bounds& Place() const { return bounds_; }
+    void SetLeft(float left);
+    void SetTop(float top);
+    void SetSize(float width, float height);
+
+    bool Visible() const { return visible_; }
+    bool InTaskbar() const { return inTaskbar_; }
+    void SetInTaskbar(bool shown);
+
+    int Pointer() const { return pointer_; }
+    void SetPointer(int pointer);
+
+    // What Return and Escape press; nullptr where they press nothing.
+    DrawnControl* defaultButton = nullptr;
+    DrawnControl* cancelButton = nullptr;
+    // The control that has the focus when the form is shown; the first one when nullptr.
+    Control* firstFocus = nullptr;
+    // A dialog has a close box but neither minimise nor maximise boxes, and no taskbar entry.
+    bool isDialog = true;
+
+    // A form is loaded from the moment its window exists until it is unloaded; hiding keeps it
+    // loaded with all that its controls hold. Show and ShowModal load it when needed.
+    bool Loaded() const { return loaded_; }
+    void Load();
+    // Raises Resize the first time, as the window then gets its size.
+    void Show();
+    // Returns when the form has been hidden or unloaded.
+    void ShowModal();
+    void Hide();
+    // Raises QueryUnload, then Unload, then takes the window away.
+    void Unload();
+
+    // What the platform reports of the user's doings with the window. Raises Resize when the state
+    // or the size really changed.
+    void WindowMoved(WindowState state, Bounds bounds);
+    // True when the form has used up the key.
+    bool KeyPressed(int virtualKey) { return OnKeyDown(virtualKey); }
+
+    void SetView(FormView* view) { view_ = view; }
+    FormView* View() const { return view_; }
+
+  protected:
+    virtual void OnLoad() {}
+    virtual void OnResize() {}
+    virtual bool OnKeyDown(int) { return false; }
+    virtual void OnQueryUnload() {}
+    virtual void OnUnload() {}
+
+    FormHost& host_;
+
+  private:
+    void Keep(std::unique_ptr<Control> control);
+    [[noreturn]] void ThrowMissing(std::string_view name) const;
+    void Changed(FormAspect what);
+    void SizeChanged();
+
+    std::string name_;
+    std::string caption_;
+    Bounds bounds_;
+    WindowState state_ = WindowState::Normal;
+    bool visible_ = false;
+    bool everShown_ = false;
+    bool inTaskbar_ = true;
+    bool loaded_ = false;
+    int pointer_ = DefaultPointer;
+    std::vector<std::unique_ptr<Control>> controls_;
+    std::map<std::string, Control*, std::less<>> byName_;
+    Box layout_;
+    FormView* view_ = nullptr;
+};
+
+// Makes and ends the windows of forms.
+class FormHost {
+  public:
+    virtual ~FormHost() = default;
+
+    // Makes the windows of the form and its controls, hidden, and sets their views.
+    virtual void Open(Form& form) = 0;
+    // Blocks its caller, and the other windows, until the form is hidden or unloaded.
+    virtual void RunModal(Form& form) = 0;
+    // Takes the windows away.
+    virtual void Close(Form& form) = 0;
+    // The screen's work area, in twips.
+    virtual Bounds WorkArea() const = 0;
+    // The program's loaded forms, in the order of their loading.
+    virtual std::vector<Form*> OpenForms() const = 0;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "toolkit/geometry.h"
+
+namespace toolkit {
+
+// What of a control has changed, for the window that shows it.
+enum class Aspect { Value, Caption, Enabled, Visible, Limits, Colour };
+
+// What the platform puts behind a control: a native window that shows what the control holds.
+// It never holds state of its own; it reports what the user did by calling the control.
+class ControlView {
+  public:
+    virtual ~ControlView() = default;
+
+    // The control's `what` has changed; show it.
+    virtual void Refresh(Aspect what) = 0;
+
+    // Draw the control anew, soon.
+    virtual void Repaint() = 0;
+
+    // Whether the mouse stands over this very control: cursor position, then window from point.
+    virtual bool PointerIsOver() const = 0;
+
+    virtual void TakeFocus() = 0;
+
+    // Keep the mouse input on this control until the button goes up.
+    virtual void CaptureMouse() = 0;
+
+    // Moves the focus to the next control, or to the previous one.
+    virtual void MoveFocus(bool forward) = 0;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,9 @@
+# One test program a room: add_suite(registry SOURCES a.cpp b.cpp USES registry simulated).
+function(add_suite name)
+  cmake_parse_arguments(SUITE "" "" "SOURCES;USES" ${ARGN})
+  add_executable(test_${name} ${SUITE_SOURCES})
+  target_link_libraries(test_${name} PRIVATE test_support ${SUITE_USES})
+  # doctest's macros shadow and convert in ways that the program's own code may not.
+  target_compile_options(test_${name} PRIVATE -Wno-shadow -Wno-conversion)
+  add_test(NAME ${name} COMMAND test_${name})
+endfunction()
