@@ -34,10 +34,13 @@ float ToSingle(std::string_view text, const NumberSigns& signs);
 
 // The number at the head of a text: blanks, tabs and line ends are skipped, only the point is a
 // decimal sign, reading stops at the first character that does not fit; 0 where nothing fits.
+// Throws Failure Overflow beyond the range of a double.
 double LeadingNumber(std::string_view text);
 
 // Decimal text without a leading blank. The text of a number that is not whole carries the
 // locale's decimal sign and at most 15 significant digits (7 for a single-precision number).
+// Numbers with more digits before the decimal sign and those below 0.0001 have an exponent:
+// "1E+15".
 std::string ToText(std::int32_t number);
 std::string ToText(double number, const NumberSigns& signs);
 std::string ToText(float number, const NumberSigns& signs);

@@ -26,6 +26,7 @@ CheckBox::CheckBox(Form& form, std::string name, std::string caption)
     : Control(form, ControlKind::CheckBox, std::move(name), std::move(caption), true) {}
 
 void CheckBox::SetValue(int value) {
+    if (value < 0 || value > 2) throw runtime::Failure(runtime::InvalidPropertyValue);
     if (value == value_) return;
     value_ = value;
     Changed(Aspect::Value);

@@ -37,7 +37,8 @@ class CheckBox : public Control {
   public:
     CheckBox(Form& form, std::string name, std::string caption);
 
-    // 0 or 1. A value that stays as it was raises nothing.
+    // 0 off, 1 on, 2 grey; any other throws Failure InvalidPropertyValue. A value that stays as it
+    // was raises nothing.
     int Value() const { return value_; }
     void SetValue(int value);
 

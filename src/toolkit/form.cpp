@@ -101,7 +101,12 @@ void Form::Hide() {
 }
 
 void Form::Unload() {
-    if (!loaded_) return;
+    if (!loaded_ || unloading_) return;
+    struct Mark {
+        bool& unloading;
+        explicit Mark(bool& flag) : unloading(flag) { unloading = true; }
+        ~Mark() { unloading = false; }
+    } mark(unloading_);
     OnQueryUnload();
     OnUnload();
     Hide();
@@ -111,8 +116,8 @@ void Form::Unload() {
 }
 
 void Form::WindowMoved(WindowState state, Bounds bounds) {
-    bool resized = state != state_ || bounds.width != bounds_.width ||
-                   bounds.height != bounds_.height;
+    bool resized =
+        state != state_ || bounds.width != bounds_.width || bounds.height != bounds_.height;
     state_ = state;
     bounds_ = bounds;
     if (resized) SizeChanged();

@@ -102,6 +102,9 @@ class Form {
     Control* firstFocus = nullptr;
     // A dialog has a close box but neither minimise nor maximise boxes, and no taskbar entry.
     bool isDialog = true;
+    // When its window is made, the form gets the size that its layout wants and keeps its place;
+    // the width and height given before do not matter then.
+    bool sizeToContent = false;
 
     // A form is loaded from the moment its window exists until it is unloaded; hiding keeps it
     // loaded with all that its controls hold. Show and ShowModal load it when needed.
@@ -112,7 +115,9 @@ class Form {
     // Returns when the form has been hidden or unloaded.
     void ShowModal();
     void Hide();
-    // Raises QueryUnload, then Unload, then takes the window away.
+    // Raises QueryUnload, then Unload, then takes the window away. A failure in one of the two
+    // passes to the caller and leaves the form loaded. Another Unload meanwhile, as a second click
+    // on the close box brings it, does nothing.
     void Unload();
 
     // What the platform reports of the user's doings with the window. Raises Resize when the state
@@ -147,6 +152,7 @@ class Form {
     bool everShown_ = false;
     bool inTaskbar_ = true;
     bool loaded_ = false;
+    bool unloading_ = false;
     int pointer_ = DefaultPointer;
     std::vector<std::unique_ptr<Control>> controls_;
     std::map<std::string, Control*, std::less<>> byName_;

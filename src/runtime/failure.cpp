@@ -1,0 +1,42 @@
+#include "runtime/failure.h"
+
+namespace runtime {
+
+Failure::Failure(int failureNumber)
+    : Failure(failureNumber, DescriptionOf(failureNumber), "Quillmore") {}
+
+Failure::Failure(int failureNumber, std::string failureDescription, std::string failureSource)
+    : number(failureNumber),
+      description(std::move(failureDescription)),
+      source(std::move(failureSource)) {}
+
+std::string DescriptionOf(int failureNumber) {
+    switch (failureNumber) {
+        case InvalidProcedureCall:
+            return "Ungültiger Prozeduraufruf oder ungültiges Argument";
+        case Overflow:
+            return "Überlauf";
+        case OutOfMemory:
+            return "Nicht genügend Speicher";
+        case TypeMismatch:
+            return "Typen unverträglich";
+        case UserInterrupt:
+            return "Benutzerunterbrechung";
+        case BadFileNumber:
+            return "Dateiname oder -nummer falsch";
+        case FileNotFound:
+            return "Datei nicht gefunden";
+        case PermissionDenied:
+            return "Zugriff verweigert";
+        case PathNotFound:
+            return "Pfad nicht gefunden";
+        case InvalidPropertyValue:
+            return "Ungültiger Eigenschaftswert";
+        case CannotCreateObject:
+            return "Objekterstellung durch ActiveX-Komponente nicht möglich";
+        default:
+            return "Anwendungs- oder objektdefinierter Fehler";
+    }
+}
+
+}  // namespace runtime

@@ -1,0 +1,91 @@
+#include "toolkit/naturalsize.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "toolkit/controls.h"
+#include "toolkit/drawncontrol.h"
+#include "toolkit/layout.h"
+
+namespace toolkit {
+namespace {
+
+// Pixels at 96 dots per inch, as the platform draws its standard controls.
+constexpr int CheckMark = 13;
+constexpr int CheckMarkGap = 6;
+constexpr int FocusLine = 1;
+constexpr int TextBoxEdges = 8;
+constexpr int LinesOfMultiLine = 3;
+constexpr Size SliderSize{120, 28};
+constexpr int FrameCaptionEdges = 18;
+constexpr int TabEdges = 16;
+constexpr int TabStripEdges = 10;
+
+Size OfLabel(const Label& label, const TextMeasure& measure) {
+    const bool bold = label.Style() == LabelStyle::Heading;
+    constexpr std::string_view lineEnd = "\r\n";
+    std::string_view rest = label.Caption();
+    Size size;
+    for (;;) {
+        const std::size_t end = rest.find(lineEnd);
+        const Size line = measure.SizeOf(rest.substr(0, end), bold);
+        size.width = std::max(size.width, line.width);
+        size.height += std::max(line.height, LineHeight(measure));
+        if (end == std::string_view::npos) return size;
+        rest.remove_prefix(end + lineEnd.size());
+    }
+}
+
+Size OfCheckMarkAndText(const Control& control, const TextMeasure& measure) {
+    const int mark = measure.Scale(CheckMark);
+    const Size text = measure.SizeOf(control.Caption(), false);
+    return {mark + measure.Scale(CheckMarkGap) + text.width,
+            std::max({mark, text.height, LineHeight(measure)}) + 2 * measure.Scale(FocusLine)};
+}
+
+Size OfTextBox(const TextBox& box, const TextMeasure& measure) {
+    const int lines = box.Style().multiLine ? LinesOfMultiLine : 1;
+    const int edges = measure.Scale(TextBoxEdges);
+    return {box.Style().columns * measure.SizeOf("0", false).width + edges,
+            lines * LineHeight(measure) + edges};
+}
+
+Size OfTabStrip(const TabStrip& tabs, const TextMeasure& measure) {
+    Size size{0, LineHeight(measure) + measure.Scale(TabStripEdges)};
+    for (const std::string& caption : tabs.Captions()) {
+        size.width += measure.SizeOf(caption, false).width + measure.Scale(TabEdges);
+    }
+    return size;
+}
+
+}  // namespace
+
+int LineHeight(const TextMeasure& measure) {
+    return measure.SizeOf("0", false).height;
+}
+
+Size NaturalSize(const Control& control, const TextMeasure& measure) {
+    switch (control.Kind()) {
+        case ControlKind::Label:
+            return OfLabel(dynamic_cast<const Label&>(control), measure);
+        case ControlKind::CheckBox:
+        case ControlKind::OptionButton:
+            return OfCheckMarkAndText(control, measure);
+        case ControlKind::TextBox:
+            return OfTextBox(dynamic_cast<const TextBox&>(control), measure);
+        case ControlKind::Frame:
+            return {
+                measure.SizeOf(control.Caption(), false).width + measure.Scale(FrameCaptionEdges),
+                LineHeight(measure)};
+        case ControlKind::Slider:
+            return {measure.Scale(SliderSize.width), measure.Scale(SliderSize.height)};
+        case ControlKind::TabStrip:
+            return OfTabStrip(dynamic_cast<const TabStrip&>(control), measure);
+        case ControlKind::Drawn:
+            return dynamic_cast<const DrawnControl&>(control).NaturalSize(
+                measure.SizeOf(control.Caption(), false));
+    }
+    return {};
+}
+
+}  // namespace toolkit
