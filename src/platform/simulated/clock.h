@@ -18,7 +18,8 @@ class Clock final : public platform::Clock {
     Timer StartTimer(int milliseconds, std::function<void()> tick) override;
     void StopTimer(Timer timer) override;
 
-    // Moves time on and raises the ticks that fall due, in their order.
+    // Moves time on and raises the ticks that fall due, in their order. A tick may move time
+    // itself, as a handler does that opens a message box: ticks missed meanwhile come as one.
     void Advance(int milliseconds);
     int RunningTimers() const { return static_cast<int>(timers_.size()); }
 
@@ -30,8 +31,11 @@ class Clock final : public platform::Clock {
         long long due;
         std::function<void()> tick;
     };
+    void MoveTo(long long moment);
+
     Journal& journal_;
     Faults& faults_;
+    // Milliseconds since the machine was made.
     long long elapsed_ = 0;
     Timer next_ = 1;
     std::map<Timer, Running> timers_;

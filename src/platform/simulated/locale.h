@@ -4,15 +4,10 @@
 
 namespace platform::simulated {
 
-class Faults;
-class Journal;
-
 // German settings and code page 1252. Conversions are not journalled: the machine's registry and
 // file calls show the converted text anyway.
 class Locale final : public platform::Locale {
   public:
-    Locale(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
-
     runtime::NumberSigns Signs() const override { return signs; }
     std::string ShortDate(const LocalTime& time) const override;
     std::string LongTime(const LocalTime& time) const override;
@@ -20,14 +15,15 @@ class Locale final : public platform::Locale {
     std::string FromAnsi(std::string_view bytes) const override;
 
     runtime::NumberSigns signs;
-
-  private:
-    Journal& journal_;
-    Faults& faults_;
 };
 
-// Code page 1252 by itself.
+// Code page 1252 by itself. What it lacks, and each byte that is no UTF-8, becomes a question
+// mark, a character outside the 16-bit plane two. Its five unassigned bytes stand for the control
+// characters of the same number, as on Windows, so that any bytes survive the way there and back.
 std::string ToWesternBytes(std::string_view text);
 std::string FromWesternBytes(std::string_view bytes);
+
+// The byte of one character of the 16-bit plane.
+char WesternByte(char32_t character);
 
 }  // namespace platform::simulated

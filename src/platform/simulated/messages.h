@@ -3,6 +3,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/messages.h"
@@ -37,13 +38,9 @@ class Messages final : public platform::Messages {
     const std::vector<ShownMessage>& Shown() const { return shown_; }
 
   private:
-    struct Script {
-        std::string title;
-        int answer;
-    };
     Journal& journal_;
     Faults& faults_;
-    std::deque<Script> answers_;
+    std::deque<std::pair<std::string, int>> answers_;
     std::deque<std::pair<std::string, std::function<void()>>> actions_;
     std::vector<ShownMessage> shown_;
 };

@@ -32,6 +32,9 @@ class Processes final : public platform::Processes {
     const std::vector<Started>& All() const { return started_; }
 
   private:
+    // nullptr for a handle that is not open.
+    Started* Find(Handle process);
+
     Journal& journal_;
     Faults& faults_;
     std::vector<Started> started_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -29,12 +30,22 @@ StoredValue TextValue(std::string_view text);
 // Without it, as the program stores texts.
 StoredValue BareTextValue(std::string_view text);
 
+// Types 1, 2 and 7.
+bool IsTextType(std::uint32_t type);
+
+struct RegistryNode;
+
 // The registry in memory. Key and value names are compared without regard to case and keep the
-// case in which they were made.
+// case in which they were made. Where the calls differ in detail between versions of Windows, this
+// is XP's way: a leading backslash is a bad path, a handle to a key that somebody has deleted
+// says so, rights are those that the handle was opened with.
 class Registry final : public platform::Registry {
   public:
     Registry(Journal& journal, Faults& faults);
     ~Registry() override;
+
+    static constexpr Result BadPathName = 161;
+    static constexpr Result KeyDeleted = 1018;
 
     Result Open(Key parent, std::string_view path, std::uint32_t access, Key& opened) override;
     Result Create(Key parent, std::string_view name, std::uint32_t access, Key& created) override;
@@ -51,9 +62,12 @@ class Registry final : public platform::Registry {
     void Put(Key root, std::string_view path, std::string_view valueName, StoredValue value);
     void Erase(Key root, std::string_view path, std::string_view valueName);
     void EraseKey(Key root, std::string_view path);
-    // Refuses any opening of the key or of what lies below it that asks for one of these rights.
+    // Refuses any opening or making of the key or of what lies below it that asks for one of these
+    // rights, and any deletion there. Handles that are open keep what they have. The key need not
+    // be there yet.
     void Deny(Key root, std::string_view path, std::uint32_t rights = MayDoAll);
-    // Loads a registration file (text "Windows Registry Editor Version 5.00", as UTF-8).
+    // Loads a registration file (text "Windows Registry Editor Version 5.00", as UTF-8). A line
+    // that cannot be read is a mistake in the test's data (std::runtime_error with its number).
     void Load(std::string_view registrationText);
 
     // Looking, unjournalled.
@@ -66,9 +80,38 @@ class Registry final : public platform::Registry {
     int OpenHandles() const;
 
   private:
-    struct Node;
-    struct Handle;
-    std::unique_ptr<Node> root_;
+    using NodeRef = std::shared_ptr<RegistryNode>;
+    struct Handle {
+        NodeRef node;
+        std::uint32_t access = 0;
+    };
+    // Rights refused on a key, by its full path, and below.
+    struct Denial {
+        std::string path;
+        std::uint32_t rights;
+    };
+
+    const NodeRef& Root(Key root) const;
+    NodeRef Seeded(Key root, std::string_view path);
+    std::uint32_t Denied(std::string_view fullPath) const;
+    // The handle's key and rights; what a predefined root may do is asked afresh each time.
+    Result Look(Key key, Handle& found) const;
+    Result Use(Key key, std::uint32_t right, Handle& found) const;
+    std::optional<Result> Fault(std::string_view call, Key key, std::string_view path,
+                                const char* separator) const;
+    Result OpenKey(Key parent, std::string_view path, std::uint32_t access, Key& opened);
+    Result CreateKey(Key parent, std::string_view path, std::uint32_t access, Key& created);
+    Result MakePath(const Handle& parent, std::string_view path, std::uint32_t access,
+                    NodeRef& made);
+    Result QueryValue(Key key, std::string_view valueName, std::uint32_t& type, std::uint8_t* data,
+                      std::uint32_t& size) const;
+    Result SetValue(Key key, std::string_view valueName, StoredValue value);
+    Result EraseValue(Key key, std::string_view valueName);
+    Result DeleteKey(Key parent, std::string_view path);
+    Key NewHandle(NodeRef node, std::uint32_t access);
+
+    std::array<NodeRef, 3> roots_;
+    std::vector<Denial> denials_;
     std::map<Key, Handle> handles_;
     Key nextHandle_ = 1;
     Journal& journal_;

@@ -28,6 +28,9 @@ class SettingsStore final : public platform::SettingsStore {
     const std::map<std::string, std::string>& All() const { return texts_; }
 
   private:
+    const std::string* Find(std::string_view name) const;
+    void Store(const std::string& name, std::string_view text);
+
     Journal& journal_;
     Faults& faults_;
     std::map<std::string, std::string> texts_;

@@ -1,0 +1,285 @@
+#include "platform/simulated/registry.h"
+
+#include <cstring>
+
+#include "platform/simulated/faults.h"
+#include "platform/simulated/locale.h"
+#include "platform/simulated/registrynode.h"
+#include "platform/simulated/wording.h"
+
+namespace platform::simulated {
+
+namespace {
+
+using Result = Registry::Result;
+
+constexpr std::uint32_t MayQueryValue = 0x01;
+// Limits of the platform.
+constexpr std::size_t LongestKeyName = 255;
+constexpr std::size_t LongestValueName = 16383;
+constexpr int DeepestKey = 512;
+
+constexpr const char* RootNames[] = {"HKCR", "HKCU", "HKLM"};
+
+bool IsRoot(Registry::Key key) {
+    return key >= Registry::ClassesRoot && key <= Registry::LocalMachine;
+}
+
+std::string KeyText(Registry::Key key) {
+    if (IsRoot(key)) return RootNames[key - Registry::ClassesRoot];
+    return "#" + std::to_string(key);
+}
+
+// "-> 0" and what came out.
+std::string ResultText(Result result, const std::string& out) {
+    std::string text = " -> " + std::to_string(result);
+    return result == Registry::Success ? text + out : text;
+}
+
+bool BeginsWithBackslash(std::string_view path) {
+    return path.starts_with('\\');
+}
+
+}  // namespace
+
+Registry::Registry(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {
+    for (std::size_t i = 0; i < roots_.size(); ++i) {
+        roots_[i] = std::make_shared<RegistryNode>();
+        roots_[i]->path = RootNames[i];
+    }
+}
+
+Registry::~Registry() = default;
+
+Result Registry::Open(Key parent, std::string_view path, std::uint32_t access, Key& opened) {
+    auto fault = Fault("RegOpenKeyExA", parent, path, "\\");
+    Result result = fault ? *fault : OpenKey(parent, path, access, opened);
+    journal_.Note([&] {
+        return "RegOpenKeyExA " + KeyText(parent) + " " + Quoted(path) + " " + Hex(access) +
+               ResultText(result, " " + KeyText(opened));
+    });
+    return result;
+}
+
+Result Registry::Create(Key parent, std::string_view name, std::uint32_t access, Key& created) {
+    auto fault = Fault("RegCreateKeyExA", parent, name, "\\");
+    Result result = fault ? *fault : CreateKey(parent, name, access, created);
+    journal_.Note([&] {
+        return "RegCreateKeyExA " + KeyText(parent) + " " + Quoted(name) + " " + Hex(access) +
+               ResultText(result, " " + KeyText(created));
+    });
+    return result;
+}
+
+Result Registry::Query(Key key, std::string_view valueName, std::uint32_t& type, std::uint8_t* data,
+                       std::uint32_t& size) {
+    auto fault = Fault("RegQueryValueExA", key, valueName, "|");
+    Result result = fault ? *fault : QueryValue(key, valueName, type, data, size);
+    journal_.Note([&] {
+        std::string line = "RegQueryValueExA " + KeyText(key) + " " + Quoted(valueName) + " -> " +
+                           std::to_string(result);
+        if (result == Success || result == MoreData) {
+            line += " type " + std::to_string(type) + " size " + std::to_string(size);
+        }
+        if (result == Success && data) line += " data " + DataText(type, data, size);
+        return line;
+    });
+    return result;
+}
+
+Result Registry::Set(Key key, std::string_view valueName, std::uint32_t type,
+                     const std::uint8_t* data, std::uint32_t size) {
+    if (!data) size = 0;
+    auto fault = Fault("RegSetValueExA", key, valueName, "|");
+    Result result = fault ? *fault : SetValue(key, valueName, {type, {data, data + size}});
+    journal_.Note([&] {
+        return "RegSetValueExA " + KeyText(key) + " " + Quoted(valueName) + " type " +
+               std::to_string(type) + " size " + std::to_string(size) + " data " +
+               DataText(type, data, size) + ResultText(result, "");
+    });
+    return result;
+}
+
+Result Registry::RemoveValue(Key key, std::string_view valueName) {
+    auto fault = Fault("RegDeleteValueA", key, valueName, "|");
+    Result result = fault ? *fault : EraseValue(key, valueName);
+    journal_.Note([&] {
+        return "RegDeleteValueA " + KeyText(key) + " " + Quoted(valueName) + ResultText(result, "");
+    });
+    return result;
+}
+
+Result Registry::RemoveKey(Key parent, std::string_view path) {
+    auto fault = Fault("RegDeleteKeyA", parent, path, "\\");
+    Result result = fault ? *fault : DeleteKey(parent, path);
+    journal_.Note([&] {
+        return "RegDeleteKeyA " + KeyText(parent) + " " + Quoted(path) + ResultText(result, "");
+    });
+    return result;
+}
+
+Result Registry::Close(Key key) {
+    auto fault = Fault("RegCloseKey", key, "", "");
+    Result result = Success;
+    if (fault) {
+        result = *fault;
+    } else if (!IsRoot(key) && handles_.erase(key) == 0) {
+        result = InvalidHandle;
+    }
+    journal_.Note([&] { return "RegCloseKey " + KeyText(key) + ResultText(result, ""); });
+    return result;
+}
+
+Result Registry::OpenKey(Key parent, std::string_view path, std::uint32_t access, Key& opened) {
+    Handle handle;
+    if (Result result = Look(parent, handle); result != Success) return result;
+    AnsiName name(path);
+    if (BeginsWithBackslash(name.Bytes())) return BadPathName;
+    NodeRef node = FindBelow(handle.node, name.Bytes());
+    if (!node) return FileNotFound;
+    if ((Denied(node->path) & access) != 0) return AccessDenied;
+    opened = NewHandle(std::move(node), access);
+    return Success;
+}
+
+Result Registry::CreateKey(Key parent, std::string_view path, std::uint32_t access, Key& created) {
+    Handle handle;
+    if (Result result = Look(parent, handle); result != Success) return result;
+    AnsiName name(path);
+    if (BeginsWithBackslash(name.Bytes())) return BadPathName;
+    NodeRef node;
+    if (Result result = MakePath(handle, name.Bytes(), access, node); result != Success) {
+        return result;
+    }
+    if ((Denied(node->path) & access) != 0) return AccessDenied;
+    created = NewHandle(std::move(node), access);
+    return Success;
+}
+
+// Levels that were made before one fails stay, as on Windows.
+Result Registry::MakePath(const Handle& parent, std::string_view path, std::uint32_t access,
+                          NodeRef& made) {
+    NodeRef node = parent.node;
+    std::uint32_t rights = parent.access;
+    for (auto name = TakeName(path); !name.empty(); name = TakeName(path)) {
+        auto child = node->children.find(name);
+        if (child != node->children.end()) {
+            node = child->second;
+            rights = ~Denied(node->path);
+            continue;
+        }
+        if (name.size() > LongestKeyName || node->depth >= DeepestKey) return InvalidParameter;
+        if ((rights & MayCreateSubKey) == 0) return AccessDenied;
+        std::uint32_t denied = Denied(node->path + "\\" + std::string(name));
+        if ((denied & access) != 0) return AccessDenied;
+        node = node->AddChild(name);
+        rights = ~denied;
+    }
+    made = std::move(node);
+    return Success;
+}
+
+Result Registry::QueryValue(Key key, std::string_view valueName, std::uint32_t& type,
+                            std::uint8_t* data, std::uint32_t& size) const {
+    Handle handle;
+    if (Result result = Use(key, MayQueryValue, handle); result != Success) return result;
+    auto found = handle.node->values.find(AnsiName(valueName).Bytes());
+    if (found == handle.node->values.end()) return FileNotFound;
+    const StoredValue& value = found->second;
+    const auto needed = static_cast<std::uint32_t>(value.bytes.size());
+    const std::uint32_t room = size;
+    type = value.type;
+    size = needed;
+    if (!data) return Success;
+    if (room < needed) {
+        // What the buffer then holds is nobody's to rely on.
+        std::memset(data, 0xCC, room);
+        return MoreData;
+    }
+    if (needed == 0) return Success;
+    std::memcpy(data, value.bytes.data(), needed);
+    // A text stored without its end gets one where there is room, and its size does not tell.
+    if (IsTextType(type) && room > needed && data[needed - 1] != 0) data[needed] = 0;
+    return Success;
+}
+
+Result Registry::SetValue(Key key, std::string_view valueName, StoredValue value) {
+    Handle handle;
+    if (Result result = Use(key, MaySetValue, handle); result != Success) return result;
+    AnsiName name(valueName);
+    if (name.Bytes().size() > LongestValueName) return InvalidParameter;
+    auto& values = handle.node->values;
+    auto found = values.find(name.Bytes());
+    if (found == values.end()) {
+        values.emplace(name.Bytes(), std::move(value));
+    } else {
+        found->second = std::move(value);
+    }
+    return Success;
+}
+
+Result Registry::EraseValue(Key key, std::string_view valueName) {
+    Handle handle;
+    if (Result result = Use(key, MaySetValue, handle); result != Success) return result;
+    auto found = handle.node->values.find(AnsiName(valueName).Bytes());
+    if (found == handle.node->values.end()) return FileNotFound;
+    handle.node->values.erase(found);
+    return Success;
+}
+
+Result Registry::DeleteKey(Key parent, std::string_view path) {
+    Handle handle;
+    if (Result result = Look(parent, handle); result != Success) return result;
+    AnsiName name(path);
+    if (BeginsWithBackslash(name.Bytes())) return BadPathName;
+    NodeRef node = FindBelow(handle.node, name.Bytes());
+    if (!node) return FileNotFound;
+    if (node->depth == 0 || !node->children.empty() || Denied(node->path) != 0) {
+        return AccessDenied;
+    }
+    node->Remove();
+    return Success;
+}
+
+Result Registry::Look(Key key, Handle& found) const {
+    if (IsRoot(key)) {
+        const NodeRef& root = Root(key);
+        found = {root, ~Denied(root->path)};
+        return Success;
+    }
+    auto handle = handles_.find(key);
+    if (handle == handles_.end()) return InvalidHandle;
+    found = handle->second;
+    return found.node->deleted ? KeyDeleted : Success;
+}
+
+Result Registry::Use(Key key, std::uint32_t right, Handle& found) const {
+    if (Result result = Look(key, found); result != Success) return result;
+    return (found.access & right) == right ? Success : AccessDenied;
+}
+
+std::optional<Result> Registry::Fault(std::string_view call, Key key, std::string_view path,
+                                      const char* separator) const {
+    if (faults_.Idle()) return std::nullopt;
+    Handle handle;
+    std::string subject = Look(key, handle) == InvalidHandle ? "" : handle.node->path;
+    if (!path.empty()) subject = FromWesternBytes(subject) + separator + std::string(path);
+    return faults_.Check(call, subject);
+}
+
+Registry::Key Registry::NewHandle(NodeRef node, std::uint32_t access) {
+    handles_.emplace(nextHandle_, Handle{std::move(node), access});
+    return nextHandle_++;
+}
+
+std::uint32_t Registry::Denied(std::string_view fullPath) const {
+    std::uint32_t rights = 0;
+    for (const Denial& denial : denials_) {
+        std::string_view start = fullPath.substr(0, denial.path.size());
+        bool below = fullPath.size() == start.size() || fullPath[start.size()] == '\\';
+        if (below && SameName(start, denial.path)) rights |= denial.rights;
+    }
+    return rights;
+}
+
+}  // namespace platform::simulated
