@@ -1,0 +1,110 @@
+#include <doctest/doctest.h>
+
+#include "controls/watchedbutton.h"
+
+using controls::DrawState;
+using controls_test::WatchedButton;
+using Events = std::vector<std::string>;
+
+namespace {
+
+constexpr int SpaceKey = 32;
+constexpr int LeftKey = 37;
+constexpr int UpKey = 38;
+constexpr int RightKey = 39;
+constexpr int DownKey = 40;
+
+}  // namespace
+
+TEST_CASE("the space key presses when it goes down and clicks when it comes up") {
+    WatchedButton test;
+    test.button.KeyDown(SpaceKey);
+    CHECK(test.button.State() == DrawState::Pressed);
+    CHECK(test.events.empty());
+    test.button.KeyUp(SpaceKey);
+    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.events == Events{"Click"});
+}
+
+TEST_CASE("the space key under the mouse leaves the hovered picture") {
+    WatchedButton test;
+    test.MouseEnters();
+    test.button.KeyDown(SpaceKey);
+    test.button.KeyUp(SpaceKey);
+    CHECK(test.button.State() == DrawState::Hovered);
+}
+
+TEST_CASE("a space key that repeats is drawn once and clicks once") {
+    WatchedButton test;
+    test.button.KeyDown(SpaceKey);
+    const int repaints = test.view.repaints;
+    test.button.KeyDown(SpaceKey);
+    test.button.KeyDown(SpaceKey);
+    CHECK(test.view.repaints == repaints);
+    test.button.KeyUp(SpaceKey);
+    CHECK(test.events == Events{"Click"});
+}
+
+TEST_CASE("the arrow keys walk through the form's controls and do nothing else") {
+    WatchedButton test;
+    test.button.SetCheckBoxBehaviour(true);
+    for (const int key : {LeftKey, UpKey, RightKey, DownKey}) {
+        test.button.KeyDown(key);
+        test.button.KeyUp(key);
+    }
+    CHECK(test.view.focusMoves == Events{"previous", "previous", "next", "next"});
+    CHECK_FALSE(test.button.Value());
+    CHECK(test.events.empty());
+    CHECK(test.button.State() == DrawState::Normal);
+}
+
+TEST_CASE("an arrow key on a button without a window is passed over") {
+    WatchedButton test;
+    test.button.SetView(nullptr);
+    CHECK_NOTHROW(test.button.KeyDown(RightKey));
+}
+
+TEST_CASE("the space key flips Value with CheckBoxBehaviour only") {
+    WatchedButton test;
+    test.button.KeyUp(SpaceKey);
+    CHECK_FALSE(test.button.Value());
+    test.button.SetCheckBoxBehaviour(true);
+    test.button.KeyUp(SpaceKey);
+    CHECK(test.button.Value());
+}
+
+TEST_CASE("any other key does nothing") {
+    WatchedButton test;
+    for (const int key : {9, 13, 27, 31, 33, 36, 41, 65}) {
+        test.button.KeyDown(key);
+        test.button.KeyUp(key);
+    }
+    CHECK(test.events.empty());
+    CHECK(test.view.focusMoves.empty());
+    CHECK(test.button.State() == DrawState::Normal);
+}
+
+TEST_CASE("getting and losing the focus each draw the button anew") {
+    WatchedButton test;
+    test.button.FocusChanged(true);
+    CHECK(test.view.repaints == 1);
+    test.button.FocusChanged(false);
+    CHECK(test.view.repaints == 2);
+}
+
+TEST_CASE("a button held down by the space key comes up when it loses the focus") {
+    WatchedButton test;
+    test.button.FocusChanged(true);
+    test.button.KeyDown(SpaceKey);
+    test.button.FocusChanged(false);
+    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.events.empty());
+}
+
+TEST_CASE("losing the focus leaves the hovered picture") {
+    WatchedButton test;
+    test.button.FocusChanged(true);
+    test.MouseEnters();
+    test.button.FocusChanged(false);
+    CHECK(test.button.State() == DrawState::Hovered);
+}
