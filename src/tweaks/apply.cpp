@@ -1,0 +1,100 @@
+#include "tweaks/apply.h"
+
+#include <string>
+
+#include "controls/forminform.h"
+#include "controls/frmpassword.h"
+#include "platform/messages.h"
+#include "platform/session.h"
+#include "runtime/failure.h"
+#include "toolkit/controls.h"
+#include "utilities/shellwait.h"
+#include "utilities/systemdirectorypaths.h"
+
+namespace tweaks {
+namespace {
+
+namespace message = platform::message;
+using runtime::Skip;
+
+constexpr int AskYesNo = message::YesNo + message::Question;
+
+// A box that cannot be shown answers nothing, which is neither Yes nor No.
+int Ask(const platform::Machine& machine, const char* text, const char* title) {
+    int answer = 0;
+    Skip([&] { answer = machine.messages.Show(text, AskYesNo, title); });
+    return answer;
+}
+
+}  // namespace
+
+Apply::Apply(toolkit::Form& mainForm, controls::frmPassword& password,
+             const platform::Machine& machine, Parts parts)
+    : mainForm_(mainForm), password_(password), machine_(machine), parts_(std::move(parts)) {}
+
+void Apply::Run() {
+    if (Ask(machine_, "Sollen die Einstellungen übernommen werden?", "Einstellungen speichern") !=
+        message::Yes) {
+        return;
+    }
+    if (!PasswordConfirmed()) return;
+    OfferRestorePoint();
+    Skip([&] { parts_.saveProgramOptions(); });
+    Skip([&] { parts_.writeRegistry(); });
+    OfferRestart();
+}
+
+// Cancelling the dialog empties its box and so ends in the same message as a wrong password; there
+// is no separate way out. Letter case counts.
+bool Apply::PasswordConfirmed() {
+    const std::string& expected = mainForm_.Find<toolkit::TextBox>("txtALPassword").Text();
+    if (mainForm_.Find<toolkit::CheckBox>("chkAutoLogin").Value() != 1 || expected.empty()) {
+        return true;
+    }
+    auto& typed = password_.Find<toolkit::TextBox>("txtPasswort");
+    Skip([&] { typed.SetText(""); });
+    Skip([&] {
+        password_.Load();
+        controls::fFormInFormZentrieren(password_, mainForm_, machine_.forms.WorkArea());
+    });
+    Skip([&] { password_.ShowModal(); });
+    if (typed.Text() == expected) return true;
+    Skip([&] {
+        machine_.messages.Show(
+            "Das Passwort ist falsch.\r\nBitte Passworteingabe beim Auto-Login überprüfen!",
+            message::Exclamation, "Passwort falsch");
+    });
+    return false;
+}
+
+// The system's own wizard does the work; whether a point was really set is not known. Neither
+// answer changes what follows.
+void Apply::OfferRestorePoint() {
+    const int answer = Ask(machine_,
+                           "Sollen ein Systemwiederherstellungspunkt gesetzt werden?\r\n\r\n"
+                           "(Sie können damit das System wieder herstellen wenn es nach den\r\n"
+                           "Änderungen nicht mehr Ordnungsgemäß funktioniert!)",
+                           "Systemwiederherstellungspunkt");
+    if (answer != message::Yes) return;
+    Skip([&] {
+        const utilities::clsGetSystemDirectoryPaths paths(machine_.facts);
+        utilities::ShellWait(machine_.processes, paths.SystemDirectory() + "\\restore\\rstrui.exe",
+                             true);
+    });
+}
+
+// Asked after every pass, whatever the pass did: it gives nothing back. The restart never forces,
+// and the option boxes for restarts have no say here.
+void Apply::OfferRestart() {
+    const int answer =
+        Ask(machine_,
+            "Einstellungen erfolgreich übernommen!\r\n\r\n"
+            "Zum initialisieren einiger Einstellungen ist ein Neustart erforderlich.\r\n\r\n"
+            "Soll der Neustart von Windows nun durchgeführt werden?",
+            "Einstellungen gespeichert");
+    if (answer != message::Yes) return;
+    Skip([&] { machine_.session.ExitSession(platform::Session::Restart, 0); });
+    Skip([&] { mainForm_.Unload(); });
+}
+
+}  // namespace tweaks

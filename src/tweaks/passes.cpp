@@ -1,0 +1,29 @@
+#include "tweaks/passes.h"
+
+#include "platform/locale.h"
+#include "tweaks/catalogue.h"
+#include "tweaks/order.h"
+
+namespace tweaks {
+
+Passes::Passes(toolkit::Form& form, const platform::Machine& machine)
+    : form_(form), machine_(machine), registry_(machine.registry, machine.locale) {}
+
+void Passes::Read() {
+    Walk(ReadOrder(), ReadOption);
+}
+
+void Passes::Write() {
+    Walk(WriteOrder(), WriteOption);
+}
+
+void Passes::Walk(std::span<const std::string_view> order, OptionStep step) {
+    form_.SetPointer(toolkit::Hourglass);
+    const PassContext pass{form_, registry_, machine_.locale.Signs()};
+    for (std::string_view name : order) {
+        if (const Option* option = FindOption(name)) step(pass, *option);
+    }
+    form_.SetPointer(toolkit::DefaultPointer);
+}
+
+}  // namespace tweaks

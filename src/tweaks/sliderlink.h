@@ -1,0 +1,21 @@
+#pragma once
+
+namespace platform {
+class Locale;
+}
+namespace toolkit {
+class Slider;
+class TextBox;
+}  // namespace toolkit
+
+namespace tweaks {
+
+// Lets a slider and the box with its number follow each other from now on. A text that is no number
+// leaves the slider where it is; a number beyond the slider's range takes it to the nearer end and
+// stays in the box. A number that does not fit into 32 bits raises Failure Overflow to whoever set
+// the text, which is then in the box already: there is no guard on purpose, and a read pass that
+// meets such a number ends there.
+void LinkSliderWithBox(toolkit::Slider& slider, toolkit::TextBox& box,
+                       const platform::Locale& locale);
+
+}  // namespace tweaks

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "runtime/number.h"
+#include "tweaks/option.h"
+
+namespace toolkit {
+class Form;
+}
+
+namespace tweaks {
+
+// What the steps of a pass work on.
+struct PassContext {
+    toolkit::Form& form;
+    registry::Registry& registry;
+    // The locale's, by which a text is a number or none.
+    runtime::NumberSigns signs;
+};
+
+// Brings the value, or values, of one option into its control. A failure that the control's own
+// event raises passes out.
+void ReadOption(const PassContext& pass, const Option& option);
+
+// The ordinary read alone, for a read step that needs it beside its own doing.
+void ReadByRow(const PassContext& pass, const Option& option);
+
+// Carries the control's state into the registry, whether or not it changed.
+void WriteOption(const PassContext& pass, const Option& option);
+
+}  // namespace tweaks

@@ -1,0 +1,178 @@
+#include "tweaks/systempage.h"
+
+#include <string>
+
+#include "controls/chameleonbutton.h"
+#include "controls/pageheading.h"
+#include "toolkit/controls.h"
+#include "toolkit/form.h"
+#include "tweaks/sliderlink.h"
+
+namespace tweaks {
+namespace {
+
+using toolkit::Box;
+using toolkit::Form;
+using toolkit::Leaf;
+using toolkit::TextBoxStyle;
+
+struct Named {
+    const char* name;
+    const char* caption;
+};
+
+Box CheckBoxOn(Form& form, Named box) {
+    return Leaf(form.Add<toolkit::CheckBox>(box.name, box.caption));
+}
+
+Box LabelOn(Form& form, Named label) {
+    return Leaf(form.Add<toolkit::Label>(label.name, label.caption));
+}
+
+Box TextBoxOn(Form& form, const char* name, TextBoxStyle style = {}) {
+    return Leaf(form.Add<toolkit::TextBox>(name, style));
+}
+
+// A group of check boxes, one below the other.
+Box CheckBoxGroup(Form& form, Named frame, std::initializer_list<Named> boxes) {
+    auto& group = form.Add<toolkit::Frame>(frame.name, frame.caption);
+    std::vector<Box> rows;
+    for (const Named& box : boxes) rows.push_back(CheckBoxOn(form, box));
+    return InFrame(group, Gap(toolkit::Column(std::move(rows)), 1));
+}
+
+Box MemoryGroup(Form& form) {
+    return CheckBoxGroup(form, {"fraMemory", "System Boosts"},
+                         {
+                             {"chkmemorymanagement", "Memory Paging"},
+                             {"chkLargeSystemCache", "Large System Cache"},
+                             {"chkBootOptimizeFunction", "Boot Optimize Function (Defrag)"},
+                             {"chkSecondLevelDataCache", "Second Level Data Cache > 256 KB"},
+                             {"chkBoostLoading", "Boot Data Prefetch"},
+                             {"chkCDFSTune", "CDFS Performance verbessern"},
+                             {"chkFastServices", "Serverdienste beschleunigen"},
+                             {"chkUltraDMA66", "Ultra-DMA/66 aktivieren"},
+                             {"chkMFTTuning", "Master File Table vergrößern (12,5% > 25%)"},
+                         });
+}
+
+Box FixesGroup(Form& form) {
+    return CheckBoxGroup(
+        form, {"fraSystemFixes", "System Fixes"},
+        {
+            {"chkEnableAGP4x", "AGP 4x Modus bei NVIDIA Grafikkarten aktiviert"},
+            {"chkFixAthlonPCIAGP", "Problem mit Athlon Prozessoren und AGP Karten beheben"},
+        });
+}
+
+// The slider leads; the box shows its value from the start.
+struct LinkedPair {
+    Box slider;
+    Box box;
+};
+
+LinkedPair SliderWithBox(Form& form, const char* sliderName, toolkit::SliderRange range,
+                         const char* boxName, const platform::Locale& locale) {
+    auto& slider = form.Add<toolkit::Slider>(sliderName, range, range.maximum);
+    auto& box = form.Add<toolkit::TextBox>(boxName, TextBoxStyle{.columns = 5});
+    LinkSliderWithBox(slider, box, locale);
+    return {toolkit::Stretch(Leaf(slider)), KeepSize(Leaf(box))};
+}
+
+Box TaskbarGroup(Form& form, const platform::Locale& locale) {
+    auto& group = form.Add<toolkit::Frame>("fraTaskBar", "Windows Taskbar Transparenz");
+    auto pair = SliderWithBox(
+        form, "Level", {.minimum = 55, .maximum = 255, .smallStep = 3, .largeStep = 51, .tick = 25},
+        "txtLevelValue", locale);
+    form.Find<toolkit::TextBox>("txtLevelValue").SetText("255");
+    Box icons = CheckBoxOn(form, {"chkIcons", "Transparente Icons"});
+    return InFrame(group, toolkit::Row({pair.slider, pair.box, icons}));
+}
+
+Box StartMenuGroup(Form& form, const platform::Locale& locale) {
+    auto& group = form.Add<toolkit::Frame>("Frame7", "Anzeigetempo Startmenü  (Default = 400)");
+    auto pair =
+        SliderWithBox(form, "sldStartmenu",
+                      {.minimum = 1, .maximum = 400, .smallStep = 1, .largeStep = 5, .tick = 5},
+                      "txtStartmenu", locale);
+    return InFrame(group, toolkit::Row({pair.slider, pair.box}));
+}
+
+Box AutoLoginGroup(Form& form) {
+    auto& group = form.Add<toolkit::Frame>("fraAutoLogin", " ");
+    Box enable = CheckBoxOn(form, {"chkAutoLogin", "Auto-Login aktivieren"});
+    std::vector<Box> cells;
+    cells.push_back(LabelOn(form, {"lblALName", "Username"}));
+    cells.push_back(Stretch(TextBoxOn(form, "txtALUserName")));
+    cells.push_back(LabelOn(form, {"lblALPassword", "Passwort"}));
+    cells.push_back(Stretch(TextBoxOn(form, "txtALPassword", {.password = true})));
+    cells.push_back(LabelOn(form, {"lblALDomain", "Domäne"}));
+    cells.push_back(Stretch(TextBoxOn(form, "txtALDomain")));
+    return InFrame(group,
+                   Gap(toolkit::Column({enable, Gap(toolkit::Grid(2, std::move(cells)), 2)}), 2));
+}
+
+Box SystemFactsGroup(Form& form) {
+    auto& group = form.Add<toolkit::Frame>("fraOSVersion", "OS Information");
+    std::vector<Box> cells;
+    const auto add = [&](Named label, const char* box) {
+        cells.push_back(LabelOn(form, label));
+        cells.push_back(Stretch(TextBoxOn(form, box)));
+    };
+    add({"lblOSName", "OS Name"}, "txtOSVersion");
+    add({"Label3", "ProductID"}, "txtProductId");
+    add({"Label4", "Reg. User"}, "txtUserName");
+    add({"Label5", "Reg. Firma"}, "txtCompanyName");
+
+    cells.push_back(LabelOn(form, {"lblOSVersion", "Version"}));
+    std::vector<Box> version;
+    version.push_back(
+        KeepSize(TextBoxOn(form, "txtWindowsVersion", {.maxLength = 3, .columns = 4})));
+    version.push_back(LabelOn(form, {"lblBuild", "build"}));
+    version.push_back(KeepSize(TextBoxOn(form, "txtOSBuild", {.maxLength = 4, .columns = 5})));
+    version.push_back(LabelOn(form, {"lblSPLabel", "SP"}));
+    version.push_back(Stretch(LabelOn(form, {"lblSP", "n/A"})));
+    cells.push_back(Gap(toolkit::Row(std::move(version)), 8));
+    return InFrame(group, Gap(toolkit::Grid(2, std::move(cells)), 2));
+}
+
+// Their tools are not there yet.
+Box ButtonsOfPage(Form& form, platform::Clock& clock) {
+    const auto button = [&](const char* name, const char* caption) {
+        auto& made = form.Add<controls::chameleonButton>(name, caption, clock);
+        made.SetEnabled(false);
+        return Leaf(made);
+    };
+    std::vector<Box> row;
+    row.push_back(toolkit::Filler());
+    row.push_back(button("cmdFreeMemory", "Speicher aufräumen"));
+    row.push_back(button("cmdNormal", "Standard"));
+    row.push_back(button("cmdOptimal", "Empfohlen"));
+    return Gap(toolkit::Row(std::move(row)), 8);
+}
+
+}  // namespace
+
+Box AddSystemPage(Form& form, platform::Clock& clock, const platform::Locale& locale) {
+    Box heading = controls::PageHeading(form, "lblTuning", "Windows Tuning #1");
+
+    std::vector<Box> left;
+    left.push_back(MemoryGroup(form));
+    left.push_back(
+        CheckBoxOn(form, {"chkLastAccessTimestamp", "Last Access Timestamp aktiv (nur NTFS)"}));
+    left.push_back(FixesGroup(form));
+    left.push_back(TaskbarGroup(form, locale));
+
+    std::vector<Box> right;
+    right.push_back(AutoLoginGroup(form));
+    right.push_back(StartMenuGroup(form, locale));
+    right.push_back(SystemFactsGroup(form));
+    right.push_back(toolkit::Filler());
+    right.push_back(ButtonsOfPage(form, clock));
+
+    Box columns = toolkit::Row({Gap(toolkit::Column(std::move(left)), 4),
+                                toolkit::Stretch(Gap(toolkit::Column(std::move(right)), 4))});
+    return toolkit::Column({heading, toolkit::Stretch(Gap(columns, 8))});
+}
+
+}  // namespace tweaks

@@ -1,0 +1,126 @@
+#include "tweaks/sliderlink.h"
+
+#include <doctest/doctest.h>
+
+#include "runtime/failure.h"
+#include "tweaks/pagefixture.h"
+
+using namespace tweak_tests;
+
+namespace {
+
+struct LinkedControls {
+    platform::simulated::Machine machine;
+    toolkit::Form form{machine.forms, "frm", "", {}};
+    toolkit::Slider& slider = form.Add<toolkit::Slider>(
+        "sld",
+        toolkit::SliderRange{
+            .minimum = 1, .maximum = 400, .smallStep = 1, .largeStep = 5, .tick = 5},
+        400);
+    toolkit::TextBox& box = form.Add<toolkit::TextBox>("txt");
+
+    LinkedControls() { tweaks::LinkSliderWithBox(slider, box, machine.locale); }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(LinkedControls, "moving the slider puts its value into the box") {
+    slider.SetValue(17);
+    CHECK(box.Text() == "17");
+    slider.SetValue(400);
+    CHECK(box.Text() == "400");
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "a number in the box moves the slider") {
+    box.SetText("120");
+    CHECK(slider.Value() == 120);
+    CHECK(box.Text() == "120");
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "a text that is no number leaves the slider where it is") {
+    slider.SetValue(120);
+    for (const char* text : {"", "abc", "12x", "1 2"}) {
+        CAPTURE(text);
+        box.SetText(text);
+        CHECK(slider.Value() == 120);
+        CHECK(box.Text() == text);
+    }
+}
+
+TEST_CASE_FIXTURE(LinkedControls,
+                  "a number is converted to a whole one before it moves the slider") {
+    box.SetText("12,5");
+    CHECK(slider.Value() == 12);
+    CHECK(box.Text() == "12");
+    box.SetText("13,5");
+    CHECK(slider.Value() == 14);
+    box.SetText("1e2");
+    CHECK(slider.Value() == 100);
+    CHECK(box.Text() == "100");
+    box.SetText("&H10");
+    CHECK(slider.Value() == 16);
+}
+
+TEST_CASE_FIXTURE(LinkedControls,
+                  "a number above the range takes the slider to its end and stays") {
+    slider.SetValue(120);
+    box.SetText("401");
+    CHECK(slider.Value() == 400);
+    CHECK(box.Text() == "401");
+    box.SetText("2147483647");
+    CHECK(slider.Value() == 400);
+    CHECK(box.Text() == "2147483647");
+}
+
+TEST_CASE_FIXTURE(LinkedControls,
+                  "a number below the range takes the slider to its end and stays") {
+    box.SetText("0");
+    CHECK(slider.Value() == 1);
+    CHECK(box.Text() == "0");
+    slider.SetValue(7);
+    CHECK(box.Text() == "7");
+    box.SetText("-2147483648");
+    CHECK(slider.Value() == 1);
+    CHECK(box.Text() == "-2147483648");
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "the slider takes the box back from a number beyond its range") {
+    box.SetText("500");
+    slider.SetValue(399);
+    CHECK(box.Text() == "399");
+    slider.SetValue(400);
+    CHECK(box.Text() == "400");
+    box.SetText("500");
+    slider.SetValue(1);
+    CHECK(box.Text() == "1");
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "a number that does not fit fails to whoever set the text") {
+    slider.SetValue(120);
+    for (const char* text : {"2147483648", "-2147483649", "1e300"}) {
+        CAPTURE(text);
+        try {
+            box.SetText(text);
+            FAIL("nothing was raised");
+        } catch (const runtime::Failure& failure) {
+            CHECK(failure.number == runtime::Overflow);
+        }
+        CHECK(box.Text() == text);
+        CHECK(slider.Value() == 120);
+    }
+    slider.SetValue(121);
+    CHECK(box.Text() == "121");
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "the two stop each other") {
+    int answers = 0;
+    const auto follow = slider.onChange;
+    slider.onChange = [&] {
+        ++answers;
+        follow();
+    };
+    box.SetText("55");
+    slider.SetValue(55);
+    box.SetText("55");
+    CHECK(answers == 1);
+}
