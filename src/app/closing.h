@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/machine.h"
+
+namespace toolkit {
+class Form;
+}
+
+namespace app {
+
+// Everything that happens when the main window is asked to close, whoever asks: the window's facts
+// and the program's options are stored, then the process ends. It never refuses. Does not return
+// unless a step fails (runtime::Failure), and then the rest of the steps stays undone.
+void CloseProgram(toolkit::Form& form, const platform::Machine& machine);
+
+}  // namespace app

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "app/errorlog.h"
+#include "controls/frmpassword.h"
+#include "platform/machine.h"
+#include "toolkit/form.h"
+#include "tweaks/apply.h"
+#include "tweaks/passes.h"
+
+namespace app {
+
+// The whole program: one window with its pages. It is the composition of the pages and tools,
+// which live in their own rooms; here stand only the window's own events.
+class frmMain final : public toolkit::Form {
+  public:
+    // Twips; the normal window always has this size.
+    static constexpr float FixedWidth = 9990;
+    static constexpr float FixedHeight = 7920;
+
+    explicit frmMain(const platform::Machine& machine);
+
+    // Brings the system's state into the option controls, or carries it back. A failure is
+    // reported under the procedure's own name and leaves the pass where it stands.
+    void ReadRegistry();
+    void WriteRegistry();
+
+    // Builds strVersion and puts it into the caption.
+    void BuildVersion();
+    const std::string& strVersion() const { return version_; }
+
+  protected:
+    void OnLoad() override;
+    void OnResize() override;
+    bool OnKeyDown(int virtualKey) override;
+    void OnQueryUnload() override;
+    void OnUnload() override;
+
+  private:
+    void Connect();
+    void ComeBackFromTray();
+
+    platform::Machine machine_;
+    std::string version_;
+    ErrorLog log_;
+    tweaks::Passes passes_;
+    controls::frmPassword password_;
+    tweaks::Apply apply_;
+};
+
+}  // namespace app

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/machine.h"
+#include "toolkit/layout.h"
+
+namespace app {
+
+class frmMain;
+
+// Makes the tab control with its eight pages; a page's controls come from the room of their tool.
+toolkit::Box AddPages(frmMain& form, const platform::Machine& machine);
+
+// Makes the row of buttons below the pages. A button whose tool is not there yet is disabled.
+toolkit::Box AddWindowButtons(frmMain& form, const platform::Machine& machine);
+
+}  // namespace app

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/frmmain.h"
+#include "controls/chameleonbutton.h"
+#include "platform/simulated/machine.h"
+#include "runtime/failure.h"
+#include "toolkit/controls.h"
+
+namespace app_test {
+
+inline constexpr char MemoryKey[] =
+    "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management";
+inline constexpr char SystemKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
+inline constexpr char LogPath[] = "C:\\Programme\\Quillmore\\Quillmore.log";
+
+// The whole program on a simulated machine whose user has accepted the warning.
+struct Program {
+    platform::simulated::Machine machine;
+    std::unique_ptr<app::frmMain> form;
+
+    Program() { machine.settings.Put("Options", "Accepted", "Yes"); }
+
+    // Starts the program as main does; false when it ended on the way.
+    bool Start() {
+        form = std::make_unique<app::frmMain>(machine.services);
+        try {
+            form->Load();
+            form->Show();
+        } catch (const platform::simulated::ProgramEnded&) {
+        }
+        return !machine.program.ended;
+    }
+
+    // Runs what may end the program; true when it did.
+    template <typename Action>
+    bool Ends(Action action) {
+        try {
+            action();
+        } catch (const platform::simulated::ProgramEnded&) {
+        }
+        return machine.program.ended;
+    }
+
+    bool Close() {
+        return Ends([&] { form->Unload(); });
+    }
+
+    toolkit::CheckBox& Check(const char* name) { return form->Find<toolkit::CheckBox>(name); }
+    toolkit::TextBox& Text(const char* name) { return form->Find<toolkit::TextBox>(name); }
+    void Press(const char* name) { form->Find<controls::chameleonButton>(name).Press(); }
+
+    std::string Stored(const char* key) const {
+        return machine.settings.Stored("Options", key).value_or("absent");
+    }
+};
+
+}  // namespace app_test

@@ -1,0 +1,52 @@
+#include <doctest/doctest.h>
+
+#include "app/program.h"
+
+using namespace app_test;
+using toolkit::WindowState;
+
+TEST_CASE("the normal window snaps back to 9990 by 7920 twips") {
+    Program program;
+    REQUIRE(program.Start());
+    program.form->WindowMoved(WindowState::Normal, {50, 60, 12000, 9000});
+    CHECK(program.form->Place() == toolkit::Bounds{50, 60, 9990, 7920});
+}
+
+TEST_CASE("a maximised window is not touched") {
+    Program program;
+    REQUIRE(program.Start());
+    program.form->WindowMoved(WindowState::Maximised, {0, 0, 15360, 11100});
+    CHECK(program.form->Place().width == 15360);
+}
+
+TEST_CASE("minimising with the tray option hides the window and shows the tray icon") {
+    Program program;
+    REQUIRE(program.Start());
+    program.Check("chkTrayIcon").SetValue(1);
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    CHECK_FALSE(program.form->Visible());
+    CHECK_FALSE(program.form->InTaskbar());
+    CHECK(program.machine.tray.shown);
+    CHECK(program.machine.tray.hasIcon);
+}
+
+TEST_CASE("minimising without the tray option keeps the taskbar entry") {
+    Program program;
+    REQUIRE(program.Start());
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    CHECK(program.form->Visible());
+    CHECK(program.form->InTaskbar());
+    CHECK_FALSE(program.machine.tray.shown);
+}
+
+TEST_CASE("the tray icon brings the window back to its normal state and hides itself") {
+    Program program;
+    REQUIRE(program.Start());
+    program.Check("chkTrayIcon").SetValue(1);
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    program.machine.tray.onRestore();
+    CHECK(program.form->State() == WindowState::Normal);
+    CHECK(program.form->Visible());
+    CHECK_FALSE(program.machine.tray.shown);
+    CHECK(program.form->Place().width == 9990);
+}
