@@ -86,8 +86,10 @@ void frmMain::OnQueryUnload() {
     log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_); });
 }
 
+// A hidden dialog must not keep the process alive when closing could not end it.
 void frmMain::OnUnload() {
     machine_.tray.SetShown(false);
+    password_.Unload();
 }
 
 void frmMain::Connect() {

@@ -82,6 +82,7 @@ void chameleonButton::MouseMove(MouseButton held) {
 void chameleonButton::MouseDown(MouseButton button) {
     leftPress_ = button == MouseButton::Left;
     if (button == MouseButton::Right) return;
+    CaptureMouse();
     Redraw(DrawState::Pressed);
 }
 
@@ -95,10 +96,9 @@ void chameleonButton::MouseUp(MouseButton button) {
     if (clicked) Click();
 }
 
-// The capture lets the release that follows reach the button wherever the mouse is by then.
 void chameleonButton::DoubleClick(MouseButton button) {
     if (button != MouseButton::Left) return;
-    if (View()) View()->CaptureMouse();
+    CaptureMouse();
     Raise(onDblClick);
 }
 
@@ -151,6 +151,12 @@ void chameleonButton::OverTimerTick() {
     StopWatching();
     Redraw(DrawState::Normal);
     Raise(onMouseOut);
+}
+
+// Lets the release that follows reach the button wherever the mouse is by then. Whether the mouse
+// is over the button is for the timer to watch, with or without the capture.
+void chameleonButton::CaptureMouse() {
+    if (View()) View()->CaptureMouse();
 }
 
 void chameleonButton::MoveFocus(bool forward) {

@@ -57,6 +57,7 @@ class chameleonButton final : public toolkit::DrawnControl {
     void WatchPointer();
     void StopWatching();
     void OverTimerTick();
+    void CaptureMouse();
     void MoveFocus(bool forward);
     void Click();
     void Redraw(DrawState state, bool force = false);

@@ -38,7 +38,7 @@ Box CheckBoxGroup(Form& form, Named frame, std::initializer_list<Named> boxes) {
     auto& group = form.Add<toolkit::Frame>(frame.name, frame.caption);
     std::vector<Box> rows;
     for (const Named& box : boxes) rows.push_back(CheckBoxOn(form, box));
-    return InFrame(group, Gap(toolkit::Column(std::move(rows)), 1));
+    return InFrame(group, Gap(toolkit::Column(std::move(rows)), 3));
 }
 
 Box MemoryGroup(Form& form) {
@@ -130,9 +130,9 @@ Box SystemFactsGroup(Form& form) {
         KeepSize(TextBoxOn(form, "txtWindowsVersion", {.maxLength = 3, .columns = 4})));
     version.push_back(LabelOn(form, {"lblBuild", "build"}));
     version.push_back(KeepSize(TextBoxOn(form, "txtOSBuild", {.maxLength = 4, .columns = 5})));
-    version.push_back(LabelOn(form, {"lblSPLabel", "SP"}));
-    version.push_back(Stretch(LabelOn(form, {"lblSP", "n/A"})));
     cells.push_back(Gap(toolkit::Row(std::move(version)), 8));
+    cells.push_back(LabelOn(form, {"lblSPLabel", "SP"}));
+    cells.push_back(LabelOn(form, {"lblSP", "n/A"}));
     return InFrame(group, Gap(toolkit::Grid(2, std::move(cells)), 2));
 }
 
@@ -170,8 +170,8 @@ Box AddSystemPage(Form& form, platform::Clock& clock, const platform::Locale& lo
     right.push_back(toolkit::Filler());
     right.push_back(ButtonsOfPage(form, clock));
 
-    Box columns = toolkit::Row({Gap(toolkit::Column(std::move(left)), 4),
-                                toolkit::Stretch(Gap(toolkit::Column(std::move(right)), 4))});
+    Box columns = toolkit::Row({Gap(toolkit::Column(std::move(left)), 6),
+                                toolkit::Stretch(Gap(toolkit::Column(std::move(right)), 6))});
     return toolkit::Column({heading, toolkit::Stretch(Gap(columns, 8))});
 }
 

@@ -52,6 +52,7 @@ TEST_CASE("a right press during a left one takes the click away") {
     test.button.MouseDown(MouseButton::Left);
     test.button.MouseDown(MouseButton::Right);
     test.button.MouseUp(MouseButton::Right);
+    CHECK(test.button.State() == DrawState::Pressed);
     test.button.MouseUp(MouseButton::Left);
     CHECK(test.events.empty());
 }
@@ -92,13 +93,21 @@ TEST_CASE("a release outside leaves the hovered picture, and the next move outsi
     CHECK(test.button.State() == DrawState::Normal);
 }
 
-TEST_CASE("a double click is a click, a DblClick and a captured mouse") {
+TEST_CASE("a press with the left button captures the mouse, one with the right does not") {
+    HoveredButton test;
+    test.button.MouseDown(MouseButton::Right);
+    CHECK(test.view.captures == 0);
+    test.button.MouseDown(MouseButton::Left);
+    CHECK(test.view.captures == 1);
+}
+
+TEST_CASE("a double click is a click and a DblClick, and captures the mouse again") {
     HoveredButton test;
     test.button.MouseDown(MouseButton::Left);
     test.button.MouseUp(MouseButton::Left);
-    CHECK(test.view.captures == 0);
-    test.button.DoubleClick(MouseButton::Left);
     CHECK(test.view.captures == 1);
+    test.button.DoubleClick(MouseButton::Left);
+    CHECK(test.view.captures == 2);
     test.button.MouseUp(MouseButton::Left);
     CHECK(test.events == Events{"Click", "DblClick"});
 }

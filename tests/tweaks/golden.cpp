@@ -77,7 +77,9 @@ Service::Key Fact::Root() const {
     throw std::runtime_error("no such root: " + root);
 }
 
-std::vector<Fact> GoldenFacts() {
+namespace {
+
+std::vector<Fact> ReadGoldenFacts() {
     std::vector<Fact> facts;
     std::istringstream lines(FileText("tests/golden/catalogue.tsv"));
     std::string line;
@@ -88,6 +90,13 @@ std::vector<Fact> GoldenFacts() {
         facts.push_back({part[0], part[1], part[2], part[3], part[4], part[5], part[6], part[7],
                          part[8], part[9]});
     }
+    return facts;
+}
+
+}  // namespace
+
+const std::vector<Fact>& GoldenFacts() {
+    static const std::vector<Fact> facts = ReadGoldenFacts();
     return facts;
 }
 

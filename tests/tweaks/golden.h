@@ -26,7 +26,7 @@ struct Fact {
     bool IsCheckBox() const { return control.starts_with("chk"); }
 };
 
-std::vector<Fact> GoldenFacts();
+const std::vector<Fact>& GoldenFacts();
 
 // The names of the check boxes, each once, and the facts of one of them with its boxes' facts.
 std::vector<std::string> GoldenCheckBoxes();

@@ -62,7 +62,7 @@ void Clock::Advance(int milliseconds) {
         Running& timer = next->second;
         if (timer.due > end) break;
         MoveTo(timer.due);
-        timer.due = elapsed_ + timer.interval;
+        timer.due += timer.interval;
         // A tick may stop its own timer, which ends the original.
         auto tick = timer.tick;
         if (tick) tick();

@@ -19,7 +19,7 @@ class Clock final : public platform::Clock {
     void StopTimer(Timer timer) override;
 
     // Moves time on and raises the ticks that fall due, in their order. A tick may move time
-    // itself, as a handler does that opens a message box: ticks missed meanwhile come as one.
+    // itself, as a handler does that opens a message box: other ticks then come within it.
     void Advance(int milliseconds);
     int RunningTimers() const { return static_cast<int>(timers_.size()); }
 

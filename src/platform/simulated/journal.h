@@ -23,7 +23,8 @@ class Journal {
     template <typename MakeLine>
     Place Note(MakeLine&& makeLine) {
         ++calls_;
-        if (recording_) lines_.push_back(std::forward<MakeLine>(makeLine)());
+        if (!recording_) return 0;
+        lines_.push_back(std::forward<MakeLine>(makeLine)());
         return cleared_ + lines_.size();
     }
 

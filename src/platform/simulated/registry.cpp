@@ -147,35 +147,27 @@ Result Registry::CreateKey(Key parent, std::string_view path, std::uint32_t acce
     if (Result result = Look(parent, handle); result != Success) return result;
     AnsiName name(path);
     if (BeginsWithBackslash(name.Bytes())) return BadPathName;
-    NodeRef node;
-    if (Result result = MakePath(handle, name.Bytes(), access, node); result != Success) {
-        return result;
-    }
+    NodeRef node = handle.node;
+    if (Result result = MakePath(node, name.Bytes(), access); result != Success) return result;
     if ((Denied(node->path) & access) != 0) return AccessDenied;
     created = NewHandle(std::move(node), access);
     return Success;
 }
 
-// Levels that were made before one fails stay, as on Windows.
-Result Registry::MakePath(const Handle& parent, std::string_view path, std::uint32_t access,
-                          NodeRef& made) {
-    NodeRef node = parent.node;
-    std::uint32_t rights = parent.access;
+// Levels that were made before one fails stay. Whether a key may get children is asked of the key,
+// not of the handle, which Windows does here and for deletion alone.
+Result Registry::MakePath(NodeRef& node, std::string_view path, std::uint32_t access) {
     for (auto name = TakeName(path); !name.empty(); name = TakeName(path)) {
         auto child = node->children.find(name);
         if (child != node->children.end()) {
             node = child->second;
-            rights = ~Denied(node->path);
             continue;
         }
         if (name.size() > LongestKeyName || node->depth >= DeepestKey) return InvalidParameter;
-        if ((rights & MayCreateSubKey) == 0) return AccessDenied;
-        std::uint32_t denied = Denied(node->path + "\\" + std::string(name));
-        if ((denied & access) != 0) return AccessDenied;
+        if ((Denied(node->path) & MayCreateSubKey) != 0) return AccessDenied;
+        if ((Denied(node->path + "\\" + std::string(name)) & access) != 0) return AccessDenied;
         node = node->AddChild(name);
-        rights = ~denied;
     }
-    made = std::move(node);
     return Success;
 }
 

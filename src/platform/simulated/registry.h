@@ -38,7 +38,7 @@ struct RegistryNode;
 // The registry in memory. Key and value names are compared without regard to case and keep the
 // case in which they were made. Where the calls differ in detail between versions of Windows, this
 // is XP's way: a leading backslash is a bad path, a handle to a key that somebody has deleted
-// says so, rights are those that the handle was opened with.
+// says so, and values are read and written by the rights that the handle was opened with.
 class Registry final : public platform::Registry {
   public:
     Registry(Journal& journal, Faults& faults);
@@ -101,8 +101,8 @@ class Registry final : public platform::Registry {
                                 const char* separator) const;
     Result OpenKey(Key parent, std::string_view path, std::uint32_t access, Key& opened);
     Result CreateKey(Key parent, std::string_view path, std::uint32_t access, Key& created);
-    Result MakePath(const Handle& parent, std::string_view path, std::uint32_t access,
-                    NodeRef& made);
+    // Goes down the path from `node` and makes what is missing.
+    Result MakePath(NodeRef& node, std::string_view path, std::uint32_t access);
     Result QueryValue(Key key, std::string_view valueName, std::uint32_t& type, std::uint8_t* data,
                       std::uint32_t& size) const;
     Result SetValue(Key key, std::string_view valueName, StoredValue value);

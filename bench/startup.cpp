@@ -1,0 +1,121 @@
+// Measures the real program from its start to its first idle moment, against a bare program that
+// makes the same number of windows: interleaved pairs, medians, ratio. Then its private memory.
+// Call: startup <Quillmore.exe> <barewindow.exe> [pairs]
+#include <windows.h>
+
+#include <psapi.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr double StartLimit = 1.5;
+constexpr double MemoryLimitMegabytes = 7;
+constexpr DWORD Patience = 20000;
+
+struct Run {
+    double milliseconds = 0;
+    SIZE_T privateBytes = 0;
+    int windows = 0;
+};
+
+BOOL CALLBACK CountChild(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+struct MainWindow {
+    DWORD process;
+    HWND window;
+};
+
+BOOL CALLBACK FindMain(HWND window, LPARAM search) {
+    auto* wanted = reinterpret_cast<MainWindow*>(search);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process != wanted->process || !IsWindowVisible(window)) return TRUE;
+    wanted->window = window;
+    return FALSE;
+}
+
+[[noreturn]] void Fail(const char* what) {
+    std::printf("startup: %s (error %lu)\n", what, GetLastError());
+    std::exit(1);
+}
+
+Run Measure(std::string commandLine) {
+    LARGE_INTEGER frequency;
+    LARGE_INTEGER start;
+    LARGE_INTEGER end;
+    QueryPerformanceFrequency(&frequency);
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    QueryPerformanceCounter(&start);
+    if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process)) {
+        Fail("cannot start the program");
+    }
+    MainWindow found = {process.dwProcessId, nullptr};
+    const DWORD deadline = GetTickCount() + Patience;
+    WaitForInputIdle(process.hProcess, Patience);
+    while (!found.window && GetTickCount() < deadline) {
+        EnumWindows(FindMain, reinterpret_cast<LPARAM>(&found));
+        if (!found.window) Sleep(1);
+    }
+    if (!found.window) Fail("no window came up");
+    // An answered message means that everything before it in the queue has been handled.
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(found.window, WM_NULL, 0, 0, SMTO_NORMAL, Patience, &answer);
+    QueryPerformanceCounter(&end);
+
+    Run run;
+    run.milliseconds = 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
+                       static_cast<double>(frequency.QuadPart);
+    PROCESS_MEMORY_COUNTERS memory = {};
+    memory.cb = sizeof memory;
+    if (GetProcessMemoryInfo(process.hProcess, &memory, sizeof memory)) {
+        run.privateBytes = memory.PagefileUsage;
+    }
+    EnumChildWindows(found.window, CountChild, reinterpret_cast<LPARAM>(&run.windows));
+    TerminateProcess(process.hProcess, 0);
+    WaitForSingleObject(process.hProcess, Patience);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return run;
+}
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    if (count < 3) Fail("call: startup <Quillmore.exe> <barewindow.exe> [pairs]");
+    const std::string ours = std::string("\"") + arguments[1] + "\"";
+    const int pairs = count > 3 ? std::atoi(arguments[3]) : 11;
+
+    const Run first = Measure(ours);
+    const std::string bare =
+        std::string("\"") + arguments[2] + "\" " + std::to_string(first.windows);
+    Measure(bare);
+    std::vector<double> ourTimes;
+    std::vector<double> bareTimes;
+    for (int i = 0; i < pairs; ++i) {
+        ourTimes.push_back(Measure(ours).milliseconds);
+        bareTimes.push_back(Measure(bare).milliseconds);
+    }
+    const double ratio = Median(ourTimes) / Median(bareTimes);
+    std::printf("start to idle: ours %.0f ms, bare %.0f ms (%d windows), ratio %.2f, limit %.2f\n",
+                Median(ourTimes), Median(bareTimes), first.windows, ratio, StartLimit);
+    const double megabytes = static_cast<double>(first.privateBytes) / (1024 * 1024);
+    std::printf("private memory: ours %.2f MB, limit %.2f MB, ratio %.2f\n", megabytes,
+                MemoryLimitMegabytes, megabytes / MemoryLimitMegabytes);
+    return ratio <= StartLimit && megabytes <= MemoryLimitMegabytes ? 0 : 1;
+}

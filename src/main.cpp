@@ -1,0 +1,25 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "app/frmmain.h"
+#include "platform/win32/eventguard.h"
+#include "platform/win32/machine.h"
+#include "platform/win32/messages.h"
+#include "platform/win32/windows/windowhost.h"
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    // Without this call XP cannot make the windows that the manifest asks for.
+    InitCommonControls();
+
+    platform::win32::Messages messages;
+    platform::win32::WindowHost host(messages);
+    platform::win32::Machine machine(host);
+    app::frmMain form(machine.services);
+    platform::win32::GuardEvent(messages, [&] {
+        form.Load();
+        if (form.Loaded()) form.Show();
+    });
+    host.Run();
+    return 0;
+}

@@ -1,0 +1,40 @@
+#include "platform/win32/clock.h"
+
+#include "platform/win32/eventguard.h"
+
+namespace platform::win32 {
+
+Clock::Clock(platform::Messages& messages)
+    : messages_(messages), window_([this](UINT message, WPARAM wParam, LPARAM) {
+          if (message == WM_TIMER) Tick(static_cast<Timer>(wParam));
+      }) {}
+
+LocalTime Clock::Now() const {
+    SYSTEMTIME now = {};
+    GetLocalTime(&now);
+    return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
+}
+
+Clock::Timer Clock::StartTimer(int milliseconds, std::function<void()> tick) {
+    const Timer timer = next_++;
+    timers_[timer] = std::make_shared<Running>(Running{std::move(tick)});
+    SetTimer(window_.Get(), timer, static_cast<UINT>(milliseconds), nullptr);
+    return timer;
+}
+
+void Clock::StopTimer(Timer timer) {
+    if (timers_.erase(timer) != 0) KillTimer(window_.Get(), timer);
+}
+
+void Clock::Tick(Timer timer) {
+    const auto found = timers_.find(timer);
+    // The message of a timer that was stopped may still have been under way.
+    if (found == timers_.end() || found->second->ticking) return;
+    // A share of its own keeps the tick alive while it stops itself.
+    const std::shared_ptr<Running> running = found->second;
+    running->ticking = true;
+    GuardEvent(messages_, running->tick);
+    running->ticking = false;
+}
+
+}  // namespace platform::win32

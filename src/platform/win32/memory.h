@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/memory.h"
+
+namespace platform::win32 {
+
+class Memory final : public platform::Memory {
+  public:
+    std::string TotalPhysical() const override;
+};
+
+}  // namespace platform::win32

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/processes.h"
+
+namespace platform::win32 {
+
+class Processes final : public platform::Processes {
+  public:
+    Handle Create(std::string_view commandLine, std::uint32_t creationFlags,
+                  const StartupInfo& startup) override;
+    void WaitForEnd(Handle process) override;
+    bool Close(Handle process) override;
+};
+
+}  // namespace platform::win32

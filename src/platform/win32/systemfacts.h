@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/systemfacts.h"
+
+namespace platform::win32 {
+
+class SystemFacts final : public platform::SystemFacts {
+  public:
+    std::string WindowsDirectory() const override;
+    std::string SystemDirectory() const override;
+};
+
+}  // namespace platform::win32

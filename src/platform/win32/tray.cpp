@@ -1,0 +1,98 @@
+#include "platform/win32/tray.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "platform/win32/eventguard.h"
+#include "platform/win32/text.h"
+
+namespace platform::win32 {
+
+namespace {
+
+constexpr UINT TrayMessage = WM_APP + 1;
+constexpr UINT TrayId = 1;
+constexpr WORD ProgramIcon = 1;
+
+// The record without the fields that came later: the shells of 2000 and XP know both.
+constexpr DWORD RecordSize = NOTIFYICONDATAW_V2_SIZE;
+static_assert(RecordSize == 936);
+
+HICON SmallIcon() {
+    // Shared icons are the system's to destroy.
+    HANDLE icon =
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(ProgramIcon), IMAGE_ICON,
+                   GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+    return icon ? static_cast<HICON>(icon) : LoadIconW(nullptr, IDI_APPLICATION);
+}
+
+}  // namespace
+
+Tray::Tray(platform::Messages& messages)
+    : messages_(messages),
+      shellStarted_(RegisterWindowMessageW(L"TaskbarCreated")),
+      window_([this](UINT message, WPARAM, LPARAM lParam) { Receive(message, lParam); }) {}
+
+Tray::~Tray() {
+    SetShown(false);
+}
+
+void Tray::SetIcon() {
+    icon_ = SmallIcon();
+    if (shown_) Notify(NIM_MODIFY);
+}
+
+void Tray::SetTip(std::string_view text) {
+    tip_ = ToWide(text);
+    if (shown_) Notify(NIM_MODIFY);
+}
+
+void Tray::SetShown(bool shown) {
+    wanted_ = shown;
+    if (shown && !shown_) {
+        shown_ = Notify(NIM_ADD);
+    } else if (!shown && shown_) {
+        Notify(NIM_DELETE);
+        shown_ = false;
+    }
+}
+
+bool Tray::Notify(DWORD action) {
+    NOTIFYICONDATAW record = {};
+    record.cbSize = RecordSize;
+    record.hWnd = window_.Get();
+    record.uID = TrayId;
+    record.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
+    record.uCallbackMessage = TrayMessage;
+    record.hIcon = icon_;
+    // The field's last character stays its terminator.
+    tip_.copy(record.szTip, std::size(record.szTip) - 1);
+    return Shell_NotifyIconW(action, &record) != FALSE;
+}
+
+void Tray::Receive(UINT message, LPARAM lParam) {
+    if (message == TrayMessage) {
+        Mouse(static_cast<UINT>(lParam));
+    } else if (message == shellStarted_ && wanted_) {
+        shown_ = Notify(NIM_ADD);
+    }
+}
+
+void Tray::Mouse(UINT message) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+            if (onMouseDown) GuardEvent(messages_, [this] { onMouseDown(1); });
+            break;
+        case WM_RBUTTONDOWN:
+            if (onMouseDown) GuardEvent(messages_, [this] { onMouseDown(2); });
+            break;
+        case WM_LBUTTONDBLCLK:
+            if (onRestore) GuardEvent(messages_, onRestore);
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace platform::win32

@@ -1,0 +1,62 @@
+#include "platform/win32/windows/buttonwindows.h"
+
+#include "toolkit/form.h"
+
+namespace platform::win32 {
+
+// The native box never changes by itself: it shows what the control holds, also when an event has
+// refused the click or failed.
+ControlWindow::Recipe CheckBoxWindow::Describe() const {
+    return {L"BUTTON", BS_CHECKBOX};
+}
+
+void CheckBoxWindow::ShowValue() {
+    Send(BM_SETCHECK, control_.Value() == 1 ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void CheckBoxWindow::Notified(UINT code) {
+    if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
+    Guard([this] { control_.Toggle(); });
+}
+
+ControlWindow::Recipe OptionButtonWindow::Describe() const {
+    return {L"BUTTON", BS_AUTORADIOBUTTON};
+}
+
+template <typename Action>
+void OptionButtonWindow::ForGroup(Action action) const {
+    for (const auto& control : control_.Owner().Controls()) {
+        auto* member = dynamic_cast<toolkit::OptionButton*>(control.get());
+        if (!member || member->Group() != control_.Group()) continue;
+        if (auto* window = dynamic_cast<OptionButtonWindow*>(member->View())) action(*window);
+    }
+}
+
+// The tabulator reaches one button of the group: the selected one, or the first when none is.
+void OptionButtonWindow::ShowValue() {
+    Send(BM_SETCHECK, control_.Value() ? BST_CHECKED : BST_UNCHECKED);
+    const OptionButtonWindow* stop = nullptr;
+    ForGroup([&](const OptionButtonWindow& member) {
+        if (!stop || member.control_.Value()) stop = &member;
+    });
+    ForGroup([&](const OptionButtonWindow& member) {
+        const LONG style = GetWindowLongW(member.Window(), GWL_STYLE) & ~WS_TABSTOP;
+        SetWindowLongW(member.Window(), GWL_STYLE, &member == stop ? style | WS_TABSTOP : style);
+    });
+}
+
+// The system tells the arrival of the focus as a click too. With the arrow keys that is the choice
+// itself, but walking past with the tabulator must not choose.
+void OptionButtonWindow::Notified(UINT code) {
+    if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
+    const bool walkingPast = GetKeyState(VK_TAB) < 0;
+    if (!walkingPast) Guard([this] { control_.SetValue(true); });
+    if (Window()) ForGroup([](OptionButtonWindow& member) { member.ShowValue(); });
+}
+
+// Transparent, so that the form paints the frame's inside although it spares its children.
+ControlWindow::Recipe FrameWindow::Describe() const {
+    return {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT};
+}
+
+}  // namespace platform::win32

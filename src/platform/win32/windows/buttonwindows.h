@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/win32/windows/controlwindow.h"
+#include "toolkit/controls.h"
+
+// The standard window class BUTTON in its three roles.
+namespace platform::win32 {
+
+class CheckBoxWindow final : public ControlWindow {
+  public:
+    CheckBoxWindow(toolkit::CheckBox& control, const Surroundings& surroundings)
+        : ControlWindow(control, surroundings), control_(control) {}
+
+    void Notified(UINT code) override;
+
+  protected:
+    Recipe Describe() const override;
+    void ShowValue() override;
+
+  private:
+    toolkit::CheckBox& control_;
+};
+
+class OptionButtonWindow final : public ControlWindow {
+  public:
+    OptionButtonWindow(toolkit::OptionButton& control, const Surroundings& surroundings)
+        : ControlWindow(control, surroundings), control_(control) {}
+
+    void Notified(UINT code) override;
+
+  protected:
+    Recipe Describe() const override;
+    void ShowValue() override;
+
+  private:
+    template <typename Action>
+    void ForGroup(Action action) const;
+
+    toolkit::OptionButton& control_;
+};
+
+class FrameWindow final : public ControlWindow {
+  public:
+    FrameWindow(toolkit::Frame& control, const Surroundings& surroundings)
+        : ControlWindow(control, surroundings) {}
+
+  protected:
+    Recipe Describe() const override;
+};
+
+}  // namespace platform::win32

@@ -1,0 +1,100 @@
+#include "platform/win32/windows/controlwindow.h"
+
+#include <commctrl.h>
+
+#include "platform/win32/text.h"
+
+namespace platform::win32 {
+
+ControlWindow::~ControlWindow() = default;
+
+void ControlWindow::Create(HWND parent, int id) {
+    const Recipe recipe = Describe();
+    DWORD style = WS_CHILD | WS_CLIPSIBLINGS | recipe.style;
+    if (control_.IsTabStop()) style |= WS_TABSTOP;
+    if (control_.Visible()) style |= WS_VISIBLE;
+    if (!control_.Enabled()) style |= WS_DISABLED;
+    window_ = CreateWindowExW(recipe.extendedStyle, recipe.windowClass,
+                              ToWide(control_.Caption()).c_str(), style, 0, 0, 0, 0, parent,
+                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                              GetModuleHandleW(nullptr), this);
+    name_.emplace(window_, control_.Name());
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
+    control_.SetView(this);
+    Prepare();
+    ShowValue();
+}
+
+void ControlWindow::Detach() {
+    if (!window_) return;
+    control_.SetView(nullptr);
+    name_.reset();
+    window_ = nullptr;
+}
+
+bool ControlWindow::TakesFocus() const {
+    return window_ && control_.IsTabStop() && IsWindowEnabled(window_) && IsWindowVisible(window_);
+}
+
+void ControlWindow::Refresh(toolkit::Aspect what) {
+    switch (what) {
+        case toolkit::Aspect::Value:
+            ShowValue();
+            break;
+        case toolkit::Aspect::Caption:
+            SetWindowTextW(window_, ToWide(control_.Caption()).c_str());
+            break;
+        case toolkit::Aspect::Enabled:
+            // A disabled window that keeps the focus would leave the keyboard dead.
+            if (!control_.Enabled() && GetFocus() == window_) MoveFocus(true);
+            EnableWindow(window_, control_.Enabled());
+            break;
+        case toolkit::Aspect::Visible:
+            if (!control_.Visible() && GetFocus() == window_) MoveFocus(true);
+            ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+            break;
+        case toolkit::Aspect::Limits:
+            Prepare();
+            break;
+        case toolkit::Aspect::TextColour:
+            Repaint();
+            break;
+    }
+}
+
+void ControlWindow::Repaint() {
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+bool ControlWindow::PointerIsOver() const {
+    POINT pointer{};
+    return GetCursorPos(&pointer) && WindowFromPoint(pointer) == window_;
+}
+
+void ControlWindow::TakeFocus() {
+    FocusLikeDialog(window_);
+}
+
+void ControlWindow::CaptureMouse() {
+    SetCapture(window_);
+}
+
+void ControlWindow::MoveFocus(bool forward) {
+    const HWND next = GetNextDlgTabItem(GetAncestor(window_, GA_ROOT), window_, !forward);
+    if (next) FocusLikeDialog(next);
+}
+
+void FocusLikeDialog(HWND window) {
+    SetFocus(window);
+    if (SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) {
+        SendMessageW(window, EM_SETSEL, 0, -1);
+    }
+}
+
+std::string TextOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+    return FromWide({text.data(), static_cast<std::size_t>(length)});
+}
+
+}  // namespace platform::win32

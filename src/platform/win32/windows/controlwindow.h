@@ -1,0 +1,82 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/win32/windows/controlname.h"
+#include "platform/win32/windows/surroundings.h"
+#include "toolkit/control.h"
+
+namespace platform::win32 {
+
+// The native window behind one control. It is held by its form's window; while one of its own
+// events runs it holds itself, since the event may end the form.
+class ControlWindow : public toolkit::ControlView,
+                      public std::enable_shared_from_this<ControlWindow> {
+  public:
+    ~ControlWindow() override;
+    ControlWindow(const ControlWindow&) = delete;
+    ControlWindow& operator=(const ControlWindow&) = delete;
+
+    // Makes the native window and becomes the control's view.
+    void Create(HWND parent, int id);
+    // The control gets no view and no event any more; the native window is the form's to destroy.
+    virtual void Detach();
+
+    // nullptr before Create and after Detach.
+    HWND Window() const { return window_; }
+    toolkit::Control& Control() const { return control_; }
+
+    // Whether the keyboard can go there now.
+    bool TakesFocus() const;
+
+    // The native window has told its parent that the user did something: the code of the
+    // notification in WM_COMMAND, WM_NOTIFY or WM_HSCROLL.
+    virtual void Notified(UINT) {}
+
+    void Refresh(toolkit::Aspect what) override;
+    void Repaint() override;
+    bool PointerIsOver() const override;
+    void TakeFocus() override;
+    void CaptureMouse() override;
+    void MoveFocus(bool forward) override;
+
+  protected:
+    struct Recipe {
+        const wchar_t* windowClass;
+        DWORD style = 0;
+        DWORD extendedStyle = 0;
+    };
+
+    ControlWindow(toolkit::Control& control, const Surroundings& surroundings)
+        : surroundings_(surroundings), control_(control) {}
+
+    virtual Recipe Describe() const = 0;
+    // What the native window must be told once, before it shows the control's value.
+    virtual void Prepare() {}
+    virtual void ShowValue() {}
+    virtual HFONT Font() const { return surroundings_.screen.Plain(); }
+
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(window_, message, wParam, lParam);
+    }
+    void Guard(const std::function<void()>& event) const { surroundings_.Guard(event); }
+
+    const Surroundings surroundings_;
+
+  private:
+    toolkit::Control& control_;
+    HWND window_ = nullptr;
+    std::optional<ControlName> name_;
+};
+
+// Gives the focus to a window, and selects the text of an edit field as a dialog does.
+void FocusLikeDialog(HWND window);
+
+// The text of a native window.
+std::string TextOf(HWND window);
+
+}  // namespace platform::win32

@@ -1,0 +1,153 @@
+#include "platform/win32/windows/controlwindows.h"
+
+#include <algorithm>
+#include <map>
+
+#include "platform/win32/windows/buttonwindows.h"
+#include "platform/win32/windows/drawnwindow.h"
+#include "platform/win32/windows/labelwindow.h"
+#include "platform/win32/windows/sliderwindow.h"
+#include "platform/win32/windows/textboxwindow.h"
+
+namespace platform::win32 {
+namespace {
+
+// Below lie the numbers that the system gives a dialog's standard buttons.
+constexpr int FirstId = 100;
+
+template <typename View, typename Control>
+std::shared_ptr<ControlWindow> Make(toolkit::Control& control, const Surroundings& surroundings) {
+    return std::make_shared<View>(static_cast<Control&>(control), surroundings);
+}
+
+std::shared_ptr<ControlWindow> WindowFor(toolkit::Control& control,
+                                         const Surroundings& surroundings) {
+    switch (control.Kind()) {
+        case toolkit::ControlKind::Label:
+            return Make<LabelWindow, toolkit::Label>(control, surroundings);
+        case toolkit::ControlKind::CheckBox:
+            return Make<CheckBoxWindow, toolkit::CheckBox>(control, surroundings);
+        case toolkit::ControlKind::OptionButton:
+            return Make<OptionButtonWindow, toolkit::OptionButton>(control, surroundings);
+        case toolkit::ControlKind::TextBox:
+            return Make<TextBoxWindow, toolkit::TextBox>(control, surroundings);
+        case toolkit::ControlKind::Frame:
+            return Make<FrameWindow, toolkit::Frame>(control, surroundings);
+        case toolkit::ControlKind::Slider:
+            return Make<SliderWindow, toolkit::Slider>(control, surroundings);
+        case toolkit::ControlKind::TabStrip:
+            return Make<TabStripWindow, toolkit::TabStrip>(control, surroundings);
+        case toolkit::ControlKind::Drawn:
+            return Make<DrawnWindow, toolkit::DrawnControl>(control, surroundings);
+    }
+    return nullptr;
+}
+
+toolkit::Rect ClientArea(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {0, 0, client.right, client.bottom};
+}
+
+// Groups of option buttons begin and end where the number of the group changes.
+int GroupOf(const toolkit::Control& control) {
+    const auto* option = dynamic_cast<const toolkit::OptionButton*>(&control);
+    return option ? option->Group() : -1;
+}
+
+void MarkGroupStart(HWND window) {
+    SetWindowLongW(window, GWL_STYLE, GetWindowLongW(window, GWL_STYLE) | WS_GROUP);
+}
+
+}  // namespace
+
+void ControlWindows::Create(const toolkit::Form& form, HWND formWindow) {
+    std::map<const toolkit::Control*, int> pages;
+    for (const toolkit::Placement& placement :
+         toolkit::Arrange(form.Layout(), ClientArea(formWindow), surroundings_.screen)) {
+        pages[placement.control] = placement.page;
+    }
+    for (const auto& control : form.Controls()) {
+        if (auto* strip = dynamic_cast<toolkit::TabStrip*>(control.get())) {
+            tabs_ = std::make_shared<TabStripWindow>(*strip, surroundings_);
+        }
+    }
+    int groupBefore = -1;
+    for (const auto& control : form.Controls()) {
+        const auto page = pages.find(control.get());
+        CreateOne(*control, formWindow, page == pages.end() ? -1 : page->second);
+        const int group = GroupOf(*control);
+        if (group != groupBefore) MarkGroupStart(windows_.back()->Window());
+        groupBefore = group;
+    }
+    PutBehind(toolkit::ControlKind::Frame);
+    PutBehind(toolkit::ControlKind::TabStrip);
+}
+
+void ControlWindows::CreateOne(toolkit::Control& control, HWND formWindow, int page) {
+    const bool isTabs = tabs_ && &tabs_->Control() == &control;
+    windows_.push_back(isTabs ? tabs_ : WindowFor(control, surroundings_));
+    // The pages come into being at the latest with their strip, just before it in the order.
+    const HWND parent =
+        tabs_ && (page >= 0 || isTabs) ? tabs_->Page(formWindow, std::max(page, 0)) : formWindow;
+    windows_.back()->Create(isTabs ? formWindow : parent,
+                            FirstId + static_cast<int>(windows_.size()));
+}
+
+// What surrounds other controls lies behind them. For the tabulator the strip then comes last,
+// which in the ring that it walks is the place before the pages.
+void ControlWindows::PutBehind(toolkit::ControlKind kind) const {
+    for (const auto& window : windows_) {
+        if (window->Control().Kind() != kind) continue;
+        SetWindowPos(window->Window(), HWND_BOTTOM, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+}
+
+void ControlWindows::Place(const toolkit::Form& form, HWND formWindow) {
+    const auto placements =
+        toolkit::Arrange(form.Layout(), ClientArea(formWindow), surroundings_.screen);
+    for (const toolkit::Placement& placement : placements) {
+        const auto window = Find(placement.control);
+        if (!window) continue;
+        const toolkit::Rect& area = placement.area;
+        POINT corner{area.left, area.top};
+        MapWindowPoints(formWindow, GetParent(window->Window()), &corner, 1);
+        SetWindowPos(window->Window(), nullptr, corner.x, corner.y, area.width, area.height,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        // A strip stands before the controls of its pages, which are placed within them.
+        if (window == tabs_) {
+            tabs_->PlacePages({area.left, area.top, area.Right(), area.Bottom()});
+        }
+    }
+}
+
+void ControlWindows::Detach() {
+    for (const auto& window : windows_) window->Detach();
+}
+
+std::shared_ptr<ControlWindow> ControlWindows::Find(HWND window) const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(), [&](const auto& candidate) {
+        return window && candidate->Window() == window;
+    });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+std::shared_ptr<ControlWindow> ControlWindows::Find(const toolkit::Control* control) const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(), [&](const auto& candidate) {
+        return &candidate->Control() == control;
+    });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+std::shared_ptr<ControlWindow> ControlWindows::FirstToFocus() const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                    [](const auto& window) { return window->TakesFocus(); });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+void ControlWindows::Broadcast(UINT message, WPARAM wParam, LPARAM lParam) const {
+    for (const auto& window : windows_) SendMessageW(window->Window(), message, wParam, lParam);
+}
+
+}  // namespace platform::win32

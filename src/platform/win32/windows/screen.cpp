@@ -1,0 +1,61 @@
+#include "platform/win32/windows/screen.h"
+
+#include <cmath>
+
+#include "platform/win32/windows/accessmarks.h"
+
+namespace platform::win32 {
+namespace {
+
+constexpr float TwipsPerInch = 1440;
+constexpr int PointsPerInch = 72;
+constexpr int DesignDotsPerInch = 96;
+
+// The whole screen's device context.
+class ScreenContext {
+  public:
+    ScreenContext() : dc_(GetDC(nullptr)) {}
+    ~ScreenContext() { ReleaseDC(nullptr, dc_); }
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+
+    HDC Get() const { return dc_; }
+
+  private:
+    HDC dc_;
+};
+
+}  // namespace
+
+Screen::Screen()
+    : dotsPerInch_(GetDeviceCaps(ScreenContext().Get(), LOGPIXELSY)),
+      plain_(MakeFont(8, FW_NORMAL)),
+      heading_(MakeFont(10, FW_BOLD)) {}
+
+HFONT Screen::MakeFont(int points, int weight) const {
+    return CreateFontW(-MulDiv(points, dotsPerInch_, PointsPerInch), 0, 0, 0, weight, FALSE, FALSE,
+                       FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                       DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, L"Tahoma");
+}
+
+toolkit::Size Screen::SizeOf(std::string_view text, bool bold) const {
+    const ScreenContext screen;
+    const HGDIOBJ before = SelectObject(screen.Get(), bold ? Heading() : Plain());
+    const toolkit::Size size = ExtentOf(screen.Get(), text);
+    SelectObject(screen.Get(), before);
+    return size;
+}
+
+int Screen::Scale(int pixels) const {
+    return MulDiv(pixels, dotsPerInch_, DesignDotsPerInch);
+}
+
+int Screen::ToPixels(float twips) const {
+    return static_cast<int>(std::lround(twips * static_cast<float>(dotsPerInch_) / TwipsPerInch));
+}
+
+float Screen::ToTwips(int pixels) const {
+    return static_cast<float>(pixels) * TwipsPerInch / static_cast<float>(dotsPerInch_);
+}
+
+}  // namespace platform::win32

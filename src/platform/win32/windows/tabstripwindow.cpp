@@ -1,0 +1,91 @@
+#include "platform/win32/windows/tabstripwindow.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "platform/win32/text.h"
+
+namespace platform::win32 {
+namespace {
+
+constexpr wchar_t PageClass[] = L"QuillmorePage";
+
+// A page passes on to the form what its controls tell it.
+LRESULT CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND:
+        case WM_NOTIFY:
+        case WM_HSCROLL:
+        case WM_VSCROLL:
+            return SendMessageW(GetParent(window), message, wParam, lParam);
+        default:
+            return DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+void RegisterPages() {
+    WNDCLASSEXW facts{};
+    facts.cbSize = sizeof facts;
+    if (GetClassInfoExW(GetModuleHandleW(nullptr), PageClass, &facts)) return;
+    facts.lpfnWndProc = PageProcedure;
+    facts.hInstance = GetModuleHandleW(nullptr);
+    facts.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    facts.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    facts.lpszClassName = PageClass;
+    RegisterClassExW(&facts);
+}
+
+}  // namespace
+
+HWND TabStripWindow::Page(HWND parent, int page) {
+    if (pages_.empty()) {
+        RegisterPages();
+        for (std::size_t index = 0; index < control_.Captions().size(); ++index) {
+            pages_.push_back(CreateWindowExW(WS_EX_CONTROLPARENT, PageClass, nullptr,
+                                             WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0, 0, 0,
+                                             0, parent, nullptr, GetModuleHandleW(nullptr),
+                                             nullptr));
+        }
+    }
+    return pages_.at(static_cast<std::size_t>(page));
+}
+
+void TabStripWindow::PlacePages(RECT area) {
+    Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
+    for (const HWND page : pages_) {
+        SetWindowPos(page, nullptr, area.left, area.top, area.right - area.left,
+                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+ControlWindow::Recipe TabStripWindow::Describe() const {
+    return {WC_TABCONTROLW, 0};
+}
+
+void TabStripWindow::Prepare() {
+    int index = 0;
+    for (const std::string& caption : control_.Captions()) {
+        std::wstring text = ToWide(caption);
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = text.data();
+        Send(TCM_INSERTITEMW, static_cast<WPARAM>(index++), reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+void TabStripWindow::ShowValue() {
+    const int current = control_.Tab();
+    if (Send(TCM_GETCURSEL) != current) Send(TCM_SETCURSEL, static_cast<WPARAM>(current));
+    for (std::size_t index = 0; index < pages_.size(); ++index) {
+        ShowWindow(pages_[index], static_cast<int>(index) == current ? SW_SHOWNA : SW_HIDE);
+    }
+}
+
+void TabStripWindow::Notified(UINT code) {
+    if (code != TCN_SELCHANGE) return;
+    Guard([this] { control_.SetTab(static_cast<int>(Send(TCM_GETCURSEL))); });
+    if (Window()) ShowValue();
+}
+
+}  // namespace platform::win32

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/win32/windows/controlwindow.h"
+#include "toolkit/controls.h"
+
+namespace platform::win32 {
+
+// The common control SysTabControl32, and one container window a page in front of it. All pages
+// exist from the start; only the current one is visible.
+class TabStripWindow final : public ControlWindow {
+  public:
+    TabStripWindow(toolkit::TabStrip& control, const Surroundings& surroundings)
+        : ControlWindow(control, surroundings), control_(control) {}
+
+    // The parent of a page's controls, which must be placed on the form's window `parent`.
+    HWND Page(HWND parent, int page);
+    // Where the pages lie when the strip takes `area` of the form.
+    void PlacePages(RECT area);
+
+    void Notified(UINT code) override;
+
+  protected:
+    Recipe Describe() const override;
+    void Prepare() override;
+    void ShowValue() override;
+
+  private:
+    toolkit::TabStrip& control_;
+    std::vector<HWND> pages_;
+};
+
+}  // namespace platform::win32

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+#include "platform/win32/handle.h"
+#include "platform/win32/windows/screen.h"
+#include "toolkit/form.h"
+
+namespace platform {
+class Messages;
+}
+
+namespace platform::win32 {
+
+class FormWindow;
+
+// The native windows behind the toolkit's forms, and the loop that serves them. Failures that an
+// event lets through are shown by `messages`.
+class WindowHost final : public toolkit::FormHost {
+  public:
+    explicit WindowHost(platform::Messages& messages);
+    ~WindowHost() override;
+
+    void Open(toolkit::Form& form) override;
+    void RunModal(toolkit::Form& form) override;
+    void Close(toolkit::Form& form) override;
+    toolkit::Bounds WorkArea() const override;
+    std::vector<toolkit::Form*> OpenForms() const override;
+
+    // Serves the windows until the last form is unloaded.
+    void Run();
+
+    // nullptr for a form that is not loaded.
+    HWND WindowOf(const toolkit::Form& form) const;
+
+  private:
+    std::shared_ptr<FormWindow> Find(const toolkit::Form& form) const;
+    HWND OwnerFor(const toolkit::Form& form) const;
+    bool ServeOne();
+
+    platform::Messages& messages_;
+    Screen screen_;
+    // Never seen. It owns the main window, whose taskbar entry can thereby be taken away, and gets
+    // the messages that wake a loop whose form has gone.
+    WindowHandle root_;
+    // In the order of their loading.
+    std::vector<std::shared_ptr<FormWindow>> windows_;
+};
+
+}  // namespace platform::win32

@@ -1,0 +1,133 @@
+#!/bin/bash
+# Proves of a finished program that the loader of Windows XP SP3 accepts it.
+#   audit.sh imports ALLOWED HEADERS        every imported function is on the list, and comctl32's
+#                                           InitCommonControls is imported
+#   audit.sh headers HEADERS                32-bit, windowed, for Windows 5.1, with a manifest
+#   audit.sh instructions DISASSEMBLY       nothing that a processor without SSE cannot run
+#   audit.sh size PROGRAM BYTES             the file is no larger than that
+#   audit.sh program ALLOWED BYTES OBJDUMP PROGRAM
+#                                           all of that for one program
+# HEADERS is what `objdump -p` prints, DISASSEMBLY what `objdump -d` prints. Every violation is one
+# line; the exit code is 1 when there is any.
+set -euo pipefail
+
+# Rows of the import tables are the lines led by a tab; an import by number alone reads
+# "\t800000b2\t  178  <none>".
+Imports() {
+    awk '
+        /^\tDLL Name: / {
+            dll = tolower($3)
+            sub(/\.dll$/, "", dll)
+            next
+        }
+        /^\t[0-9a-f]+\t +[0-9]+  [^ ]/ {
+            print dll "!" ($3 == "<none>" ? "#" $2 : $3)
+        }
+    ' "$1" | LC_ALL=C sort -u
+}
+
+CheckImports() {
+    local allowed=$1 found unknown status=0
+    found=$(Imports "$2")
+    if [[ -z $found ]]; then
+        echo "no import table found"
+        return 1
+    fi
+    unknown=$(LC_ALL=C comm -13 <(grep -v '^#' "$allowed" | LC_ALL=C sort -u) <(echo "$found"))
+    if [[ -n $unknown ]]; then
+        sed 's/^/not known to be exported by XP SP3: /' <<<"$unknown"
+        status=1
+    fi
+    # Without it the common controls of the manifest are not loaded, and no window comes up.
+    if ! grep -qx 'comctl32!InitCommonControls' <<<"$found"; then
+        echo "comctl32!InitCommonControls is not imported"
+        status=1
+    fi
+    return $status
+}
+
+CheckHeaders() {
+    awk '
+        function Expect(label, wanted) {
+            found = label in field ? field[label] : "absent"
+            if (found != wanted) {
+                print label " is " found ", not " wanted
+                bad = 1
+            }
+        }
+        /file format/ { field["file format"] = $NF }
+        /^Magic/ { field["Magic"] = $NF }
+        /^M(aj|in)or(OSystem|Subsystem)Version/ { field[$1] = $2 }
+        /^Subsystem\t/ { field[$1] = $2 }
+        # Resources are a tree of type, name and language. Type 24 is a manifest, and number 1 the
+        # one that the loader of a program reads.
+        /^[0-9a-f]+   Entry: / { manifest = /ID: 0x000018,/ }
+        /^[0-9a-f]+     Entry: ID: 0x000001,/ && manifest { field["manifest"] = "present" }
+        /^Entry d / { field["delayed imports"] = $3 }
+        END {
+            Expect("file format", "pei-i386")
+            Expect("Magic", "(PE32)")
+            Expect("MajorOSystemVersion", "5")
+            Expect("MinorOSystemVersion", "1")
+            Expect("MajorSubsystemVersion", "5")
+            Expect("MinorSubsystemVersion", "1")
+            Expect("Subsystem", "00000002")
+            Expect("manifest", "present")
+            # Functions in a table of their own would escape the look at the imports.
+            Expect("delayed imports", "00000000")
+            exit bad
+        }
+    ' "$1"
+}
+
+# %xmm came with SSE, %ymm and %zmm later; the others named here touch no such register.
+CheckInstructions() {
+    awk -F '\t' '
+        NF >= 3 { ++seen }
+        NF >= 3 && ($3 ~ /%[xyz]mm[0-9]/ ||
+                    $3 ~ /^(lfence|mfence|sfence|clflush|movnti|ldmxcsr|stmxcsr|popcnt|prefetch)/) {
+            print "not on every processor of XP: " $0
+            bad = 1
+        }
+        END {
+            if (seen < 1) { print "no instruction found"; bad = 1 }
+            exit bad
+        }
+    ' "$1"
+}
+
+CheckSize() {
+    local bytes
+    bytes=$(stat -c %s "$1")
+    if ((bytes > $2)); then
+        echo "$1 has $bytes bytes, more than $2"
+        return 1
+    fi
+}
+
+CheckProgram() {
+    local allowed=$1 limit=$2 objdump=$3 program=$4 status=0 texts
+    texts=$(mktemp -d)
+    "$objdump" -p "$program" >"$texts/headers"
+    "$objdump" -d "$program" >"$texts/disassembly"
+    CheckImports "$allowed" "$texts/headers" || status=1
+    CheckHeaders "$texts/headers" || status=1
+    CheckInstructions "$texts/disassembly" || status=1
+    CheckSize "$program" "$limit" || status=1
+    rm -r "$texts"
+    if ((status == 0)); then
+        echo "$program: $(stat -c %s "$program") bytes, nothing that XP SP3 lacks"
+    fi
+    return $status
+}
+
+what=${1:-}
+shift || true
+case $what in
+    imports) CheckImports "$@" ;;
+    headers) CheckHeaders "$@" ;;
+    instructions) CheckInstructions "$@" ;;
+    size) CheckSize "$@" ;;
+    program) CheckProgram "$@" ;;
+    *) sed -n '2,13s/^# \?//p' "$0" >&2; exit 2 ;;
+esac

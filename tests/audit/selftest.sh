@@ -1,0 +1,85 @@
+#!/bin/bash
+# Feeds the audit a sample that is in order, and then the same sample with one thing wrong at a
+# time: it must name that thing and fail.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+work=$(mktemp -d)
+trap 'rm -r "$work"' EXIT
+failures=0
+
+Report() {
+    echo "failed: $1" >&2
+    failures=$((failures + 1))
+}
+
+Accepts() {
+    local name=$1
+    shift
+    "$here/audit.sh" "$@" >"$work/said" || Report "$name: refused with $(<"$work/said")"
+}
+
+# Refuses NAME MESSAGE SED-SCRIPT SAMPLE AUDIT-ARGUMENT...; the doctored sample is added as last.
+Refuses() {
+    local name=$1 message=$2 script=$3 sample=$here/samples/$4 code=0
+    shift 4
+    sed "$script" "$sample" >"$work/sample"
+    if cmp -s "$sample" "$work/sample"; then
+        Report "$name: the sample was not changed"
+    fi
+    "$here/audit.sh" "$@" "$work/sample" >"$work/said" || code=$?
+    if ((code != 1)); then
+        Report "$name: exit code $code"
+    elif ! grep -qF -- "$message" "$work/said"; then
+        Report "$name: said $(<"$work/said")"
+    fi
+}
+
+imports=(imports "$here/samples/allowed.txt")
+Accepts "known functions pass" "${imports[@]}" "$here/samples/headers.txt"
+Refuses "an unknown function" "shell32!SHGetKnownFolderPath" \
+    's/ShellExecuteA/SHGetKnownFolderPath/' headers.txt "${imports[@]}"
+Refuses "a known function of an unknown DLL" "bcrypt!ShellExecuteA" \
+    's/SHELL32.dll/bcrypt.dll/' headers.txt "${imports[@]}"
+Refuses "an unknown ordinal" "shell32!#179" \
+    's/  178  <none>/  179  <none>/' headers.txt "${imports[@]}"
+Refuses "common controls that are not initialised" "InitCommonControls is not imported" \
+    '/InitCommonControls/d' headers.txt "${imports[@]}"
+Refuses "a text without imports" "no import table found" '/^\t/d' headers.txt "${imports[@]}"
+
+Accepts "headers for XP pass" headers "$here/samples/headers.txt"
+Refuses "a later system" "MajorOSystemVersion is 6" \
+    's/^\(MajorOSystemVersion\t\)5/\16/' headers.txt headers
+Refuses "an earlier subsystem" "MajorSubsystemVersion is 4" \
+    's/^\(MajorSubsystemVersion\t\)5/\14/' headers.txt headers
+Refuses "Windows 2000" "MinorSubsystemVersion is 0" \
+    's/^\(MinorSubsystemVersion\t\)1/\10/' headers.txt headers
+Refuses "another minor version of the system" "MinorOSystemVersion is 2" \
+    's/^\(MinorOSystemVersion\t\)1/\12/' headers.txt headers
+Refuses "a console program" "Subsystem is 00000003" \
+    's/^\(Subsystem\t*\)00000002/\100000003/' headers.txt headers
+Refuses "64 bits" "file format is pei-x86-64" 's/pei-i386/pei-x86-64/' headers.txt headers
+Refuses "64-bit magic" "Magic is (PE32+)" 's/(PE32)/(PE32+)/' headers.txt headers
+Refuses "a missing manifest" "manifest is absent" 's/ID: 0x000018/ID: 0x000010/' headers.txt headers
+Refuses "a library's manifest" "manifest is absent" 's/ID: 0x000001/ID: 0x000002/' headers.txt headers
+Refuses "delayed imports" "delayed imports is 00007400" \
+    's/^Entry d 00000000/Entry d 00007400/' headers.txt headers
+
+Accepts "plain instructions pass" instructions "$here/samples/disassembly.txt"
+Refuses "an SSE2 register" "xmm0" 's/fldl   0x8(%esp)/movsd  0x8(%esp),%xmm0/' disassembly.txt \
+    instructions
+Refuses "an instruction of SSE2 without its registers" "mfence" 's/ret/mfence/' disassembly.txt \
+    instructions
+Refuses "a text without instructions" "no instruction found" '/^  40/d' disassembly.txt \
+    instructions
+
+head -c 100 /dev/zero >"$work/hundred"
+Accepts "a file of the limit's size" size "$work/hundred" 100
+if "$here/audit.sh" size "$work/hundred" 99 >/dev/null; then
+    Report "a file larger than the limit passed"
+fi
+
+if ((failures > 0)); then
+    echo "$failures failed" >&2
+    exit 1
+fi
+echo "the audit refuses all that it should"

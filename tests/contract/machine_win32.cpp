@@ -1,0 +1,175 @@
+#include <windows.h>
+
+#include <shlwapi.h>
+#include <winternl.h>
+
+#include <stdexcept>
+#include <vector>
+
+#include "contract/machine.h"
+#include "contract/win32/child.h"
+#include "platform/win32/handle.h"
+#include "platform/win32/machine.h"
+#include "platform/win32/text.h"
+#include "toolkit/form.h"
+
+namespace contract {
+
+namespace {
+
+namespace win32 = platform::win32;
+
+// The services need no windows, and the suite opens none.
+class NoForms final : public toolkit::FormHost {
+  public:
+    void Open(toolkit::Form&) override { throw std::logic_error("no forms here"); }
+    void RunModal(toolkit::Form&) override { throw std::logic_error("no forms here"); }
+    void Close(toolkit::Form&) override {}
+    toolkit::Bounds WorkArea() const override { return {}; }
+    std::vector<toolkit::Form*> OpenForms() const override { return {}; }
+};
+
+// What NtQueryValueKey tells: the value as it is stored, without a terminator of the query's own.
+struct ValueRecord {
+    ULONG titleIndex;
+    ULONG type;
+    ULONG size;
+    BYTE data[1];
+};
+
+using QueryValueKey = NTSTATUS(NTAPI*)(HANDLE, UNICODE_STRING*, int, void*, ULONG, ULONG*);
+constexpr int PartialInformation = 2;
+
+bool IsText(std::uint32_t type) {
+    return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
+}
+
+std::string AnsiOf(std::wstring_view wide) {
+    std::string bytes(wide.size(), '\0');
+    WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()), bytes.data(),
+                        static_cast<int>(bytes.size()), nullptr, nullptr);
+    return bytes;
+}
+
+void RemoveTraces() {
+    const std::wstring scratch = win32::ToWide(Scratch);
+    for (HKEY root : {HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        SHDeleteKeyW(root, scratch.c_str());
+    }
+    const std::wstring title = win32::ToWide(Title);
+    SHDeleteKeyW(HKEY_CURRENT_USER, (L"Software\\VB and VBA Program Settings\\" + title).c_str());
+    SHDeleteValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Run",
+                   title.c_str());
+}
+
+std::wstring ScratchDirectory() {
+    wchar_t buffer[MAX_PATH];
+    return std::wstring(buffer, GetTempPathW(MAX_PATH, buffer)) + win32::ToWide(Title);
+}
+
+void RemoveScratchDirectory() {
+    const std::wstring directory = ScratchDirectory();
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW((directory + L"\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        DeleteFileW((directory + L'\\' + found.cFileName).c_str());
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    RemoveDirectoryW(directory.c_str());
+}
+
+}  // namespace
+
+struct TestMachine::Inside {
+    NoForms forms;
+    win32::Machine machine{forms};
+};
+
+TestMachine::TestMachine() : inside_(std::make_unique<Inside>()) {
+    RemoveTraces();
+    RemoveScratchDirectory();
+    CreateDirectoryW(ScratchDirectory().c_str(), nullptr);
+}
+
+TestMachine::~TestMachine() {
+    inside_.reset();
+    RemoveTraces();
+    RemoveScratchDirectory();
+}
+
+platform::Machine& TestMachine::Services() {
+    return inside_->machine.services;
+}
+
+std::optional<Stored> TestMachine::StoredAt(platform::Registry::Key root, std::string_view path,
+                                            std::string_view valueName) const {
+    win32::RegistryKey key;
+    if (RegOpenKeyExW(reinterpret_cast<HKEY>(root), win32::ToWide(path).c_str(), 0, KEY_QUERY_VALUE,
+                      key.Out()) != ERROR_SUCCESS) {
+        return std::nullopt;
+    }
+    const auto query = reinterpret_cast<QueryValueKey>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryValueKey")));
+    std::wstring name = win32::ToWide(valueName);
+    const auto nameSize = static_cast<USHORT>(name.size() * sizeof(wchar_t));
+    UNICODE_STRING counted = {nameSize, nameSize, name.data()};
+    std::vector<BYTE> buffer(256 * 1024);
+    ULONG filled = 0;
+    if (query(key.Get(), &counted, PartialInformation, buffer.data(),
+              static_cast<ULONG>(buffer.size()), &filled) != 0) {
+        return std::nullopt;
+    }
+    const auto* value = reinterpret_cast<const ValueRecord*>(buffer.data());
+    if (IsText(value->type)) {
+        return Stored{value->type, AnsiOf({reinterpret_cast<const wchar_t*>(value->data),
+                                           value->size / sizeof(wchar_t)})};
+    }
+    return Stored{value->type, {reinterpret_cast<const char*>(value->data), value->size}};
+}
+
+std::string TestMachine::FilePath(std::string_view name) const {
+    return win32::FromWide(ScratchDirectory()) + '\\' + std::string(name);
+}
+
+std::optional<std::string> TestMachine::FileContent(std::string_view path) const {
+    const win32::FileHandle file(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ,
+                                             FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                             OPEN_EXISTING, 0, nullptr));
+    if (!file) return std::nullopt;
+    std::string content(GetFileSize(file.Get(), nullptr), '\0');
+    DWORD read = 0;
+    ReadFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &read, nullptr);
+    return content;
+}
+
+bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) {
+    const DWORD start = GetTickCount();
+    while (!done() && GetTickCount() - start < static_cast<DWORD>(milliseconds)) {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        Sleep(1);
+    }
+    return done();
+}
+
+std::string TestMachine::EndingCommand() const {
+    return ChildCommand("sleep 300");
+}
+
+std::string TestMachine::MissingCommand() {
+    return "C:\\QuillmoreContract\\missing.exe";
+}
+
+std::string TestMachine::ExpectedDirectory() const {
+    wchar_t path[MAX_PATH];
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    PathRemoveFileSpecW(path);
+    return win32::FromWide(path);
+}
+
+std::string TestMachine::ExpectedName() const {
+    return "test_contract";
+}
+
+}  // namespace contract

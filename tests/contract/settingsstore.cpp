@@ -1,0 +1,51 @@
+#include "platform/settingsstore.h"
+
+#include <doctest/doctest.h>
+
+#include "contract/machine.h"
+
+namespace {
+
+using contract::Title;
+
+struct Fixture {
+    contract::TestMachine machine;
+    platform::SettingsStore& store = machine.Services().settings;
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "an absent title, section or key gives the fallback") {
+    CHECK(store.Get(Title, "Options", "Tab", "0") == "0");
+    CHECK(store.Get(Title, "Options", "Tab", "") == "");
+    store.Save(Title, "Options", "Other", "1");
+    CHECK(store.Get(Title, "Options", "Tab", "7") == "7");
+    CHECK(store.Get(Title, "Desktop", "Other", "7") == "7");
+}
+
+TEST_CASE_FIXTURE(Fixture, "what was saved is read again and the last text wins") {
+    store.Save(Title, "Options", "Tab", "3");
+    CHECK(store.Get(Title, "Options", "Tab", "0") == "3");
+    store.Save(Title, "Options", "Tab", "");
+    CHECK(store.Get(Title, "Options", "Tab", "0") == "");
+    store.Save(Title, "Options", "Tab", "a much longer text than before");
+    CHECK(store.Get(Title, "Options", "Tab", "0") == "a much longer text than before");
+}
+
+TEST_CASE_FIXTURE(Fixture, "texts keep their umlauts, blanks and length") {
+    const std::string longText(5000, 'x');
+    for (const std::string& text :
+         {std::string("Größe: äöüß €"), std::string("  blanks  "), longText}) {
+        store.Save(Title, "Options", "ServerName", text);
+        CHECK(store.Get(Title, "Options", "ServerName", "") == text);
+    }
+}
+
+TEST_CASE_FIXTURE(Fixture, "sections and titles are apart, letters' case is not") {
+    store.Save(Title, "Options", "Tab", "1");
+    store.Save(Title, "Desktop", "Tab", "2");
+    CHECK(store.Get(Title, "Options", "Tab", "") == "1");
+    CHECK(store.Get(Title, "Desktop", "Tab", "") == "2");
+    CHECK(store.Get(Title, "OPTIONS", "tab", "") == "1");
+    CHECK(store.Get(std::string(Title) + "2", "Options", "Tab", "none") == "none");
+}

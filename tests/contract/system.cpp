@@ -1,0 +1,38 @@
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <cctype>
+
+#include "contract/machine.h"
+#include "platform/memory.h"
+#include "platform/operatingsystem.h"
+#include "platform/systemfacts.h"
+
+TEST_CASE("the operating system is XP, build 2600") {
+    contract::TestMachine machine;
+    const auto facts = machine.Services().system.Facts();
+    CHECK(facts.name == "Microsoft Windows XP");
+    CHECK(facts.major == 5);
+    CHECK(facts.minor == 1);
+    CHECK(facts.build == 2600);
+}
+
+TEST_CASE("the directories are full paths without a backslash behind, the system's below Windows") {
+    contract::TestMachine machine;
+    const auto& facts = machine.Services().facts;
+    const std::string windows = facts.WindowsDirectory();
+    const std::string system = facts.SystemDirectory();
+    REQUIRE(windows.size() > 3);
+    CHECK(windows.substr(1, 2) == ":\\");
+    CHECK(windows.back() != '\\');
+    CHECK(system.substr(0, windows.size() + 1) == windows + "\\");
+    CHECK(system.back() != '\\');
+}
+
+TEST_CASE("the memory is told in decimal digits and is at least 64 megabytes") {
+    contract::TestMachine machine;
+    const std::string total = machine.Services().memory.TotalPhysical();
+    REQUIRE(!total.empty());
+    CHECK(std::all_of(total.begin(), total.end(), [](char c) { return std::isdigit(c) != 0; }));
+    CHECK(std::stoull(total) >= 64ull << 20);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace endtoend {
+
+// The tabs of another process's tab control. Its messages fill in structures, which must lie in
+// that process's memory.
+class Tabs {
+  public:
+    explicit Tabs(HWND window) : window_(window) {}
+
+    std::vector<std::string> Captions() const;
+    // Of one tab, in the coordinates of the control.
+    RECT Area(int tab) const;
+
+  private:
+    HWND window_;
+};
+
+}  // namespace endtoend

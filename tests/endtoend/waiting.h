@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace endtoend {
+
+// What was asked for did not come, or cannot be done from outside. The text says what and why.
+struct Failed : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// Milliseconds: how long anything may take, and the distance of two looks.
+inline constexpr unsigned Patience = 15000;
+inline constexpr unsigned Step = 10;
+
+// Looks until `come` says true. Throws Failed with `what` when that takes longer than `patience`.
+void Until(const std::string& what, const std::function<bool()>& come,
+           unsigned patience = Patience);
+
+}  // namespace endtoend

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+#include "endtoend/program.h"
+
+namespace endtoend {
+
+// The bytes of a file; empty when there is none.
+std::string ReadFile(const std::string& path);
+
+// The folder of the running test program; programs and data files of the suite lie in it.
+std::string OwnFolder();
+
+// A machine in a known state and a folder of its own with the program in it: the registry is the
+// baseline's, the settings store holds nothing. The folder goes with this object, and the registry
+// is put back.
+class Workplace {
+  public:
+    enum class Warning { Fresh, Accepted };
+
+    explicit Workplace(Warning warning = Warning::Accepted,
+                       const std::string& executable = "Quillmore.exe");
+    ~Workplace();
+    Workplace(const Workplace&) = delete;
+    Workplace& operator=(const Workplace&) = delete;
+
+    const std::string& Folder() const { return folder_; }
+    std::string Executable() const { return folder_ + '\\' + executable_; }
+
+    // The log beside the program; empty when there is none.
+    std::string Log() const { return ReadFile(folder_ + "\\Quillmore.log"); }
+
+    // What Windows the program is to find, in Wine's words: "winxp", "win2k".
+    void PretendWindows(const std::string& version) const;
+
+    // Writes the text into the settings store, as the program itself stores it.
+    void Store(const std::string& section, const std::string& key, const std::string& text) const;
+    // What is stored; "(absent)" when nothing is.
+    std::string Stored(const std::string& section, const std::string& key) const;
+
+  private:
+    void PutKnownState() const;
+
+    std::string executable_;
+    std::string folder_;
+};
+
+// The program on this workplace, started and open.
+class OpenProgram : public Program {
+  public:
+    explicit OpenProgram(const Workplace& workplace, const std::string& arguments = "");
+};
+
+}  // namespace endtoend
