@@ -24,6 +24,7 @@ frmPassword::frmPassword(const platform::Machine& machine)
     };
 
     defaultButton = &cmdOK;
+    cmdOK.MarkDefault(true);
     cancelButton = &cmdCancel;
     firstFocus = &txtPasswort;
     sizeToContent = true;

@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "controls/chameleonbutton.h"
+#include "controls/recordingcanvas.h"
 #include "platform/simulated/machine.h"
 #include "toolkit/controls.h"
 
@@ -86,4 +87,15 @@ TEST_CASE("the password is typed hidden, with Return for OK and Escape for Cance
     CHECK(test.Button("cmdCancel").Caption() == "Abbrechen");
     CHECK(test.form.FindControl("Label1") != nullptr);
     CHECK(test.form.FindControl("Label2") != nullptr);
+}
+
+TEST_CASE("the OK button of the password dialog wears the frame of the default button") {
+    Asked test;
+    const auto framed = [&](const char* name) {
+        controls_test::RecordingCanvas canvas;
+        test.Button(name).Paint(canvas, {0, 0, 75, 23});
+        return canvas.calls.at(1) == "FrameRect 0,0 75x23 black";
+    };
+    CHECK(framed("cmdOK"));
+    CHECK_FALSE(framed("cmdCancel"));
 }
