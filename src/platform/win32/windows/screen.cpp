@@ -30,7 +30,7 @@ class ScreenContext {
 Screen::Screen()
     : dotsPerInch_(GetDeviceCaps(ScreenContext().Get(), LOGPIXELSY)),
       plain_(MakeFont(8, FW_NORMAL)),
-      heading_(MakeFont(10, FW_BOLD)) {}
+      heading_(MakeFont(9, FW_BOLD)) {}
 
 HFONT Screen::MakeFont(int points, int weight) const {
     return CreateFontW(-MulDiv(points, dotsPerInch_, PointsPerInch), 0, 0, 0, weight, FALSE, FALSE,

@@ -23,12 +23,15 @@ void TextBoxWindow::Prepare() {
     Send(EM_SETLIMITTEXT, limit > 0 ? static_cast<WPARAM>(limit) : NoLimit);
 }
 
-// What the field shows already is left alone, since setting it would move the caret.
+// Setting a text takes the caret to its start, where nobody goes on typing.
 void TextBoxWindow::ShowValue() {
     if (TextOf(Window()) == control_.Text()) return;
+    DWORD caret = 0;
+    Send(EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
     showing_ = true;
     SetWindowTextW(Window(), ToWide(control_.Text()).c_str());
     showing_ = false;
+    Send(EM_SETSEL, caret, static_cast<LPARAM>(caret));
 }
 
 // What the user types reaches the control at once; the field then shows what the control holds,
