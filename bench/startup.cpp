@@ -1,6 +1,7 @@
 // Measures the real program from its start to its first idle moment, against a bare program that
 // makes the same number of windows: interleaved pairs, medians, ratio. Then its private memory.
 // Call: startup <Quillmore.exe> <barewindow.exe> [pairs]
+// Accepts the program's warning for the current user, as nobody is there to do so.
 #include <windows.h>
 
 #include <psapi.h>
@@ -45,6 +46,18 @@ BOOL CALLBACK FindMain(HWND window, LPARAM search) {
 [[noreturn]] void Fail(const char* what) {
     std::printf("startup: %s (error %lu)\n", what, GetLastError());
     std::exit(1);
+}
+
+void AcceptWarning() {
+    HKEY options = nullptr;
+    if (RegCreateKeyExA(HKEY_CURRENT_USER,
+                        "Software\\VB and VBA Program Settings\\Quillmore\\Options", 0, nullptr, 0,
+                        KEY_SET_VALUE, nullptr, &options, nullptr) != ERROR_SUCCESS) {
+        Fail("cannot accept the warning");
+    }
+    const char yes[] = "Yes";
+    RegSetValueExA(options, "Accepted", 0, REG_SZ, reinterpret_cast<const BYTE*>(yes), sizeof yes);
+    RegCloseKey(options);
 }
 
 Run Measure(std::string commandLine) {
@@ -101,6 +114,7 @@ int main(int count, char** arguments) {
     const std::string ours = std::string("\"") + arguments[1] + "\"";
     const int pairs = count > 3 ? std::atoi(arguments[3]) : 11;
 
+    AcceptWarning();
     const Run first = Measure(ours);
     const std::string bare =
         std::string("\"") + arguments[2] + "\" " + std::to_string(first.windows);

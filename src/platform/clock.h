@@ -24,7 +24,8 @@ class Clock {
 
     virtual LocalTime Now() const = 0;
 
-    // Calls `tick` every `milliseconds` until StopTimer. Never 0.
+    // Calls `tick` every `milliseconds` until StopTimer, but not while the tick before still runs.
+    // Never 0.
     virtual Timer StartTimer(int milliseconds, std::function<void()> tick) = 0;
     // A timer may stop itself from its own tick; one that does not run is passed over.
     virtual void StopTimer(Timer timer) = 0;

@@ -63,11 +63,29 @@ void Clock::Advance(int milliseconds) {
         if (timer.due > end) break;
         MoveTo(timer.due);
         timer.due += timer.interval;
-        // A tick may stop its own timer, which ends the original.
-        auto tick = timer.tick;
-        if (tick) tick();
+        Tick(next->first);
     }
     MoveTo(end);
+}
+
+void Clock::Tick(Timer timer) {
+    const auto mark = [&](bool ticking) {
+        if (auto running = timers_.find(timer); running != timers_.end()) {
+            running->second.ticking = ticking;
+        }
+    };
+    Running& running = timers_.at(timer);
+    if (running.ticking || !running.tick) return;
+    mark(true);
+    // A tick may stop its own timer, which ends the original.
+    auto tick = running.tick;
+    try {
+        tick();
+    } catch (...) {
+        mark(false);
+        throw;
+    }
+    mark(false);
 }
 
 void Clock::MoveTo(long long moment) {

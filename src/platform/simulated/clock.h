@@ -30,7 +30,9 @@ class Clock final : public platform::Clock {
         int interval;
         long long due;
         std::function<void()> tick;
+        bool ticking = false;
     };
+    void Tick(Timer timer);
     void MoveTo(long long moment);
 
     Journal& journal_;

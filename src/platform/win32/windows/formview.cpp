@@ -68,11 +68,11 @@ void FormWindow::ShowPosition() {
     placing_ = nested;
 }
 
-// The taskbar looks at the bit when a window comes into sight.
+// The taskbar looks at the owner when a window comes into sight.
 void FormWindow::ShowTaskbarEntry() {
     const bool visible = IsWindowVisible(window_);
     if (visible) ShowWindow(window_, SW_HIDE);
-    SetWindowLongW(window_, GWL_EXSTYLE, static_cast<LONG>(ExtendedStyle()));
+    SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(Owner()));
     if (visible) ShowWindow(window_, SW_SHOWNA);
 }
 

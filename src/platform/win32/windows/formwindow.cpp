@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/win32/text.h"
+#include "toolkit/drawncontrol.h"
 
 namespace platform::win32 {
 namespace {
@@ -29,26 +30,30 @@ DWORD FormWindow::Style() const {
     return (form_.isDialog ? dialog : WS_OVERLAPPEDWINDOW) | WS_CLIPCHILDREN;
 }
 
-// The main window is owned by one that is never seen, so that it is in the taskbar by this bit
-// alone.
 DWORD FormWindow::ExtendedStyle() const {
-    if (form_.isDialog) return WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-    return (form_.InTaskbar() ? WS_EX_APPWINDOW : 0) | WS_EX_CONTROLPARENT;
+    return (form_.isDialog ? WS_EX_DLGMODALFRAME : 0) | WS_EX_CONTROLPARENT;
+}
+
+// The taskbar shows the windows that nobody owns.
+HWND FormWindow::Owner() const {
+    return form_.isDialog || !form_.InTaskbar() ? owner_ : nullptr;
 }
 
 void FormWindow::Create(HWND owner) {
     RegisterForms();
+    owner_ = owner;
     if (form_.sizeToContent) FitToContent();
     const toolkit::Bounds& place = form_.Place();
     const Screen& screen = surroundings_.screen;
     window_ = CreateWindowExW(ExtendedStyle(), FormClass, ToWide(form_.Caption()).c_str(), Style(),
                               screen.ToPixels(place.left), screen.ToPixels(place.top),
-                              screen.ToPixels(place.width), screen.ToPixels(place.height), owner,
+                              screen.ToPixels(place.width), screen.ToPixels(place.height), Owner(),
                               nullptr, GetModuleHandleW(nullptr), this);
     name_.emplace(window_, form_.Name());
     if (!form_.isDialog) SetIcons();
     controls_.Create(form_, window_);
     form_.SetView(this);
+    if (form_.defaultButton) form_.defaultButton->MarkDefault(true);
 }
 
 void FormWindow::FitToContent() {

@@ -20,7 +20,8 @@ class FormWindow final : public toolkit::FormView, public std::enable_shared_fro
     FormWindow(toolkit::Form& form, const Surroundings& surroundings)
         : surroundings_(surroundings), form_(form), controls_(surroundings) {}
 
-    // Makes the window and those of the controls, hidden, and becomes the form's view.
+    // Makes the window and those of the controls, hidden, and becomes the form's view. A dialog
+    // belongs to `owner` for good, the main window only while it has no taskbar entry.
     void Create(HWND owner);
     // The form and its controls get no view and no event any more, and the windows go.
     void Destroy();
@@ -62,10 +63,12 @@ class FormWindow final : public toolkit::FormView, public std::enable_shared_fro
 
     DWORD Style() const;
     DWORD ExtendedStyle() const;
+    HWND Owner() const;
 
     const Surroundings surroundings_;
     toolkit::Form& form_;
     HWND window_ = nullptr;
+    HWND owner_ = nullptr;
     std::optional<ControlName> name_;
     ControlWindows controls_;
     std::vector<HWND> blocked_;

@@ -43,8 +43,8 @@ class WindowHost final : public toolkit::FormHost {
 
     platform::Messages& messages_;
     Screen screen_;
-    // Never seen. It owns the main window, whose taskbar entry can thereby be taken away, and gets
-    // the messages that wake a loop whose form has gone.
+    // Never seen. It owns the main window while that has no taskbar entry, and gets the messages
+    // that wake a loop whose form has gone.
     WindowHandle root_;
     // In the order of their loading.
     std::vector<std::shared_ptr<FormWindow>> windows_;
