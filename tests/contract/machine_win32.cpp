@@ -147,8 +147,11 @@ bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) 
     const DWORD start = GetTickCount();
     while (!done() && GetTickCount() - start < static_cast<DWORD>(milliseconds)) {
         MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-        Sleep(1);
+        if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            DispatchMessageW(&message);
+        } else {
+            Sleep(1);
+        }
     }
     return done();
 }

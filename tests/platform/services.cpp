@@ -105,6 +105,7 @@ TEST_CASE_FIXTURE(Services, "files refuse in the platform's way") {
     CHECK(open("C:\\Programme\\X\\old.log") == runtime::PermissionDenied);
     CHECK(open("C:\\Programme\\X\\new.log") == runtime::PermissionDenied);
     CHECK(open("C:\\Programme\\XY\\new.log") == 0);
+    CHECK(open("c:\\programme\\xy\\NEW.log") == runtime::PermissionDenied);
     CHECK(open("") == runtime::PathNotFound);
     CHECK(FailureOf([&] { machine.files.Write(99, "x"); }) == runtime::BadFileNumber);
     CHECK(machine.files.Content("C:\\Programme\\X\\old.log") == "old");

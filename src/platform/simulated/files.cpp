@@ -28,7 +28,7 @@ Files::Handle Files::OpenForAppend(std::string_view path) {
     PassOrThrow(journal_, faults_, line, "OpenForAppend", path);
     std::string folded = Folded(path);
     if (folded.empty()) ThrowFault(journal_, line, runtime::PathNotFound);
-    if (readOnly_.contains(DirectoryOf(folded))) {
+    if (readOnly_.contains(DirectoryOf(folded)) || IsOpen(folded)) {
         ThrowFault(journal_, line, runtime::PermissionDenied);
     }
     contents_.try_emplace(folded);
@@ -54,6 +54,11 @@ void Files::Close(Handle file) {
     // A file whose closing fails is closed all the same.
     open_.erase(file);
     PassOrThrow(journal_, faults_, line, "CloseFile", path);
+}
+
+bool Files::IsOpen(const std::string& folded) const {
+    return std::any_of(open_.begin(), open_.end(),
+                       [&](const auto& entry) { return entry.second == folded; });
 }
 
 void Files::Put(std::string_view path, std::string_view bytes) {

@@ -30,6 +30,8 @@ class Files final : public platform::Files {
     int OpenHandles() const { return static_cast<int>(open_.size()); }
 
   private:
+    bool IsOpen(const std::string& folded) const;
+
     Journal& journal_;
     Faults& faults_;
     std::map<std::string, std::string> contents_;

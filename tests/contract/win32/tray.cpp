@@ -1,0 +1,148 @@
+#include "platform/win32/tray.h"
+
+#include <doctest/doctest.h>
+
+#include <vector>
+
+#include "contract/machine.h"
+#include "contract/win32/boxes.h"
+#include "platform/messages.h"
+#include "runtime/failure.h"
+
+namespace {
+
+using platform::win32::WindowHandle;
+
+// A window of the shell's class, to which the notification calls go. How they are packed is the
+// system's business; the test only counts them.
+class ShellStandIn {
+  public:
+    ShellStandIn() {
+        WNDCLASSW windowClass = {};
+        windowClass.lpfnWndProc = Procedure;
+        windowClass.lpszClassName = L"Shell_TrayWnd";
+        RegisterClassW(&windowClass);
+        window_.Reset(CreateWindowExW(WS_EX_TOPMOST, L"Shell_TrayWnd", L"", WS_POPUP, 0, 0, 0, 0,
+                                      nullptr, nullptr, nullptr, nullptr));
+        calls = 0;
+        refuses = false;
+    }
+    ~ShellStandIn() {
+        window_.Close();
+        UnregisterClassW(L"Shell_TrayWnd", nullptr);
+    }
+
+    static inline int calls;
+    static inline bool refuses;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_COPYDATA) {
+            ++calls;
+            return refuses ? FALSE : TRUE;
+        }
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+
+    WindowHandle window_;
+};
+
+struct Fixture {
+    ShellStandIn shell;
+    contract::TestMachine machine;
+    platform::Tray& tray = machine.Services().tray;
+
+    // What the shell would send to the window that stands behind the icon.
+    void Send(UINT message, LPARAM lParam) {
+        // The clock's window is of the same class and passes such messages over.
+        for (HWND window = nullptr;
+             (window = FindWindowExW(nullptr, window, L"QuillmoreHidden", nullptr)) != nullptr;) {
+            SendMessageW(window, message, 0, lParam);
+        }
+    }
+    void RestartShell() { Send(RegisterWindowMessageW(L"TaskbarCreated"), 0); }
+    void Mouse(UINT message) { Send(WM_APP + 1, static_cast<LPARAM>(message)); }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "the shell is called when the icon really comes or goes") {
+    tray.SetIcon();
+    tray.SetTip("Quillmore");
+    CHECK(shell.calls == 0);
+    tray.SetShown(false);
+    CHECK(shell.calls == 0);
+    tray.SetShown(true);
+    CHECK(shell.calls == 1);
+    tray.SetShown(true);
+    CHECK(shell.calls == 1);
+    tray.SetShown(false);
+    CHECK(shell.calls == 2);
+    tray.SetShown(false);
+    CHECK(shell.calls == 2);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a shown icon takes a new tip and a new picture at once") {
+    tray.SetShown(true);
+    tray.SetTip(std::string(300, 'x'));
+    CHECK(shell.calls == 2);
+    tray.SetIcon();
+    CHECK(shell.calls == 3);
+}
+
+TEST_CASE_FIXTURE(Fixture, "when the shell starts anew a wanted icon comes back, no other") {
+    tray.SetShown(true);
+    RestartShell();
+    CHECK(shell.calls == 2);
+    tray.SetShown(false);
+    CHECK(shell.calls == 3);
+    RestartShell();
+    CHECK(shell.calls == 3);
+}
+
+TEST_CASE_FIXTURE(Fixture, "an icon that the shell refused is tried again when it starts") {
+    shell.refuses = true;
+    tray.SetShown(true);
+    CHECK(shell.calls == 1);
+    shell.refuses = false;
+    RestartShell();
+    CHECK(shell.calls == 2);
+    tray.SetShown(false);
+    CHECK(shell.calls == 3);
+}
+
+TEST_CASE_FIXTURE(Fixture, "the mouse on the icon is told by its button, a double click restores") {
+    std::vector<int> buttons;
+    int restores = 0;
+    tray.SetShown(true);
+    Mouse(WM_LBUTTONDOWN);  // nobody listens yet
+    tray.onMouseDown = [&](int button) { buttons.push_back(button); };
+    tray.onRestore = [&] { ++restores; };
+    Mouse(WM_LBUTTONDOWN);
+    Mouse(WM_RBUTTONDOWN);
+    Mouse(WM_RBUTTONUP);
+    Mouse(WM_MOUSEMOVE);
+    Mouse(WM_RBUTTONDBLCLK);
+    CHECK(buttons == std::vector{1, 2});
+    CHECK(restores == 0);
+    Mouse(WM_LBUTTONDBLCLK);
+    CHECK(restores == 1);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a failure in a tray event ends in a message and not in the shell") {
+    contract::BoxAnswerer user(platform::message::Ok);
+    tray.SetShown(true);
+    tray.onRestore = [] { throw runtime::Failure(5); };
+    Mouse(WM_LBUTTONDBLCLK);
+    CHECK(user.boxes == 1);
+}
+
+TEST_CASE("an icon that is shown goes with the machine") {
+    ShellStandIn shell;
+    {
+        contract::TestMachine machine;
+        machine.Services().tray.SetShown(true);
+        CHECK(shell.calls == 1);
+    }
+    CHECK(shell.calls == 2);
+}
