@@ -9,6 +9,8 @@
 #include "platform/win32/windows/windowhost.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    // XP looks for libraries in the current directory early; nothing of the program's lies there.
+    SetDllDirectoryW(L"");
     // Without this call XP cannot make the windows that the manifest asks for.
     InitCommonControls();
 
@@ -16,10 +18,13 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     platform::win32::WindowHost host(messages);
     platform::win32::Machine machine(host);
     app::frmMain form(machine.services);
+    bool started = false;
     platform::win32::GuardEvent(messages, [&] {
         form.Load();
         if (form.Loaded()) form.Show();
+        started = true;
     });
-    host.Run();
+    // A start that failed leaves no window by which the user could end the program.
+    if (started) host.Run();
     return 0;
 }

@@ -14,8 +14,9 @@ void CheckBoxWindow::ShowValue() {
     Send(BM_SETCHECK, control_.Value() == 1 ? BST_CHECKED : BST_UNCHECKED);
 }
 
+// A script's click reaches a disabled button too; a user's cannot.
 void CheckBoxWindow::Notified(UINT code) {
-    if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
+    if (code != BN_CLICKED || !control_.Enabled()) return;
     Guard([this] { control_.Toggle(); });
 }
 
@@ -49,8 +50,8 @@ void OptionButtonWindow::ShowValue() {
 // itself, but walking past with the tabulator must not choose.
 void OptionButtonWindow::Notified(UINT code) {
     if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
-    const bool walkingPast = GetKeyState(VK_TAB) < 0;
-    if (!walkingPast) Guard([this] { control_.SetValue(true); });
+    const bool chosen = control_.Enabled() && GetKeyState(VK_TAB) >= 0;
+    if (chosen) Guard([this] { control_.SetValue(true); });
     if (Window()) ForGroup([](OptionButtonWindow& member) { member.ShowValue(); });
 }
 
