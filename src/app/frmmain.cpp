@@ -6,6 +6,7 @@
 #include "app/startup.h"
 #include "app/version.h"
 #include "controls/chameleonbutton.h"
+#include "platform/program.h"
 #include "platform/settings.h"
 #include "platform/tray.h"
 #include "toolkit/controls.h"
@@ -82,7 +83,9 @@ bool frmMain::OnKeyDown(int virtualKey) {
     return true;
 }
 
+// A session that ends while the warning is still open leaves as little trace as a refusal.
 void frmMain::OnQueryUnload() {
+    if (!warningAccepted_) machine_.program.End();
     log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_); });
 }
 
@@ -100,6 +103,7 @@ void frmMain::Connect() {
 
 void frmMain::ComeBackFromTray() {
     SetState(toolkit::WindowState::Normal);
+    SetInTaskbar(true);
     Show();
     machine_.tray.SetShown(false);
 }

@@ -26,6 +26,9 @@ class frmMain final : public toolkit::Form {
     void ReadRegistry();
     void WriteRegistry();
 
+    // From here on closing stores the window's facts and the program's options.
+    void WarningAccepted() { warningAccepted_ = true; }
+
     // Builds strVersion and puts it into the caption.
     void BuildVersion();
     const std::string& strVersion() const { return version_; }
@@ -42,6 +45,7 @@ class frmMain final : public toolkit::Form {
     void ComeBackFromTray();
 
     platform::Machine machine_;
+    bool warningAccepted_ = false;
     std::string version_;
     ErrorLog log_;
     tweaks::Passes passes_;

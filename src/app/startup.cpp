@@ -26,8 +26,8 @@ using runtime::Skip;
 // The one build that the program's values are made for.
 constexpr int WindowsXpBuild = 2600;
 constexpr char RawSwitch[] = "-RAW";
-// One more than there are pages: the spare number passes the test and is then refused by the tab
-// control itself, so that the designed first page stays. On purpose.
+// One more than the last page's number: the spare one passes the test and is then refused by the
+// tab control itself, so that the designed first page stays. On purpose.
 constexpr std::int16_t LastStoredTab = 8;
 
 constexpr char SystemKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
@@ -134,6 +134,7 @@ void StartUp(frmMain& form, const platform::Machine& machine) {
     const Settings settings(machine.settings);
 
     AskForAcceptance(form, machine, settings);
+    form.WarningAccepted();
     RestoreWindow(form, machine, settings);
     if (machine.program.CommandLine() == RawSwitch) {
         ShowRawNotice(machine);

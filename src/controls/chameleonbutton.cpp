@@ -127,6 +127,8 @@ void chameleonButton::KeyUp(int virtualKey) {
 // Without the focus the space key's release goes elsewhere, so the button comes up by itself.
 void chameleonButton::FocusChanged(bool focused) {
     hasFocus_ = focused;
+    // A button that was left with the keyboard while it was held is not to click later.
+    if (!focused) leftPress_ = false;
     const bool comesUp = !focused && state_ == DrawState::Pressed;
     Redraw(comesUp ? DrawState::Normal : state_, true);
 }

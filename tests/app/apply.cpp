@@ -255,3 +255,39 @@ TEST_CASE("a second press runs everything again, questions included") {
     CHECK(dialogue.machine.journal.Lines().size() == first.size());
     CHECK(dialogue.Titles().size() == 6);
 }
+
+TEST_CASE("the message of success follows a write pass that raises a failure") {
+    Dialogue dialogue;
+    controls::frmPassword password(dialogue.machine.services);
+    bool saved = false;
+    tweaks::Apply apply(*dialogue.form, password, dialogue.machine.services,
+                        {.saveProgramOptions = [&] { saved = true; },
+                         .writeRegistry = [] { throw runtime::Failure(runtime::Overflow); }});
+    dialogue.Answer(6, 7, 7);
+    apply.Run();
+    CHECK(saved);
+    CHECK(dialogue.Titles() == Strings{Confirm, RestorePoint, Done});
+}
+
+TEST_CASE("a failing option store does not keep the system from being written") {
+    Dialogue dialogue;
+    dialogue.machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
+    dialogue.Answer(6, 7, 7);
+    dialogue.Apply();
+    CHECK(dialogue.Wrote());
+}
+
+TEST_CASE("the password dialog comes up in the middle of the window") {
+    Dialogue dialogue;
+    dialogue.SetAutoLogin("Geheim");
+    toolkit::Bounds place;
+    dialogue.machine.forms.WhenModal("frmPassword", [&](toolkit::Form& dialog) {
+        place = dialog.Place();
+        dialog.Hide();
+    });
+    dialogue.machine.messages.Answer(Confirm, 6);
+    dialogue.Apply();
+    const toolkit::Bounds& parent = dialogue.form->Place();
+    CHECK(place.left + place.width / 2 == doctest::Approx(parent.left + parent.width / 2));
+    CHECK(place.top + place.height / 2 == doctest::Approx(parent.top + parent.height / 2));
+}

@@ -124,3 +124,39 @@ TEST_CASE("closing leaves no timer running and no file open") {
     CHECK(program.machine.clock.RunningTimers() == 0);
     CHECK(program.machine.files.OpenHandles() == 0);
 }
+
+TEST_CASE("closing unloads every other open form") {
+    Program program;
+    program.machine.registry.Put(platform::Registry::LocalMachine,
+                                 "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
+                                 "AutoAdminLogon", platform::simulated::TextValue("1"));
+    REQUIRE(program.Start());
+    program.Text("txtALPassword").SetText("geheim");
+    program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
+        form.Find<controls::chameleonButton>("cmdCancel").Press();
+    });
+    program.machine.messages.Answer("Einstellungen speichern", 6);
+    program.Press("cmdApply");
+    REQUIRE(program.machine.forms.OpenForms().size() == 2);
+    CHECK(program.Close());
+    CHECK(program.machine.forms.OpenForms().size() == 1);
+}
+
+TEST_CASE("a closing that failed half-way still hides the tray icon and leaves no hidden dialog") {
+    Program program;
+    program.machine.registry.Put(platform::Registry::LocalMachine,
+                                 "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
+                                 "AutoAdminLogon", platform::simulated::TextValue("1"));
+    REQUIRE(program.Start());
+    program.Text("txtALPassword").SetText("geheim");
+    program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
+        form.Find<controls::chameleonButton>("cmdCancel").Press();
+    });
+    program.machine.messages.Answer("Einstellungen speichern", 6);
+    program.Press("cmdApply");
+    program.machine.tray.shown = true;
+    program.machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
+    program.Close();
+    CHECK_FALSE(program.machine.tray.shown);
+    CHECK(program.machine.forms.OpenForms().empty());
+}

@@ -160,3 +160,21 @@ TEST_CASE("a start minimised without the tray option keeps the taskbar entry") {
     CHECK(program.form->Visible());
     CHECK_FALSE(program.machine.tray.shown);
 }
+
+TEST_CASE("a stored MinimizeAfterStart of 0 makes the taskbar entry visible") {
+    Program program;
+    program.machine.settings.Put("Options", "MinimizeAfterStart", "0");
+    program.form = std::make_unique<app::frmMain>(program.machine.services);
+    program.form->SetInTaskbar(false);
+    program.form->Load();
+    CHECK(program.form->InTaskbar());
+}
+
+TEST_CASE("the autostart entry records the program's directory and name") {
+    Program program;
+    REQUIRE(program.Start());
+    program.Check("chkCreateAutoStart").SetValue(1);
+    app::SaveProgramOptions(*program.form, program.machine.services);
+    CHECK(program.machine.autostart.entries["Quillmore"].find(
+              "C:\\Programme\\Quillmore\\Quillmore.exe") != std::string::npos);
+}

@@ -24,6 +24,29 @@ constexpr char GateTitle[] = "Quillmore - Falsches Betriebssystem";
 
 }  // namespace
 
+TEST_CASE("a fresh store brings the warning up") {
+    platform::simulated::Machine machine;
+    bool asked = false;
+    machine.forms.WhenModal("frmFirstInfo", [&](toolkit::Form& form) {
+        asked = true;
+        form.Unload();
+    });
+    app::frmMain form(machine.services);
+    CHECK_THROWS_AS(form.Load(), platform::simulated::ProgramEnded);
+    CHECK(asked);
+}
+
+TEST_CASE("a session that ends while the warning is open leaves no trace") {
+    Program program;
+    program.machine.settings.Put("Options", "Accepted", "No");
+    const auto settings = program.machine.settings.All();
+    program.machine.forms.WhenModal("frmFirstInfo",
+                                    [&](toolkit::Form&) { program.form->Unload(); });
+    CHECK_FALSE(program.Start());
+    CHECK(program.machine.settings.All() == settings);
+    CHECK(program.machine.journal.Calls("AutoStartRemove").empty());
+}
+
 TEST_CASE("refusing the warning at the first start leaves no trace") {
     Program program;
     program.machine.settings.Put("Options", "Accepted", "No");
@@ -78,6 +101,15 @@ TEST_CASE("a stored Left of -120 opens the window at 1, a stored Top of 300 at 3
     REQUIRE(program.Start());
     CHECK(program.form->Place().left == 1);
     CHECK(program.form->Place().top == 300);
+}
+
+TEST_CASE("a stored Left and Top of 0 are no negative numbers") {
+    Program program;
+    program.machine.settings.Put("Options", "Left", "0");
+    program.machine.settings.Put("Options", "Top", "0");
+    REQUIRE(program.Start());
+    CHECK(program.form->Place().left == 0);
+    CHECK(program.form->Place().top == 0);
 }
 
 TEST_CASE("a stored negative Top opens the window at 1") {
@@ -170,6 +202,10 @@ TEST_CASE("stored Width and Height have no effect") {
     REQUIRE(program.Start());
     CHECK(program.form->Place().width == 9990);
     CHECK(program.form->Place().height == 7920);
+    for (const std::string& read : program.machine.journal.Calls("GetSetting")) {
+        CHECK(read.find("\"Width\"") == std::string::npos);
+        CHECK(read.find("\"Height\"") == std::string::npos);
+    }
 }
 
 TEST_CASE("another build than 2600 brings the message and closes the window") {
@@ -325,4 +361,71 @@ TEST_CASE("ReadRegistry reports nothing on a machine on which no value exists") 
     CHECK(program.machine.messages.Shown().empty());
     CHECK_FALSE(program.machine.files.Content(LogPath).has_value());
     CHECK(program.form->Pointer() == toolkit::DefaultPointer);
+}
+
+TEST_CASE("a read pass that fails is logged as ReadRegistry, and start-up goes on") {
+    Program program;
+    program.machine.registry.Put(Registry::CurrentUser, "Control Panel\\Desktop", "MenuShowDelay",
+                                 TextValue("3000000000"));
+    program.machine.settings.Put("Options", "Tab", "7");
+    REQUIRE(program.Start());
+    REQUIRE(program.machine.messages.Shown().size() == 1);
+    CHECK(program.machine.messages.Shown()[0].title == "Fehler 6");
+    CHECK(program.machine.messages.Shown()[0].text ==
+          "Überlauf\r\n\r\nQuelle: Quillmore\r\nProzedur: ReadRegistry");
+    CHECK(program.machine.files.Content(LogPath)->find("Procedure: ReadRegistry") !=
+          std::string::npos);
+    CHECK(program.Text("txtOSVersion").Text().empty());
+    CHECK(program.form->Pointer() == toolkit::Hourglass);
+    CHECK(Tab(program) == 7);
+    CHECK(program.form->Visible());
+}
+
+TEST_CASE("the steps of start-up stand in their order") {
+    const char* order[] = {"\"Accepted\"",
+                           "\"State\"",
+                           "\"Left\"",
+                           "\"Top\"",
+                           "GetVersionExA",
+                           "DisablePagingExecutive",
+                           "\"EnableVia4x\"",
+                           "\"TransparentIcons\"",
+                           "\"Luminance\"",
+                           "AutoStartExists",
+                           "\"TrayIcon\"",
+                           "\"MinimizeAfterStart\"",
+                           "\"RebootQuestion\"",
+                           "\"ForceReboot\"",
+                           "CSDVersion",
+                           "\"ServerName\"",
+                           "\"Tab\"",
+                           "\"SyncAtom\"",
+                           "\"SyncServer\""};
+    Program seeded;
+    seeded.machine.registry.MakeKey(Registry::LocalMachine, MemoryKey);
+    seeded.machine.registry.MakeKey(Registry::LocalMachine, SystemKey);
+    seeded.machine.registry.MakeKey(Registry::LocalMachine,
+                                    "SYSTEM\\CurrentControlSet\\Services\\nv4\\Device0");
+    REQUIRE(seeded.Start());
+    std::size_t from = 0;
+    const auto& lines = seeded.machine.journal.Lines();
+    for (const char* step : order) {
+        CAPTURE(step);
+        while (from < lines.size() && lines[from].find(step) == std::string::npos) ++from;
+        CHECK(from < lines.size());
+    }
+}
+
+TEST_CASE("the warning comes up in the middle of the designed window") {
+    Program program;
+    program.machine.settings.Put("Options", "Accepted", "No");
+    toolkit::Bounds place;
+    program.machine.forms.WhenModal("frmFirstInfo", [&](toolkit::Form& form) {
+        place = form.Place();
+        form.Unload();
+    });
+    CHECK_FALSE(program.Start());
+    const toolkit::Bounds& parent = program.form->Place();
+    CHECK(place.left + place.width / 2 == doctest::Approx(parent.left + parent.width / 2));
+    CHECK(place.top + place.height / 2 == doctest::Approx(parent.top + parent.height / 2));
 }

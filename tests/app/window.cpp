@@ -46,7 +46,28 @@ TEST_CASE("the tray icon brings the window back to its normal state and hides it
     program.form->WindowMoved(WindowState::Minimised, program.form->Place());
     program.machine.tray.onRestore();
     CHECK(program.form->State() == WindowState::Normal);
+    CHECK(program.form->InTaskbar());
     CHECK(program.form->Visible());
     CHECK_FALSE(program.machine.tray.shown);
     CHECK(program.form->Place().width == 9990);
+}
+
+TEST_CASE("after the tray brought the window back, closing stores its place and server name") {
+    Program program;
+    REQUIRE(program.Start());
+    program.Check("chkTrayIcon").SetValue(1);
+    program.Text("txtSyncServer").SetText("zeit");
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    program.machine.tray.onRestore();
+    CHECK(program.Close());
+    CHECK(program.Stored("State") == "0");
+    CHECK(program.Stored("ServerName") == "zeit");
+}
+
+TEST_CASE("minimising without the tray option makes a hidden taskbar entry visible again") {
+    Program program;
+    REQUIRE(program.Start());
+    program.form->SetInTaskbar(false);
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    CHECK(program.form->InTaskbar());
 }

@@ -1,5 +1,6 @@
 #include "platform/win32/windows/screen.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/win32/windows/accessmarks.h"
@@ -50,8 +51,11 @@ int Screen::Scale(int pixels) const {
     return MulDiv(pixels, dotsPerInch_, DesignDotsPerInch);
 }
 
+// A stored place may be any number; windows lie within 16 bits.
 int Screen::ToPixels(float twips) const {
-    return static_cast<int>(std::lround(twips * static_cast<float>(dotsPerInch_) / TwipsPerInch));
+    constexpr float Furthest = 32767;
+    const float pixels = twips * static_cast<float>(dotsPerInch_) / TwipsPerInch;
+    return static_cast<int>(std::lround(std::clamp(pixels, -Furthest, Furthest)));
 }
 
 float Screen::ToTwips(int pixels) const {

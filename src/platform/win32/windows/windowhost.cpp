@@ -61,7 +61,7 @@ void WindowHost::Run() {
 
 // One message. False when the program is to end; the loop around must then know it too.
 bool WindowHost::ServeOne() {
-    MSG message;
+    MSG message{};
     if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
         PostQuitMessage(static_cast<int>(message.wParam));
         return false;
