@@ -24,6 +24,12 @@ TEST_CASE("each malformed byte counts as one character") {
     CHECK(Length("\xF0\x9F\x98") == 3);
 }
 
+TEST_CASE("a character cut off at the end of a text is not completed by what lies behind it") {
+    CHECK(Length(std::string_view("€", 2)) == 2);
+    CHECK(Length(std::string_view("ä", 1)) == 1);
+    CHECK(Left(std::string_view("€", 2), 1) == "\xE2");
+}
+
 TEST_CASE("forms that UTF-8 forbids are malformed bytes") {
     CHECK(Length("\xC0\x80") == 2);
     CHECK(Length("\xC1\xBF") == 2);

@@ -76,7 +76,6 @@ void FormWindow::SetIcons() {
 
 void FormWindow::Destroy() {
     if (!window_) return;
-    Unblock();
     controls_.Detach();
     form_.SetView(nullptr);
     name_.reset();
@@ -84,7 +83,7 @@ void FormWindow::Destroy() {
     DestroyWindow(std::exchange(window_, nullptr));
 }
 
-void FormWindow::Block(std::vector<HWND> others) {
+void FormWindow::Block(const std::vector<HWND>& others) {
     for (const HWND other : others) {
         if (!EnableWindow(other, FALSE)) blocked_.push_back(other);
     }

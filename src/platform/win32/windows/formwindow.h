@@ -32,7 +32,7 @@ class FormWindow final : public toolkit::FormView, public std::enable_shared_fro
     toolkit::Form& Form() const { return form_; }
 
     // Keeps the user from these windows until the form is hidden.
-    void Block(std::vector<HWND> others);
+    void Block(const std::vector<HWND>& others);
 
     // Whether the message, of this window or one inside, was a key that the form or the dialog
     // rules have used up.

@@ -48,7 +48,7 @@ void WindowHost::RunModal(toolkit::Form& form) {
     for (const auto& other : windows_) {
         if (other != window && other->Window()) others.push_back(other->Window());
     }
-    window->Block(std::move(others));
+    window->Block(others);
     while (window->Window() && window->Form().Visible() && ServeOne()) {
     }
     if (IsWindowVisible(before)) SetActiveWindow(before);

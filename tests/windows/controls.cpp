@@ -1,0 +1,164 @@
+#include <windows.h>
+
+#include <commctrl.h>
+#include <doctest/doctest.h>
+
+#include "runtime/failure.h"
+#include "windows/desk.h"
+
+using namespace windows;
+
+TEST_CASE("every window carries its control's name in the ANSI code page") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    form.Add<toolkit::CheckBox>("chkÜber(1)", "Über");
+    form.Load();
+    CHECK(NameOf(desk.host.WindowOf(form)) == "frmMain");
+    CHECK(desk.Find(form, "chkÜber(1)") != nullptr);
+    form.Unload();
+    CHECK(GlobalFindAtomA(platform::win32::ToAnsi("chkÜber(1)").c_str()) == 0);
+}
+
+TEST_CASE("a click on a check box reaches the control, and the box shows what it holds") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& box = form.Add<toolkit::CheckBox>("chk", "Kasten");
+    form.SetLayout(Leaf(box));
+    form.Show();
+    const HWND window = desk.Find(form, "chk");
+
+    SUBCASE("a plain click") {
+        SendMessageW(window, BM_CLICK, 0, 0);
+        CHECK(box.Value() == 1);
+        CHECK(SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED);
+    }
+    SUBCASE("an event that takes the click back") {
+        box.onClick = [&] { box.SetValue(0); };
+        SendMessageW(window, BM_CLICK, 0, 0);
+        CHECK(SendMessageW(window, BM_GETCHECK, 0, 0) == BST_UNCHECKED);
+    }
+    SUBCASE("an event that fails ends in the default message") {
+        box.onClick = [] { throw runtime::Failure(runtime::Overflow); };
+        SendMessageW(window, BM_CLICK, 0, 0);
+        CHECK(SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED);
+        CHECK(desk.messages.texts.size() == 1);
+    }
+    SUBCASE("a disabled box stays as it is") {
+        box.SetEnabled(false);
+        SendMessageW(window, BM_CLICK, 0, 0);
+        CHECK(box.Value() == 0);
+    }
+}
+
+TEST_CASE("one option button of a group is selected, and the tabulator stops at that one") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& first = form.Add<toolkit::OptionButton>("opt(0)", "Erste", 1);
+    auto& second = form.Add<toolkit::OptionButton>("opt(1)", "Zweite", 1);
+    form.SetLayout(toolkit::Column({Leaf(first), Leaf(second)}));
+    form.Show();
+    const auto isStop = [&](const char* name) {
+        return (GetWindowLongW(desk.Find(form, name), GWL_STYLE) & WS_TABSTOP) != 0;
+    };
+    CHECK(isStop("opt(0)"));
+    CHECK_FALSE(isStop("opt(1)"));
+    SendMessageW(desk.Find(form, "opt(1)"), BM_CLICK, 0, 0);
+    CHECK(second.Value());
+    CHECK_FALSE(isStop("opt(0)"));
+    CHECK(isStop("opt(1)"));
+    first.SetValue(true);
+    CHECK(SendMessageW(desk.Find(form, "opt(0)"), BM_GETCHECK, 0, 0) == BST_CHECKED);
+    CHECK(SendMessageW(desk.Find(form, "opt(1)"), BM_GETCHECK, 0, 0) == BST_UNCHECKED);
+}
+
+TEST_CASE("what is typed reaches the text box, and the field shows what the box made of it") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& box = form.Add<toolkit::TextBox>("txt", toolkit::TextBoxStyle{.maxLength = 4});
+    form.Load();
+    const HWND window = desk.Find(form, "txt");
+    const auto type = [&](wchar_t character) { SendMessageW(window, WM_CHAR, character, 0); };
+
+    SUBCASE("letter by letter, up to the limit") {
+        int changes = 0;
+        box.onChange = [&] { ++changes; };
+        for (const wchar_t character : {L'ä', L'b', L'c', L'd', L'e'}) type(character);
+        CHECK(box.Text() == "äbcd");
+        CHECK(changes == 4);
+    }
+    SUBCASE("an event that changes the text leaves the caret where it was") {
+        box.onChange = [&] {
+            if (box.Text() == "ax") box.SetText("ay");
+        };
+        for (const wchar_t character : {L'a', L'x', L'z'}) type(character);
+        CHECK(TextOf(window) == "ayz");
+        CHECK(box.Text() == "ayz");
+    }
+    SUBCASE("text set by the program is shown and raises one event") {
+        int changes = 0;
+        box.onChange = [&] { ++changes; };
+        box.SetText("neu");
+        CHECK(TextOf(window) == "neu");
+        CHECK(changes == 1);
+    }
+}
+
+TEST_CASE("a field without a limit takes a long text") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& box = form.Add<toolkit::TextBox>("txt");
+    form.Load();
+    const std::string longText(40000, 'x');
+    SendMessageW(desk.Find(form, "txt"), EM_REPLACESEL, FALSE,
+                 reinterpret_cast<LPARAM>(platform::win32::ToWide(longText).c_str()));
+    CHECK(box.Text() == longText);
+}
+
+TEST_CASE("the slider's thumb and its control go together") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& slider = form.Add<toolkit::Slider>("sld", toolkit::SliderRange{1, 400, 1, 5, 5}, 100);
+    form.Load();
+    const HWND window = desk.Find(form, "sld");
+    CHECK(SendMessageW(window, TBM_GETPOS, 0, 0) == 100);
+    SendMessageW(window, WM_KEYDOWN, VK_RIGHT, 0);
+    CHECK(slider.Value() == 101);
+    SendMessageW(window, WM_KEYDOWN, VK_NEXT, 0);
+    CHECK(slider.Value() == 106);
+    slider.SetValue(400);
+    CHECK(SendMessageW(window, TBM_GETPOS, 0, 0) == 400);
+}
+
+TEST_CASE("all pages' controls exist from the start, and one page is visible") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& tabs = form.Add<toolkit::TabStrip>("SSTab1", std::vector<std::string>{"Eins", "Zwei"});
+    auto& first = form.Add<toolkit::CheckBox>("chkOne", "eins");
+    auto& second = form.Add<toolkit::CheckBox>("chkTwo", "zwei");
+    form.SetLayout(Pages(tabs, {Leaf(first), Leaf(second)}));
+    form.Show();
+    CHECK(IsWindowVisible(desk.Find(form, "chkOne")));
+    CHECK_FALSE(IsWindowVisible(desk.Find(form, "chkTwo")));
+
+    SUBCASE("the program turns the page") {
+        tabs.SetTab(1);
+    }
+    SUBCASE("the user turns the page") {
+        SendMessageW(desk.Find(form, "SSTab1"), TCM_SETCURFOCUS, 1, 0);
+        CHECK(tabs.Tab() == 1);
+    }
+    CHECK_FALSE(IsWindowVisible(desk.Find(form, "chkOne")));
+    CHECK(IsWindowVisible(desk.Find(form, "chkTwo")));
+    CHECK(SendMessageW(desk.Find(form, "SSTab1"), TCM_GETCURSEL, 0, 0) == 1);
+}
+
+TEST_CASE("a control that loses its use hands the focus on") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& first = form.Add<toolkit::TextBox>("txtOne");
+    form.Add<toolkit::TextBox>("txtTwo");
+    form.Show();
+    SetFocus(desk.Find(form, "txtOne"));
+    first.SetEnabled(false);
+    CHECK(GetFocus() == desk.Find(form, "txtTwo"));
+}

@@ -1,0 +1,176 @@
+#include <doctest/doctest.h>
+
+#include "windows/desk.h"
+
+using namespace windows;
+
+namespace {
+
+RECT PlaceOf(HWND window) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    return area;
+}
+
+struct MainWindow : Desk {
+    TestForm form{host, "frmMain"};
+
+    MainWindow() { form.isDialog = false; }
+    HWND Window() const { return host.WindowOf(form); }
+};
+
+}  // namespace
+
+TEST_CASE("a form has its window from Load to Unload, and is listed in that time") {
+    Desk desk;
+    TestForm first(desk.host, "frmMain");
+    TestForm second(desk.host, "frmAbout");
+    CHECK(desk.host.WindowOf(first) == nullptr);
+    first.Load();
+    second.Load();
+    CHECK(desk.host.OpenForms() == std::vector<toolkit::Form*>{&first, &second});
+    CHECK_FALSE(IsWindowVisible(desk.host.WindowOf(first)));
+    first.Unload();
+    CHECK(desk.host.WindowOf(first) == nullptr);
+    CHECK(desk.host.OpenForms() == std::vector<toolkit::Form*>{&second});
+}
+
+TEST_CASE("twips become pixels of the screen") {
+    MainWindow desk;
+    desk.form.Show();
+    const HDC screen = GetDC(nullptr);
+    const int perInch = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    const RECT area = PlaceOf(desk.Window());
+    CHECK(area.left == MulDiv(1500, perInch, 1440));
+    CHECK(area.right - area.left == MulDiv(6000, perInch, 1440));
+    CHECK(area.bottom - area.top == MulDiv(4500, perInch, 1440));
+}
+
+TEST_CASE(
+    "a place that the program sets keeps its exact twips, one that the user chooses is told") {
+    MainWindow desk;
+    desk.form.SetLeft(1);
+    desk.form.Show();
+    CHECK(desk.form.Place().left == 1.0F);
+    SetWindowPos(desk.Window(), nullptr, 60, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    CHECK(PlaceOf(desk.Window()).left == 60);
+    CHECK(desk.form.Place().left > 1.0F);
+    CHECK(desk.form.Place().width == 6000.0F);
+}
+
+TEST_CASE("a form that snaps back from Resize keeps its size") {
+    MainWindow desk;
+    desk.form.Show();
+    const RECT before = PlaceOf(desk.Window());
+    desk.form.resized = [&] {
+        if (desk.form.State() == toolkit::WindowState::Normal) desk.form.SetSize(6000, 4500);
+    };
+    SetWindowPos(desk.Window(), nullptr, 0, 0, 500, 400, SWP_NOMOVE | SWP_NOZORDER);
+    const RECT after = PlaceOf(desk.Window());
+    CHECK(after.right - after.left == before.right - before.left);
+    CHECK(after.bottom - after.top == before.bottom - before.top);
+}
+
+TEST_CASE("the user's minimising and restoring is told, and the place is kept over it") {
+    MainWindow desk;
+    desk.form.Show();
+    const toolkit::Bounds place = desk.form.Place();
+    std::vector<toolkit::WindowState> states;
+    desk.form.resized = [&] { states.push_back(desk.form.State()); };
+    ShowWindow(desk.Window(), SW_MINIMIZE);
+    CHECK(desk.form.Place() == place);
+    ShowWindow(desk.Window(), SW_RESTORE);
+    CHECK(states == std::vector{toolkit::WindowState::Minimised, toolkit::WindowState::Normal});
+    CHECK(desk.form.Place() == place);
+}
+
+TEST_CASE("a state set before the first Show is the one in which the window appears") {
+    MainWindow desk;
+    desk.form.Load();
+    SUBCASE("maximised") {
+        desk.form.SetState(toolkit::WindowState::Maximised);
+        CHECK_FALSE(IsWindowVisible(desk.Window()));
+        desk.form.Show();
+        CHECK(IsZoomed(desk.Window()));
+    }
+    SUBCASE("minimised") {
+        desk.form.SetState(toolkit::WindowState::Minimised);
+        desk.form.Show();
+        CHECK(IsIconic(desk.Window()));
+    }
+}
+
+TEST_CASE("a form hidden while minimised comes back in its normal state") {
+    MainWindow desk;
+    desk.form.Show();
+    desk.form.resized = [&] {
+        if (desk.form.State() != toolkit::WindowState::Minimised) return;
+        desk.form.SetInTaskbar(false);
+        desk.form.Hide();
+    };
+    ShowWindow(desk.Window(), SW_MINIMIZE);
+    CHECK_FALSE(IsWindowVisible(desk.Window()));
+    desk.form.SetState(toolkit::WindowState::Normal);
+    desk.form.Show();
+    CHECK(IsWindowVisible(desk.Window()));
+    CHECK_FALSE(IsIconic(desk.Window()));
+}
+
+TEST_CASE("the main window has a taskbar entry while nobody owns it") {
+    MainWindow desk;
+    desk.form.Show();
+    CHECK(GetWindow(desk.Window(), GW_OWNER) == nullptr);
+    desk.form.SetInTaskbar(false);
+    CHECK(GetWindow(desk.Window(), GW_OWNER) != nullptr);
+    CHECK(IsWindowVisible(desk.Window()));
+    desk.form.SetInTaskbar(true);
+    CHECK(GetWindow(desk.Window(), GW_OWNER) == nullptr);
+}
+
+TEST_CASE("closing by the close box or by the session's end unloads the form") {
+    MainWindow desk;
+    desk.form.Show();
+    SUBCASE("the close box") {
+        SendMessageW(desk.Window(), WM_CLOSE, 0, 0);
+        CHECK_FALSE(desk.form.Loaded());
+    }
+    SUBCASE("the session's end") {
+        CHECK(SendMessageW(desk.Window(), WM_QUERYENDSESSION, 0, 0) != 0);
+        CHECK(desk.form.Loaded());
+        SendMessageW(desk.Window(), WM_ENDSESSION, TRUE, 0);
+        CHECK_FALSE(desk.form.Loaded());
+    }
+    SUBCASE("a session's end that another program has refused") {
+        SendMessageW(desk.Window(), WM_ENDSESSION, FALSE, 0);
+        CHECK(desk.form.Loaded());
+    }
+}
+
+TEST_CASE("the form gets each key first") {
+    MainWindow desk;
+    desk.form.Add<toolkit::TextBox>("txt");
+    desk.form.keyDown = [&](int key) {
+        if (key == VK_F4) desk.form.Unload();
+        return key == VK_F4;
+    };
+    desk.form.Show();
+    PostMessageW(desk.Find(desk.form, "txt"), WM_KEYDOWN, VK_F4, 0);
+    desk.host.Run();
+    CHECK_FALSE(desk.form.Loaded());
+}
+
+TEST_CASE("the hourglass covers the whole form until it is taken away") {
+    MainWindow desk;
+    desk.form.Show();
+    const auto pointer = [&] {
+        SendMessageW(desk.Window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(desk.Window()),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return GetCursor();
+    };
+    desk.form.SetPointer(toolkit::Hourglass);
+    CHECK(GetCursor() == LoadCursorW(nullptr, IDC_WAIT));
+    CHECK(pointer() == LoadCursorW(nullptr, IDC_WAIT));
+    desk.form.SetPointer(toolkit::DefaultPointer);
+    CHECK(pointer() == LoadCursorW(nullptr, IDC_ARROW));
+}
