@@ -9,6 +9,8 @@
 #include "platform/win32/windows/windowhost.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    // XP looks for libraries in the current directory early; nothing of the program's lies there.
+    SetDllDirectoryW(L"");
     // Without this call XP cannot make the windows that the manifest asks for.
     InitCommonControls();
 

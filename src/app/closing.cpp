@@ -49,6 +49,7 @@ void CloseProgram(toolkit::Form& form, const platform::Machine& machine) {
     for (toolkit::Form* open : machine.forms.OpenForms()) {
         if (open != &form) open->Unload();
     }
+    machine.forms.Close(form);
     machine.program.End();
 }
 

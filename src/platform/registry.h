@@ -46,7 +46,8 @@ class Registry {
 
     // RegCreateKeyExA: a key that lasts, class "", no inheritance of the handle. Opens the key when
     // it is there already.
-    virtual Result Create(Key parent, std::string_view name, std::uint32_t access, Key& created) = 0;
+    virtual Result Create(Key parent, std::string_view name, std::uint32_t access,
+                          Key& created) = 0;
 
     // RegQueryValueExA. `size` holds the size of the buffer and gets the size of the data; texts
     // come in the ANSI code page. With `data` nullptr only type and size are asked. A buffer that

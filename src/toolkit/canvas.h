@@ -10,7 +10,9 @@ namespace toolkit {
 // A colour as the platform counts it: 0x00BBGGRR, or 0x80000000 plus the index of a system colour.
 using Colour = std::uint32_t;
 
-constexpr Colour SystemColour(int index) { return 0x80000000u + static_cast<Colour>(index); }
+constexpr Colour SystemColour(int index) {
+    return 0x80000000u + static_cast<Colour>(index);
+}
 
 enum class TextAlign { Left, Centre };
 

@@ -5,7 +5,8 @@
 #   audit.sh headers HEADERS                32-bit, windowed, for Windows 5.1, with a manifest
 #   audit.sh instructions DISASSEMBLY       nothing that a processor without SSE cannot run
 #   audit.sh size PROGRAM BYTES             the file is no larger than that
-#   audit.sh program ALLOWED BYTES OBJDUMP PROGRAM
+#   audit.sh code-end MAP                   prints where the linker put the end of the code
+#   audit.sh program ALLOWED BYTES OBJDUMP PROGRAM MAP
 #                                           all of that for one program
 # HEADERS is what `objdump -p` prints, DISASSEMBLY what `objdump -d` prints. Every violation is one
 # line; the exit code is 1 when there is any.
@@ -96,6 +97,21 @@ CheckInstructions() {
     ' "$1"
 }
 
+# The linker puts the tables of the exception handlers behind the code into the same section, and
+# read as instructions they are nonsense of any kind. Their address is on the line of the first
+# table, or on the one below it.
+CodeEnd() {
+    awk '
+        /^Linker script and memory map/ { reached = 1 }
+        reached && /^ \*\(\.gcc_except_table/ { tables = 1; next }
+        tables && match($0, /0x[0-9a-f]+/) { print substr($0, RSTART, RLENGTH); found = 1; exit }
+        END {
+            if (!found) print "the map does not say where the code ends"
+            exit !found
+        }
+    ' "$1"
+}
+
 CheckSize() {
     local bytes
     bytes=$(stat -c %s "$1")
@@ -106,10 +122,14 @@ CheckSize() {
 }
 
 CheckProgram() {
-    local allowed=$1 limit=$2 objdump=$3 program=$4 status=0 texts
+    local allowed=$1 limit=$2 objdump=$3 program=$4 map=$5 status=0 texts code_end
+    if ! code_end=$(CodeEnd "$map"); then
+        echo "$code_end"
+        return 1
+    fi
     texts=$(mktemp -d)
     "$objdump" -p "$program" >"$texts/headers"
-    "$objdump" -d "$program" >"$texts/disassembly"
+    "$objdump" -d --stop-address="$code_end" "$program" >"$texts/disassembly"
     CheckImports "$allowed" "$texts/headers" || status=1
     CheckHeaders "$texts/headers" || status=1
     CheckInstructions "$texts/disassembly" || status=1
@@ -127,7 +147,8 @@ case $what in
     imports) CheckImports "$@" ;;
     headers) CheckHeaders "$@" ;;
     instructions) CheckInstructions "$@" ;;
+    code-end) CodeEnd "$@" ;;
     size) CheckSize "$@" ;;
     program) CheckProgram "$@" ;;
-    *) sed -n '2,13s/^# \?//p' "$0" >&2; exit 2 ;;
+    *) sed -n '2,14s/^# \?//p' "$0" >&2; exit 2 ;;
 esac

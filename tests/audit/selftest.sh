@@ -72,6 +72,11 @@ Refuses "an instruction of SSE2 without its registers" "mfence" 's/ret/mfence/' 
 Refuses "a text without instructions" "no instruction found" '/^  40/d' disassembly.txt \
     instructions
 
+if [[ $("$here/audit.sh" code-end "$here/samples/map.txt") != 0x00447738 ]]; then
+    Report "the end of the code is where the first exception table begins"
+fi
+Refuses "a map without exception tables" "does not say" 's/gcc_except_table/other/' map.txt code-end
+
 head -c 100 /dev/zero >"$work/hundred"
 Accepts "a file of the limit's size" size "$work/hundred" 100
 if "$here/audit.sh" size "$work/hundred" 99 >/dev/null; then

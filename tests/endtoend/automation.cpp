@@ -55,6 +55,17 @@ MessageBox Describe(HWND window) {
     return box;
 }
 
+// The pointer that the window wants where `hit` lies. The thread's own pointer is asked, not the
+// screen's: the mouse may stand anywhere.
+HCURSOR PointerAt(HWND window, int hit) {
+    Send(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window), MAKELPARAM(hit, WM_MOUSEMOVE));
+    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+    AttachThreadInput(GetCurrentThreadId(), thread, TRUE);
+    const HCURSOR pointer = GetCursor();
+    AttachThreadInput(GetCurrentThreadId(), thread, FALSE);
+    return pointer;
+}
+
 }  // namespace
 
 std::string NameOf(HWND window) {
@@ -118,8 +129,7 @@ std::vector<HWND> Application::TopLevel() const {
 
 std::vector<HWND> Application::Forms() const {
     std::vector<HWND> forms = TopLevel();
-    std::erase_if(forms,
-                  [](HWND form) { return !IsWindowVisible(form) || NameOf(form).empty(); });
+    std::erase_if(forms, [](HWND form) { return !IsWindowVisible(form) || NameOf(form).empty(); });
     return forms;
 }
 
@@ -222,8 +232,14 @@ void Application::OpenTab(int page, const std::string& tabs) const {
 
 MessageBox Application::Box() const {
     for (HWND window : TopLevel()) {
-        if (IsWindowVisible(window) && ClassOf(window) == BoxClass && NameOf(window).empty()) {
+        if (!IsWindowVisible(window) || ClassOf(window) != BoxClass || !NameOf(window).empty()) {
+            continue;
+        }
+        try {
             return Describe(window);
+        } catch (const Failed&) {
+            // A box that goes while it is being looked at is no box any more.
+            if (IsWindow(window)) throw;
         }
     }
     return {};
@@ -248,12 +264,19 @@ MessageBox Application::Answer(const std::string& title, int button) const {
 }
 
 void Application::Close() const {
-    PostMessageW(Wait("frmMain"), WM_CLOSE, 0, 0);
+    const HWND form = Wait("frmMain");
+    if (!IsWindowEnabled(form)) throw Failed("a dialog stands before frmMain");
+    PostMessageW(form, WM_CLOSE, 0, 0);
 }
 
 bool Application::Responds(const std::string& form) const {
     DWORD_PTR answer = 0;
     return SendMessageTimeoutW(Wait(form), WM_NULL, 0, 0, SMTO_NORMAL, 100, &answer) != 0;
+}
+
+bool Application::PointerIsChanged(const std::string& form) const {
+    const HWND window = Wait(form);
+    return PointerAt(window, HTCLIENT) != PointerAt(window, HTCAPTION);
 }
 
 }  // namespace endtoend

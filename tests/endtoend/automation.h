@@ -92,6 +92,10 @@ class Application {
     // Whether the form answers messages at this moment.
     bool Responds(const std::string& form) const;
 
+    // Whether the mouse pointer over the form has another shape than over its caption, where it is
+    // the arrow. Pointers of two processes cannot be compared, so that the shape stays unnamed.
+    bool PointerIsChanged(const std::string& form) const;
+
   private:
     DWORD process_;
 };

@@ -18,8 +18,8 @@ using platform::win32::FontHandle;
 using platform::win32::ToWide;
 
 // The headings of the pages, which stand in larger, bold letters.
-constexpr const char* Headings[] = {"lblTuning", "lblWindows2", "lblPathNames", "lblIECache",
-                                    "lblMisc",   "Label7",      "lblShortcuts", "lblUtilities"};
+constexpr const char* Headings[] = {"lblTuning", "lblWindows2", "lblSystemPaths", "lblIECache",
+                                    "lblMisc",   "Label7",      "lblShortcuts",   "lblUtilities"};
 
 // Pixels at 96 dots per inch: the mark of a check box with its distance to the text, the line of a
 // frame before and behind its caption, the border of a button and of a text box.
@@ -32,10 +32,10 @@ class Drawing {
   public:
     explicit Drawing(bool heading) : dc_(CreateCompatibleDC(nullptr)) {
         const int dots = GetDeviceCaps(dc_, LOGPIXELSY);
-        font_.Reset(CreateFontW(-MulDiv(heading ? 10 : 8, dots, 72), 0, 0, 0,
-                                heading ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
-                                DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                                DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, L"Tahoma"));
+        font_.Reset(CreateFontW(-MulDiv(heading ? 9 : 8, dots, 72), 0, 0, 0,
+                                heading ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                                OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                                DEFAULT_PITCH | FF_DONTCARE, L"Tahoma"));
         before_ = SelectObject(dc_, font_.Get());
     }
     ~Drawing() {

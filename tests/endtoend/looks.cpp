@@ -70,8 +70,13 @@ std::vector<Look> VisibleControls(HWND form) {
     for (HWND window : WindowsBelow(form)) {
         const std::string name = NameOf(window);
         if (name.empty() || !IsWindowVisible(window)) continue;
-        Look look{window, name, ClassOf(window), TextOf(window), GetWindowLongW(window, GWL_STYLE),
-                  IsWindowEnabled(window) != FALSE, {}};
+        Look look{window,
+                  name,
+                  ClassOf(window),
+                  TextOf(window),
+                  GetWindowLongW(window, GWL_STYLE),
+                  IsWindowEnabled(window) != FALSE,
+                  {}};
         GetWindowRect(window, &look.area);
         looks.push_back(look);
     }

@@ -54,8 +54,8 @@ Unit FrameAround(const Look& control, const std::vector<Look>& controls) {
             !EqualRect(&common, &control.area)) {
             continue;
         }
-        if (!frame || candidate.area.right - candidate.area.left <
-                          frame->area.right - frame->area.left) {
+        if (!frame ||
+            candidate.area.right - candidate.area.left < frame->area.right - frame->area.left) {
             frame = &candidate;
         }
     }
@@ -76,6 +76,23 @@ void JudgeOrder(const std::vector<Unit>& order, std::vector<std::string>& crooke
             crooked.push_back("the tabulator reaches " + order[early].name + " before " +
                               order[late].name);
         }
+    }
+}
+
+// The walk is a circle, entered anywhere. It is judged from the first control of what stands
+// nearest to the upper left corner.
+void BeginWhereReadingBegins(std::vector<Look>& walk, const std::vector<Look>& controls) {
+    std::vector<Unit> units;
+    for (const Look& control : walk) units.push_back(FrameAround(control, controls));
+    if (units.empty()) return;
+    const auto corner = std::min_element(units.begin(), units.end(), [](auto& a, auto& b) {
+        return a.area.left + a.area.top < b.area.left + b.area.top;
+    });
+    for (std::size_t at = 0; at < units.size(); ++at) {
+        const std::size_t before = (at + units.size() - 1) % units.size();
+        if (units[at].name != corner->name || units[before].name == corner->name) continue;
+        std::rotate(walk.begin(), walk.begin() + static_cast<std::ptrdiff_t>(at), walk.end());
+        return;
     }
 }
 
@@ -130,17 +147,13 @@ std::vector<std::string> CrookedByKeyboard(const Application& application, HWND 
     }
     for (const Look& control : controls) {
         const bool stop = (control.style & WS_TABSTOP) && control.enabled;
-        const bool reached = std::find(windows.begin(), windows.end(), control.window) !=
-                             windows.end();
+        const bool reached =
+            std::find(windows.begin(), windows.end(), control.window) != windows.end();
         if (stop && !reached) {
             crooked.push_back("the tabulator does not reach " + control.name);
         }
     }
-    // The walk may begin anywhere; it is read from the corner where reading begins.
-    const auto first = std::min_element(walk.begin(), walk.end(), [](const Look& a, const Look& b) {
-        return a.area.left + a.area.top < b.area.left + b.area.top;
-    });
-    std::rotate(walk.begin(), first, walk.end());
+    BeginWhereReadingBegins(walk, controls);
     JudgeWalk(walk, controls, crooked);
     return crooked;
 }

@@ -47,9 +47,9 @@ void RemoveFolder(const std::string& folder) {
 }  // namespace
 
 std::string ReadFile(const std::string& path) {
-    const platform::win32::FileHandle file(
-        CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                    OPEN_EXISTING, 0, nullptr));
+    const platform::win32::FileHandle file(CreateFileW(ToWide(path).c_str(), GENERIC_READ,
+                                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                                       OPEN_EXISTING, 0, nullptr));
     if (!file) return "";
     std::string bytes(GetFileSize(file.Get(), nullptr), '\0');
     DWORD read = 0;

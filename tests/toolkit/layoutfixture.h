@@ -1,5 +1,7 @@
 #pragma once
 
+#include <doctest/doctest.h>
+
 #include <string>
 #include <vector>
 

@@ -13,20 +13,26 @@ struct Piece {
     const wchar_t* text;
     DWORD style;
     const char* name;
+    // Left, top, width and height.
     RECT area;
+    // A child of the first piece, where the tabulator does not come.
+    bool buried = false;
 };
 
 constexpr DWORD Box = WS_TABSTOP | BS_AUTOCHECKBOX;
 constexpr DWORD Edit = WS_TABSTOP | WS_BORDER;
 
-// Left, top, width, height. The order is the tabulator's.
+// The order is the tabulator's.
 const Piece Straight[] = {
     {L"BUTTON", L"Gruppe", BS_GROUPBOX, "fraGroup", {10, 10, 200, 90}},
     {L"BUTTON", L"&Erstes", Box, "chkFirst", {20, 30, 150, 17}},
     {L"BUTTON", L"&Zweites && drittes", Box, "chkSecond", {20, 50, 150, 17}},
     {L"STATIC", L"&Name", SS_LEFT, "lblName", {220, 30, 60, 16}},
     {L"EDIT", L"", Edit, "txtName", {290, 28, 90, 21}},
-    {L"STATIC", L"Ein längerer Text, der über zwei Zeilen läuft", SS_LEFT, "lblLong",
+    {L"STATIC",
+     L"Ein längerer Text, der über zwei Zeilen läuft",
+     SS_LEFT,
+     "lblLong",
      {220, 60, 160, 30}},
     {L"BUTTON", L"&Fertig", WS_TABSTOP, "cmdDone", {290, 120, 90, 25}},
 };
@@ -36,10 +42,14 @@ const Piece Bent[] = {
     // Below the second one, yet before it.
     {L"BUTTON", L"&Erstes", Box, "chkFirst", {20, 70, 150, 17}},
     {L"BUTTON", L"Ein &eher langes zweites", Box, "chkSecond", {20, 30, 80, 17}},
+    {L"BUTTON", L"Verschüttet", Box, "chkLost", {10, 40, 150, 17}, true},
     {L"STATIC", L"Name", SS_LEFT, "lblName", {220, 30, 60, 16}},
     // Into the label.
     {L"EDIT", L"", Edit, "txtName", {260, 28, 90, 21}},
-    {L"STATIC", L"Ein längerer Text, der über zwei Zeilen läuft", SS_LEFT, "lblLong",
+    {L"STATIC",
+     L"Ein längerer Text, der über zwei Zeilen läuft",
+     SS_LEFT,
+     "lblLong",
      {220, 60, 160, 16}},
     // Over the lower edge of the window.
     {L"BUTTON", L"Fertig", WS_TABSTOP, "cmdDone", {290, 190, 90, 25}},
@@ -71,11 +81,13 @@ HWND Build(const char* name, const Piece (&pieces)[Count]) {
                              FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
                              CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"Tahoma");
     ReleaseDC(nullptr, screen);
+    HWND first = nullptr;
     for (const Piece& piece : pieces) {
-        HWND control = CreateWindowW(piece.windowClass, piece.text,
-                                     piece.style | WS_CHILD | WS_VISIBLE, piece.area.left,
-                                     piece.area.top, piece.area.right, piece.area.bottom, form,
-                                     nullptr, facts.hInstance, nullptr);
+        HWND control =
+            CreateWindowW(piece.windowClass, piece.text, piece.style | WS_CHILD | WS_VISIBLE,
+                          piece.area.left, piece.area.top, piece.area.right, piece.area.bottom,
+                          piece.buried ? first : form, nullptr, facts.hInstance, nullptr);
+        if (!first) first = control;
         SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         NameWindow(control, piece.name);
     }

@@ -35,8 +35,6 @@ void FormWindow::ShowVisible() {
         ShowWindow(window_, SW_HIDE);
         // A modal loop looks at the form after each message from the queue only.
         PostMessageW(window_, WM_NULL, 0, 0);
-        // A modal loop must notice at once, also when another program's message did it.
-        PostMessageW(window_, WM_NULL, 0, 0);
         return;
     }
     // Captions may have changed since the window was made.

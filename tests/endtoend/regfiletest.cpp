@@ -1,0 +1,63 @@
+#include <doctest/doctest.h>
+
+#include "endtoend/lines.h"
+#include "endtoend/registryfile.h"
+#include "endtoend/waiting.h"
+
+namespace endtoend {
+namespace {
+
+std::vector<RegistryFileEntry> Parse(const std::string& lines) {
+    return ParseRegistryFile(
+        "Windows Registry Editor Version 5.00\r\n\r\n; comment\r\n"
+        "[HKEY_CURRENT_USER\\Software\\Probe]\r\n" +
+        lines);
+}
+
+TEST_CASE("a registry file's values are read with type and bytes") {
+    const auto entries = Parse(
+        "\"Text\"=\"C:\\\\Ordner \\\"ü\\\"\"\r\n"
+        "@=\"\"\r\n"
+        "\"Number\"=dword:00000091\r\n"
+        "\"Bytes\"=hex:00,ff,\\\r\n"
+        "  7f\r\n"
+        "\"Several\"=hex(7):61,00,00,00,00,00\r\n");
+    REQUIRE(entries.size() == 6);
+    CHECK(entries[0].place.root == "HKEY_CURRENT_USER");
+    CHECK(entries[0].place.key == "Software\\Probe");
+    CHECK_FALSE(entries[0].value);
+    CHECK(entries[1].place.name == "Text");
+    CHECK(entries[1].value == TerminatedText("C:\\Ordner \"ü\""));
+    CHECK(entries[2].place.name == "");
+    CHECK(entries[2].value == TerminatedText(""));
+    CHECK(entries[3].value == Dword(0x91));
+    CHECK(entries[4].value == Binary({"\0\xFF\x7F", 3}));
+    CHECK(entries[5].value == RegistryValue{REG_MULTI_SZ, std::string("a\0\0\0\0\0", 6)});
+}
+
+TEST_CASE("a line that is not understood is refused") {
+    CHECK_THROWS_AS(Parse("Text=1"), Failed);
+    CHECK_THROWS_AS(Parse("\"Text\"=1"), Failed);
+    CHECK_THROWS_AS(Parse("\"Text=\"a\""), Failed);
+    CHECK_THROWS_AS(ParseRegistryFile("\"Text\"=\"a\""), Failed);
+}
+
+TEST_CASE("a snapshot tells new keys, changed bytes and lost values apart") {
+    const ValuePlace kept = {"HKCU", "Software\\QuillmoreProbe", "Kept"};
+    const ValuePlace lost = {"HKCU", "Software\\QuillmoreProbe", "Lost"};
+    WriteValue(kept, BareText("ab"));
+    WriteValue(lost, Dword(1));
+    const RegistryState before = Snapshot({"HKCU\\Software\\QuillmoreProbe"});
+    WriteValue(kept, TerminatedText("ab"));
+    DeleteValue(lost);
+    CreateKey("HKCU", "Software\\QuillmoreProbe\\New");
+    const auto lines = Differences(before, Snapshot({"HKCU\\Software\\QuillmoreProbe"}));
+    DeleteTree("HKCU", "Software\\QuillmoreProbe");
+    CHECK(Joined(lines) ==
+          "hkcu\\software\\quillmoreprobe\\new: absent -> a key\n"
+          "hkcu\\software\\quillmoreprobe|kept: text \"ab\" 4 bytes -> text \"ab\" 6 bytes\n"
+          "hkcu\\software\\quillmoreprobe|lost: type 4 01 00 00 00 -> absent\n");
+}
+
+}  // namespace
+}  // namespace endtoend
