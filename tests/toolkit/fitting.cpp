@@ -65,8 +65,9 @@ class Tree {
     }
 
     Box Dressed(Box box) {
-        box.gap = chance_.Below(9);
-        box.margin = chance_.Below(5);
+        // Often none, so that neighbours touch.
+        box.gap = chance_.Below(2) * chance_.Below(9);
+        box.margin = chance_.Below(3) / 2 * chance_.Below(5);
         box.stretch = chance_.Below(3);
         box.keepsSize = chance_.Below(4) == 0;
         if (chance_.Below(5) == 0) box.least = {chance_.Below(150), chance_.Below(60)};
