@@ -17,7 +17,8 @@ struct NumberSigns {
 };
 
 // The number that the text stands for; nothing when it is no number by the grammar above.
-// A number beyond the range of a double counts as no number.
+// A number beyond the range of a double counts as no number, as does one of more than 32 bits in
+// the forms &H and &O.
 std::optional<double> ParseNumber(std::string_view text, const NumberSigns& signs);
 
 bool IsNumeric(std::string_view text, const NumberSigns& signs);
@@ -34,7 +35,7 @@ float ToSingle(std::string_view text, const NumberSigns& signs);
 
 // The number at the head of a text: blanks, tabs and line ends are skipped, only the point is a
 // decimal sign, reading stops at the first character that does not fit; 0 where nothing fits.
-// Throws Failure Overflow beyond the range of a double.
+// Throws Failure Overflow beyond the range of a double, and beyond 32 bits after &H and &O.
 double LeadingNumber(std::string_view text);
 
 // Decimal text without a leading blank. The text of a number that is not whole carries the
