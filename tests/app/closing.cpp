@@ -7,6 +7,24 @@
 using namespace app_test;
 using toolkit::WindowState;
 
+namespace {
+
+// Cancels the password dialog, which then stays loaded without being seen.
+void LeavePasswordDialogHidden(Program& program) {
+    program.machine.registry.Put(platform::Registry::LocalMachine,
+                                 "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
+                                 "AutoAdminLogon", platform::simulated::TextValue("1"));
+    REQUIRE(program.Start());
+    program.Text("txtALPassword").SetText("geheim");
+    program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
+        form.Find<controls::chameleonButton>("cmdCancel").Press();
+    });
+    program.machine.messages.Answer("Einstellungen speichern", 6);
+    program.Press("cmdApply");
+}
+
+}  // namespace
+
 TEST_CASE("after the first closing every key of the program's options exists") {
     Program program;
     REQUIRE(program.Start());
@@ -127,16 +145,7 @@ TEST_CASE("closing leaves no timer running and no file open") {
 
 TEST_CASE("closing unloads every other open form") {
     Program program;
-    program.machine.registry.Put(platform::Registry::LocalMachine,
-                                 "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
-                                 "AutoAdminLogon", platform::simulated::TextValue("1"));
-    REQUIRE(program.Start());
-    program.Text("txtALPassword").SetText("geheim");
-    program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
-        form.Find<controls::chameleonButton>("cmdCancel").Press();
-    });
-    program.machine.messages.Answer("Einstellungen speichern", 6);
-    program.Press("cmdApply");
+    LeavePasswordDialogHidden(program);
     REQUIRE(program.machine.forms.OpenForms().size() == 2);
     CHECK(program.Close());
     CHECK(program.machine.forms.OpenForms().empty());
@@ -144,16 +153,7 @@ TEST_CASE("closing unloads every other open form") {
 
 TEST_CASE("a closing that failed half-way still hides the tray icon and leaves no hidden dialog") {
     Program program;
-    program.machine.registry.Put(platform::Registry::LocalMachine,
-                                 "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
-                                 "AutoAdminLogon", platform::simulated::TextValue("1"));
-    REQUIRE(program.Start());
-    program.Text("txtALPassword").SetText("geheim");
-    program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
-        form.Find<controls::chameleonButton>("cmdCancel").Press();
-    });
-    program.machine.messages.Answer("Einstellungen speichern", 6);
-    program.Press("cmdApply");
+    LeavePasswordDialogHidden(program);
     program.machine.tray.shown = true;
     program.machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
     program.Close();
