@@ -19,6 +19,7 @@ struct Rect {
     int width = 0;
     int height = 0;
 
+    bool operator==(const Rect&) const = default;
     int Right() const { return left + width; }
     int Bottom() const { return top + height; }
     bool Contains(Point point) const {

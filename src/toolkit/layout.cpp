@@ -1,6 +1,7 @@
 #include "toolkit/layout.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "toolkit/controls.h"
 #include "toolkit/naturalsize.h"
@@ -47,12 +48,6 @@ Size Larger(Size one, Size other) {
 enum class Direction { Across, Down };
 
 using Sizes = std::vector<Size>;
-
-Sizes SizesOfChildren(const Box& box, const TextMeasure& measure) {
-    Sizes sizes;
-    for (const Box& child : box.children) sizes.push_back(Measure(child, measure));
-    return sizes;
-}
 
 Track TrackOf(const Box& box, Size size, Direction direction, const TextMeasure& measure) {
     if (direction == Direction::Across) {
@@ -103,24 +98,60 @@ int LengthWithGaps(const Tracks& tracks, const Box& box, const TextMeasure& meas
     return TotalLength(tracks) + Gaps(tracks, box, measure);
 }
 
-Size ContentSize(const Box& box, const TextMeasure& measure) {
-    if (box.kind == BoxKind::Leaf) return NaturalSize(*box.control, measure);
-    const Sizes sizes = SizesOfChildren(box, measure);
-    if (box.kind == BoxKind::Grid) {
-        const GridTracks tracks = TracksOfGrid(box, sizes, measure);
-        return {LengthWithGaps(tracks.columns, box, measure),
-                LengthWithGaps(tracks.rows, box, measure)};
+// Measures each box once. A box is asked for by everything around it, and the text of a whole page
+// is dear to measure.
+class Sizer {
+  public:
+    explicit Sizer(const TextMeasure& measure) : measure_(measure) {}
+
+    Size SizeOf(const Box& box) {
+        const auto known = known_.find(&box);
+        return known != known_.end() ? known->second : known_[&box] = Measured(box);
     }
-    Size size;
-    for (Size child : sizes) size = Larger(size, child);
-    if (box.kind == BoxKind::Row) {
-        size.width = LengthWithGaps(TracksOf(box, sizes, Direction::Across, measure), box, measure);
+
+    Sizes SizesOfChildren(const Box& box) {
+        Sizes sizes;
+        for (const Box& child : box.children) sizes.push_back(SizeOf(child));
+        return sizes;
     }
-    if (box.kind == BoxKind::Column) {
-        size.height = LengthWithGaps(TracksOf(box, sizes, Direction::Down, measure), box, measure);
+
+  private:
+    Size Measured(const Box& box) {
+        const Edges edges = EdgesOf(box, measure_);
+        Size size = ContentSize(box);
+        size.width += edges.left + edges.right;
+        size.height += edges.top + edges.bottom;
+        const bool hasCaption = box.kind == BoxKind::Frame || box.kind == BoxKind::Tabs;
+        if (hasCaption) size = Larger(size, NaturalSize(*box.control, measure_));
+        const int margins = 2 * measure_.Scale(box.margin);
+        return Larger({size.width + margins, size.height + margins},
+                      {measure_.Scale(box.least.width), measure_.Scale(box.least.height)});
     }
-    return size;
-}
+
+    Size ContentSize(const Box& box) {
+        if (box.kind == BoxKind::Leaf) return NaturalSize(*box.control, measure_);
+        const Sizes sizes = SizesOfChildren(box);
+        if (box.kind == BoxKind::Grid) {
+            const GridTracks tracks = TracksOfGrid(box, sizes, measure_);
+            return {LengthWithGaps(tracks.columns, box, measure_),
+                    LengthWithGaps(tracks.rows, box, measure_)};
+        }
+        Size size;
+        for (Size child : sizes) size = Larger(size, child);
+        if (box.kind == BoxKind::Row) {
+            const Tracks tracks = TracksOf(box, sizes, Direction::Across, measure_);
+            size.width = LengthWithGaps(tracks, box, measure_);
+        }
+        if (box.kind == BoxKind::Column) {
+            const Tracks tracks = TracksOf(box, sizes, Direction::Down, measure_);
+            size.height = LengthWithGaps(tracks, box, measure_);
+        }
+        return size;
+    }
+
+    const TextMeasure& measure_;
+    std::unordered_map<const Box*, Size> known_;
+};
 
 // A control that looks wrong when it is drawn higher than its text or mark is.
 bool HasOneHeight(const Box& box) {
@@ -147,7 +178,7 @@ Rect FitDown(const Box& box, Size size, Rect cell) {
 
 class Arranger {
   public:
-    explicit Arranger(const TextMeasure& measure) : measure_(measure) {}
+    explicit Arranger(const TextMeasure& measure) : measure_(measure), sizer_(measure) {}
 
     void Place(const Box& box, Rect area, int page) {
         const int margin = measure_.Scale(box.margin);
@@ -182,7 +213,7 @@ class Arranger {
 
   private:
     void PlaceRow(const Box& box, Rect area, int page) {
-        const Sizes sizes = SizesOfChildren(box, measure_);
+        const Sizes sizes = sizer_.SizesOfChildren(box);
         Tracks tracks = TracksOf(box, sizes, Direction::Across, measure_);
         Fit(tracks, area.width - Gaps(tracks, box, measure_));
         Rect cell = area;
@@ -194,7 +225,7 @@ class Arranger {
     }
 
     void PlaceColumn(const Box& box, Rect area, int page) {
-        const Sizes sizes = SizesOfChildren(box, measure_);
+        const Sizes sizes = sizer_.SizesOfChildren(box);
         Tracks tracks = TracksOf(box, sizes, Direction::Down, measure_);
         Fit(tracks, area.height - Gaps(tracks, box, measure_));
         Rect cell = area;
@@ -206,7 +237,7 @@ class Arranger {
     }
 
     void PlaceGrid(const Box& box, Rect area, int page) {
-        const Sizes sizes = SizesOfChildren(box, measure_);
+        const Sizes sizes = sizer_.SizesOfChildren(box);
         GridTracks tracks = TracksOfGrid(box, sizes, measure_);
         Fit(tracks.columns, area.width - Gaps(tracks.columns, box, measure_));
         Fit(tracks.rows, area.height - Gaps(tracks.rows, box, measure_));
@@ -226,21 +257,14 @@ class Arranger {
     }
 
     const TextMeasure& measure_;
+    Sizer sizer_;
     std::vector<Placement> placements_;
 };
 
 }  // namespace
 
 Size Measure(const Box& box, const TextMeasure& measure) {
-    const Edges edges = EdgesOf(box, measure);
-    Size size = ContentSize(box, measure);
-    size.width += edges.left + edges.right;
-    size.height += edges.top + edges.bottom;
-    const bool hasCaption = box.kind == BoxKind::Frame || box.kind == BoxKind::Tabs;
-    if (hasCaption) size = Larger(size, NaturalSize(*box.control, measure));
-    const int margins = 2 * measure.Scale(box.margin);
-    return Larger({size.width + margins, size.height + margins},
-                  {measure.Scale(box.least.width), measure.Scale(box.least.height)});
+    return Sizer(measure).SizeOf(box);
 }
 
 std::vector<Placement> Arrange(const Box& box, Rect area, const TextMeasure& measure) {

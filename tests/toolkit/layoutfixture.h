@@ -2,6 +2,7 @@
 
 #include <doctest/doctest.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@
 class EvenText : public toolkit::TextMeasure {
   public:
     toolkit::Size SizeOf(std::string_view text, bool bold) const override {
+        ++asked[std::string(text)];
         int characters = 0;
         for (char sign : text) characters += sign != '&';
         return {Scale(bold ? 7 : 6) * characters, Scale(bold ? 15 : 13)};
@@ -22,6 +24,8 @@ class EvenText : public toolkit::TextMeasure {
     int Scale(int pixels) const override { return pixels * percent / 100; }
 
     int percent = 100;
+    // How often each text has been measured.
+    mutable std::map<std::string, int> asked;
 };
 
 // As large as its caption and five pixels around it.
@@ -41,11 +45,6 @@ namespace toolkit {
 
 inline bool operator==(const Size& one, const Size& other) {
     return one.width == other.width && one.height == other.height;
-}
-
-inline bool operator==(const Rect& one, const Rect& other) {
-    return one.left == other.left && one.top == other.top && one.width == other.width &&
-           one.height == other.height;
 }
 
 }  // namespace toolkit

@@ -107,3 +107,14 @@ TEST_CASE_FIXTURE(LayoutFixture,
     CHECK(SizeOf(Gap(Row({Space(10, 10), Space(10, 10)}), 4)) == Size{15 + 6 + 15, 15});
     CHECK(SizeOf(Margin(AtLeast(Space(0, 0), 10, 10), 8)) == Size{24, 24});
 }
+
+TEST_CASE_FIXTURE(LayoutFixture, "however deep a box lies, its text is measured once a layout") {
+    Box nested = Leaf(form.Add<Label>("a", "deep"));
+    for (int depth = 0; depth < 12; ++depth) {
+        std::vector<Box> content;
+        content.push_back(std::move(nested));
+        nested = depth % 2 ? Row(std::move(content)) : Column(std::move(content));
+    }
+    Arrange(nested, {0, 0, 100, 100}, text);
+    CHECK(text.asked["deep"] == 1);
+}

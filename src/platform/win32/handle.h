@@ -75,6 +75,13 @@ struct WindowTraits {
     static bool Close(Type window) { return DestroyWindow(window) != FALSE; }
 };
 
+// For device contexts that the program has made; those of windows are released, not deleted.
+struct MemoryContextTraits {
+    using Type = HDC;
+    static Type None() { return nullptr; }
+    static bool Close(Type context) { return DeleteDC(context) != FALSE; }
+};
+
 template <typename Object>
 struct DrawingTraits {
     using Type = Object;
@@ -87,6 +94,7 @@ using KernelHandle = Owned<KernelTraits>;
 using FileHandle = Owned<FileTraits>;
 using RegistryKey = Owned<RegistryKeyTraits>;
 using WindowHandle = Owned<WindowTraits>;
+using MemoryContext = Owned<MemoryContextTraits>;
 using FontHandle = Owned<DrawingTraits<HFONT>>;
 using BrushHandle = Owned<DrawingTraits<HBRUSH>>;
 using PenHandle = Owned<DrawingTraits<HPEN>>;

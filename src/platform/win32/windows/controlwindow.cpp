@@ -32,6 +32,14 @@ void ControlWindow::Detach() {
     window_ = nullptr;
 }
 
+bool ControlWindow::PlaceAt(const toolkit::Rect& area) {
+    if (area == area_) return false;
+    area_ = area;
+    SetWindowPos(window_, nullptr, area.left, area.top, area.width, area.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    return true;
+}
+
 bool ControlWindow::TakesFocus() const {
     return window_ && control_.IsTabStop() && IsWindowEnabled(window_) && IsWindowVisible(window_);
 }

@@ -30,6 +30,11 @@ class ControlWindow : public toolkit::ControlView,
     HWND Window() const { return window_; }
     toolkit::Control& Control() const { return control_; }
 
+    // Puts the native window there, in its parent's pixels. A layout mostly leaves a window where
+    // it is, and to say that again costs as much as to move it: then nothing happens, and the
+    // answer is false.
+    bool PlaceAt(const toolkit::Rect& area);
+
     // Whether the keyboard can go there now.
     bool TakesFocus() const;
 
@@ -70,6 +75,7 @@ class ControlWindow : public toolkit::ControlView,
   private:
     toolkit::Control& control_;
     HWND window_ = nullptr;
+    toolkit::Rect area_;
     std::optional<ControlName> name_;
 };
 

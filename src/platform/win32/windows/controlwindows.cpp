@@ -49,6 +49,17 @@ toolkit::Rect ClientArea(HWND window) {
     return {0, 0, client.right, client.bottom};
 }
 
+using PagesOfControls = std::map<const toolkit::Control*, int>;
+
+// The page on which each control of the layout stands, or -1.
+void FindPages(const toolkit::Box& box, int page, PagesOfControls& pages) {
+    if (box.control) pages[box.control] = page;
+    for (std::size_t i = 0; i < box.children.size(); ++i) {
+        const bool isPage = box.kind == toolkit::BoxKind::Tabs;
+        FindPages(box.children[i], isPage ? static_cast<int>(i) : page, pages);
+    }
+}
+
 // Groups of option buttons begin and end where the number of the group changes.
 int GroupOf(const toolkit::Control& control) {
     const auto* option = dynamic_cast<const toolkit::OptionButton*>(&control);
@@ -62,11 +73,8 @@ void MarkGroupStart(HWND window) {
 }  // namespace
 
 void ControlWindows::Create(const toolkit::Form& form, HWND formWindow) {
-    std::map<const toolkit::Control*, int> pages;
-    for (const toolkit::Placement& placement :
-         toolkit::Arrange(form.Layout(), ClientArea(formWindow), surroundings_.screen)) {
-        pages[placement.control] = placement.page;
-    }
+    PagesOfControls pages;
+    FindPages(form.Layout(), -1, pages);
     for (const auto& control : form.Controls()) {
         if (auto* strip = dynamic_cast<toolkit::TabStrip*>(control.get())) {
             tabs_ = std::make_shared<TabStripWindow>(*strip, surroundings_);
@@ -113,10 +121,9 @@ void ControlWindows::Place(const toolkit::Form& form, HWND formWindow) {
         const toolkit::Rect& area = placement.area;
         POINT corner{area.left, area.top};
         MapWindowPoints(formWindow, GetParent(window->Window()), &corner, 1);
-        SetWindowPos(window->Window(), nullptr, corner.x, corner.y, area.width, area.height,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        const bool moved = window->PlaceAt({corner.x, corner.y, area.width, area.height});
         // A strip stands before the controls of its pages, which are placed within them.
-        if (window == tabs_) {
+        if (moved && window == tabs_) {
             tabs_->PlacePages({area.left, area.top, area.Right(), area.Bottom()});
         }
     }

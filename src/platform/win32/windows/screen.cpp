@@ -12,24 +12,11 @@ constexpr float TwipsPerInch = 1440;
 constexpr int PointsPerInch = 72;
 constexpr int DesignDotsPerInch = 96;
 
-// The whole screen's device context.
-class ScreenContext {
-  public:
-    ScreenContext() : dc_(GetDC(nullptr)) {}
-    ~ScreenContext() { ReleaseDC(nullptr, dc_); }
-    ScreenContext(const ScreenContext&) = delete;
-    ScreenContext& operator=(const ScreenContext&) = delete;
-
-    HDC Get() const { return dc_; }
-
-  private:
-    HDC dc_;
-};
-
 }  // namespace
 
 Screen::Screen()
-    : dotsPerInch_(GetDeviceCaps(ScreenContext().Get(), LOGPIXELSY)),
+    : dc_(CreateCompatibleDC(nullptr)),
+      dotsPerInch_(GetDeviceCaps(dc_.Get(), LOGPIXELSY)),
       plain_(MakeFont(8, FW_NORMAL)),
       heading_(MakeFont(9, FW_BOLD)) {}
 
@@ -40,10 +27,9 @@ HFONT Screen::MakeFont(int points, int weight) const {
 }
 
 toolkit::Size Screen::SizeOf(std::string_view text, bool bold) const {
-    const ScreenContext screen;
-    const HGDIOBJ before = SelectObject(screen.Get(), bold ? Heading() : Plain());
-    const toolkit::Size size = ExtentOf(screen.Get(), text);
-    SelectObject(screen.Get(), before);
+    const HGDIOBJ before = SelectObject(dc_.Get(), bold ? Heading() : Plain());
+    const toolkit::Size size = ExtentOf(dc_.Get(), text);
+    SelectObject(dc_.Get(), before);
     return size;
 }
 

@@ -28,6 +28,8 @@ class Screen final : public toolkit::TextMeasure {
   private:
     HFONT MakeFont(int points, int weight) const;
 
+    // To measure in: a context of the screen itself is asked from the system each time.
+    MemoryContext dc_;
     int dotsPerInch_;
     FontHandle plain_;
     FontHandle heading_;
