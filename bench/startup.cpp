@@ -112,7 +112,7 @@ double Median(std::vector<double> values) {
 int main(int count, char** arguments) {
     if (count < 3) Fail("call: startup <Quillmore.exe> <barewindow.exe> [pairs]");
     const std::string ours = std::string("\"") + arguments[1] + "\"";
-    const int pairs = count > 3 ? std::atoi(arguments[3]) : 11;
+    const int pairs = count > 3 ? std::atoi(arguments[3]) : 15;
 
     AcceptWarning();
     const Run first = Measure(ours);
@@ -126,10 +126,12 @@ int main(int count, char** arguments) {
         bareTimes.push_back(Measure(bare).milliseconds);
     }
     const double ratio = Median(ourTimes) / Median(bareTimes);
-    std::printf("start to idle: ours %.0f ms, bare %.0f ms (%d windows), ratio %.2f, limit %.2f\n",
-                Median(ourTimes), Median(bareTimes), first.windows, ratio, StartLimit);
+    std::printf("start to idle ours %.0f ms bare %.0f ms (%d windows) ratio %.2f limit %.2f %s\n",
+                Median(ourTimes), Median(bareTimes), first.windows, ratio, StartLimit,
+                ratio <= StartLimit ? "ok" : "TOO SLOW");
     const double megabytes = static_cast<double>(first.privateBytes) / (1024 * 1024);
-    std::printf("private memory: ours %.2f MB, limit %.2f MB, ratio %.2f\n", megabytes,
-                MemoryLimitMegabytes, megabytes / MemoryLimitMegabytes);
+    std::printf("private memory ours %.2f MB limit %.2f MB ratio %.2f %s\n", megabytes,
+                MemoryLimitMegabytes, megabytes / MemoryLimitMegabytes,
+                megabytes <= MemoryLimitMegabytes ? "ok" : "TOO MUCH");
     return ratio <= StartLimit && megabytes <= MemoryLimitMegabytes ? 0 : 1;
 }

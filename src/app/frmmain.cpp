@@ -3,13 +3,20 @@
 #include "app/closing.h"
 #include "app/pages.h"
 #include "app/programoptions.h"
+#include "app/sessionactions.h"
 #include "app/startup.h"
+#include "app/traymenu.h"
 #include "app/version.h"
 #include "controls/chameleonbutton.h"
+#include "controls/forminform.h"
+#include "platform/menus.h"
 #include "platform/program.h"
 #include "platform/settings.h"
 #include "platform/tray.h"
 #include "toolkit/controls.h"
+#include "tweaks/pathspage.h"
+#include "utilities/helpfile.h"
+#include "utilities/launcherlabels.h"
 
 namespace app {
 namespace {
@@ -31,13 +38,23 @@ frmMain::frmMain(const platform::Machine& machine)
            DesignedPlace(machine.forms)),
       machine_(machine),
       log_(machine_, version_),
+      launchers_(machine_, [this](std::string_view procedure,
+                                  const auto& body) { log_.Report(procedure, body); }),
       passes_(*this, machine_),
       password_(machine_),
+      about_(machine_, version_),
+      systemInformation_(machine_),
       apply_(*this, password_, machine_,
              {.saveProgramOptions = [this] { SaveProgramOptions(*this, machine_); },
-              .writeRegistry = [this] { WriteRegistry(); }}) {
+              .writeRegistry = [this] { WriteRegistry(); }}),
+      mnuPopUpTray_(MakeTrayMenu({.show = [this] { ComeBackFromTray(); },
+                                  .lockStation = [this] { LockStation(); },
+                                  .logoff = [this] { DoLogoff(); },
+                                  .reboot = [this] { DoReboot(); },
+                                  .shutdown = [this] { DoShutdown(); },
+                                  .end = [this] { Unload(); }})) {
     isDialog = false;
-    toolkit::Box pages = AddPages(*this, machine_);
+    toolkit::Box pages = AddPages(*this, machine_, launchers_);
     toolkit::Box buttons = AddWindowButtons(*this, machine_);
     SetLayout(toolkit::Margin(
         toolkit::Gap(toolkit::Column({Stretch(std::move(pages)), std::move(buttons)}), 8), 8));
@@ -55,6 +72,22 @@ void frmMain::WriteRegistry() {
 void frmMain::BuildVersion() {
     version_ = VersionText(MajorVersion, MinorVersion, Revision);
     SetCaption(std::string(platform::ProgramTitle) + " " + version_);
+}
+
+void frmMain::DoLogoff() {
+    app::DoLogoff(*this, machine_);
+}
+
+void frmMain::DoReboot() {
+    app::DoReboot(*this, machine_);
+}
+
+void frmMain::DoShutdown() {
+    app::DoShutdown(*this, machine_);
+}
+
+void frmMain::LockStation() {
+    launchers_.LoadExternMSC("rundll32.exe", "user32.dll,LockWorkStation");
 }
 
 void frmMain::OnLoad() {
@@ -83,6 +116,10 @@ bool frmMain::OnKeyDown(int virtualKey) {
     return true;
 }
 
+void frmMain::OnMouseMove() {
+    utilities::ResetLabelColors(*this);
+}
+
 // A session that ends while the warning is still open leaves as little trace as a refusal.
 void frmMain::OnQueryUnload() {
     if (!warningAccepted_) machine_.program.End();
@@ -97,8 +134,32 @@ void frmMain::OnUnload() {
 
 void frmMain::Connect() {
     Find<controls::chameleonButton>("cmdApply").onClick = [this] { apply_.Run(); };
+    Find<controls::chameleonButton>("cmdHilfe").onClick = [this] { utilities::ShowHelp(machine_); };
+    Find<controls::chameleonButton>("cmdAbout").onClick = [this] { ShowDialog(about_); };
+    Find<controls::chameleonButton>("cmdSysInfo").onClick = [this] {
+        ShowDialog(systemInformation_);
+    };
     Find<controls::chameleonButton>("cmdEnd").onClick = [this] { Unload(); };
+    auto& defaultPaths = Find<controls::chameleonButton>("cmdPathDefault");
+    defaultPaths.SetEnabled(true);
+    defaultPaths.onClick = [this] {
+        log_.Report("cmdPathDefault", [&] { tweaks::SetDefaultPaths(*this, machine_.facts); });
+    };
     machine_.tray.onRestore = [this] { ComeBackFromTray(); };
+    machine_.tray.onMouseUp = [this](int button) {
+        if (button == platform::Tray::RightButton) OpenTrayMenu();
+    };
+}
+
+void frmMain::OpenTrayMenu() {
+    const toolkit::MenuItem* chosen = machine_.menus.Choose(mnuPopUpTray_);
+    if (chosen) chosen->onClick();
+}
+
+void frmMain::ShowDialog(Form& dialog) {
+    dialog.Load();
+    controls::fFormInFormZentrieren(dialog, *this, machine_.forms.WorkArea());
+    dialog.ShowModal();
 }
 
 void frmMain::ComeBackFromTray() {

@@ -3,11 +3,15 @@
 #include <string>
 
 #include "app/errorlog.h"
+#include "controls/frmabout.h"
 #include "controls/frmpassword.h"
 #include "platform/machine.h"
 #include "toolkit/form.h"
+#include "toolkit/popupmenu.h"
 #include "tweaks/apply.h"
 #include "tweaks/passes.h"
+#include "utilities/frmsysteminformation.h"
+#include "utilities/launchers.h"
 
 namespace app {
 
@@ -29,6 +33,13 @@ class frmMain final : public toolkit::Form {
     // From here on closing stores the window's facts and the program's options.
     void WarningAccepted() { warningAccepted_ = true; }
 
+    // The ends of the user's session, asked for by the buttons and by the tray menu. Each ends the
+    // program too, unless the user says No.
+    void DoLogoff();
+    void DoReboot();
+    void DoShutdown();
+    void LockStation();
+
     // Builds strVersion and puts it into the caption.
     void BuildVersion();
     const std::string& strVersion() const { return version_; }
@@ -37,20 +48,28 @@ class frmMain final : public toolkit::Form {
     void OnLoad() override;
     void OnResize() override;
     bool OnKeyDown(int virtualKey) override;
+    void OnMouseMove() override;
     void OnQueryUnload() override;
     void OnUnload() override;
 
   private:
     void Connect();
+    // Over the middle of this window, until the user closes the dialog.
+    void ShowDialog(Form& dialog);
     void ComeBackFromTray();
+    void OpenTrayMenu();
 
     platform::Machine machine_;
     bool warningAccepted_ = false;
     std::string version_;
     ErrorLog log_;
+    utilities::Launchers launchers_;
     tweaks::Passes passes_;
     controls::frmPassword password_;
+    controls::frmAbout about_;
+    utilities::frmSystemInformation systemInformation_;
     tweaks::Apply apply_;
+    toolkit::PopupMenu mnuPopUpTray_;
 };
 
 }  // namespace app

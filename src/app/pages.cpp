@@ -4,8 +4,17 @@
 #include "app/utilitiespage.h"
 #include "controls/chameleonbutton.h"
 #include "controls/pageheading.h"
+#include "platform/machine.h"
 #include "toolkit/controls.h"
+#include "tweaks/keyfilters.h"
+#include "tweaks/networkpage.h"
+#include "tweaks/pathspage.h"
+#include "tweaks/securitypage.h"
+#include "tweaks/sideeffects.h"
 #include "tweaks/systempage.h"
+#include "tweaks/tweakspage.h"
+#include "utilities/launcherlabels.h"
+#include "utilities/shortcutspage.h"
 
 namespace app {
 namespace {
@@ -19,20 +28,24 @@ Box HeadingOnly(frmMain& form, const char* name, const char* caption) {
 
 }  // namespace
 
-Box AddPages(frmMain& form, const platform::Machine& machine) {
+Box AddPages(frmMain& form, const platform::Machine& machine,
+             const utilities::Launchers& launchers) {
     auto& tabs = form.Add<toolkit::TabStrip>(
         "SSTab1", std::vector<std::string>{" System", " Tweaks", " Pfade", " CleanUp", "Sicherheit",
                                            " DFÜ", " Shortcuts", " Utilities"});
+    tabs.onClick = [&form] { utilities::ResetLabelColors(form); };
     std::vector<Box> pages;
-    pages.push_back(tweaks::AddSystemPage(form, machine.clock, machine.locale));
-    pages.push_back(HeadingOnly(form, "lblWindows2", "Windows Tuning #2"));
-    pages.push_back(HeadingOnly(form, "lblSystemPaths", "Systempfade ändern"));
+    pages.push_back(tweaks::AddSystemPage(form, machine));
+    pages.push_back(tweaks::AddTweaksPage(form, machine));
+    pages.push_back(tweaks::AddPathsPage(form, machine));
     pages.push_back(HeadingOnly(form, "lblIECache", "CleanUp"));
-    pages.push_back(HeadingOnly(form, "lblMisc", "Sicherheit && Administratives"));
-    pages.push_back(HeadingOnly(form, "Label7", "DFÜ Einstellungen"));
-    pages.push_back(HeadingOnly(form, "lblShortcuts", "Windows XP Shortcuts"));
-    pages.push_back(AddUtilitiesPage(form, machine.clock));
+    pages.push_back(tweaks::AddSecurityPage(form, machine));
+    pages.push_back(tweaks::AddNetworkPage(form, machine));
+    pages.push_back(utilities::AddShortcutsPage(form));
+    pages.push_back(AddUtilitiesPage(form, machine.clock, launchers));
     for (Box& page : pages) page.margin = 8;
+    tweaks::ConnectSideEffects(form, machine);
+    tweaks::ConnectKeyFilters(form, machine.beeper);
     return toolkit::Pages(tabs, std::move(pages));
 }
 
@@ -44,9 +57,9 @@ Box AddWindowButtons(frmMain& form, const platform::Machine& machine) {
     };
     std::vector<Box> row;
     row.push_back(button("cmdSetAllOptimal", "AutoTuning", false));
-    row.push_back(button("cmdSysInfo", "SysInfo", false));
-    row.push_back(button("cmdHilfe", "Hilfe", false));
-    row.push_back(button("cmdAbout", "Info", false));
+    row.push_back(button("cmdSysInfo", "SysInfo", true));
+    row.push_back(button("cmdHilfe", "Hilfe", true));
+    row.push_back(button("cmdAbout", "Info", true));
     row.push_back(toolkit::Filler());
     row.push_back(button("cmdApply", "Übernehmen", true));
     row.push_back(button("cmdEnd", "Beenden", true));

@@ -3,12 +3,18 @@
 #include "platform/machine.h"
 #include "toolkit/layout.h"
 
+namespace utilities {
+class Launchers;
+}
+
 namespace app {
 
 class frmMain;
 
 // Makes the tab control with its eight pages; a page's controls come from the room of their tool.
-toolkit::Box AddPages(frmMain& form, const platform::Machine& machine);
+// `launchers` must live as long as the form.
+toolkit::Box AddPages(frmMain& form, const platform::Machine& machine,
+                      const utilities::Launchers& launchers);
 
 // Makes the row of buttons below the pages. A button whose tool is not there yet is disabled.
 toolkit::Box AddWindowButtons(frmMain& form, const platform::Machine& machine);

@@ -7,6 +7,7 @@
 #include "platform/settings.h"
 #include "platform/tray.h"
 #include "runtime/failure.h"
+#include "runtime/text.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 
@@ -32,6 +33,25 @@ void Restore(toolkit::Form& form, const char* name, const Settings& settings, co
     Skip([&] {
         const std::string stored = settings.GetSetting(section, key);
         if (!stored.empty()) form.Find<CheckBox>(name).SetValue(stored == "1" ? 1 : 0);
+    });
+}
+
+// The same with "true" for "1", in whatever case.
+void RestoreTrue(toolkit::Form& form, const char* name, const Settings& settings,
+                 const char* section, const char* key) {
+    Skip([&] {
+        const std::string stored = settings.GetSetting(section, key);
+        if (stored.empty()) return;
+        form.Find<CheckBox>(name).SetValue(runtime::ToLower(stored) == "true" ? 1 : 0);
+    });
+}
+
+// The setting tells that the preview library is registered, the box that the preview is off: the
+// senses are opposite on purpose, and a store without the setting shows the box as set.
+void RestorePreviewLibrary(toolkit::Form& form, const Settings& settings) {
+    Skip([&] {
+        const bool registered = settings.GetSetting("VideoPrv", "Regged", "false") == "true";
+        form.Find<CheckBox>("chkSHMediaDLL").SetValue(registered ? 0 : 1);
     });
 }
 
@@ -100,13 +120,16 @@ void SaveProgramOptions(toolkit::Form& form, const platform::Machine& machine) {
 void RestoreProgramOptions(toolkit::Form& form, const platform::Machine& machine) {
     const Settings settings(machine.settings);
 
+    RestoreTrue(form, "chkHideWinComponents", settings, "WinComponents", "Show");
     Restore(form, "chkIcons", settings, "Desktop", "TransparentIcons");
     RestoreTransparencyLevel(form, settings);
+    RestoreTrue(form, "chkSecureWindows", settings, "SecureWindows", "Regged");
     Skip([&] {
         const bool exists = machine.autostart.AutoStartExists(ProgramTitle);
         form.Find<CheckBox>("chkCreateAutoStart").SetValue(exists ? 1 : 0);
     });
     Skip([&] { RestoreTrayIcon(form, machine, settings); });
+    RestorePreviewLibrary(form, settings);
     Skip([&] { RestoreMinimised(form, machine, settings); });
     Restore(form, "chkRebootQuestion", settings, "Options", "RebootQuestion");
     Restore(form, "chkForceReboot", settings, "Options", "ForceReboot");

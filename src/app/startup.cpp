@@ -16,6 +16,7 @@
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "toolkit/controls.h"
+#include "tweaks/networksets.h"
 
 namespace app {
 namespace {
@@ -153,6 +154,7 @@ void StartUp(frmMain& form, const platform::Machine& machine) {
     });
     RestoreTab(form, machine, settings);
     ChooseTimeSource(form, settings);
+    tweaks::MarkNetworkSet(form, machine.locale.Signs());
 }
 
 }  // namespace app

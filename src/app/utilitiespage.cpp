@@ -1,9 +1,11 @@
 #include "app/utilitiespage.h"
 
 #include "app/frmmain.h"
+#include "app/sessionactions.h"
 #include "controls/chameleonbutton.h"
 #include "controls/pageheading.h"
 #include "toolkit/controls.h"
+#include "utilities/launcherlabels.h"
 
 namespace app {
 namespace {
@@ -45,17 +47,44 @@ Box AddTimeSource(frmMain& form, platform::Clock& clock) {
     return toolkit::InFrame(frame, toolkit::Column(std::move(column)));
 }
 
+// Each of them opens a dialog, none of which is there yet.
+Box AddDialogButtons(frmMain& form, platform::Clock& clock) {
+    const auto button = [&](const char* name, const char* caption) {
+        auto& made = form.Add<controls::chameleonButton>(name, caption, clock);
+        made.SetEnabled(false);
+        return Leaf(made);
+    };
+    std::vector<Box> column;
+    column.push_back(
+        button("cmdShowAllLoggedOnUsers", "Alle gerade am System angemeldeten Benutzer anzeigen"));
+    column.push_back(button("cmdInstalledSoftware", "Installierte Software"));
+    column.push_back(button("cmdVirtualDrive", "Virtuelle Laufwerke verwalten"));
+    return toolkit::Column(std::move(column));
+}
+
+// Moves over the heading count as moves over the form.
+Box AddHeading(frmMain& form) {
+    Box heading = controls::PageHeading(form, "lblUtilities", "Utilities");
+    form.Find<toolkit::Label>("lblUtilities").onMouseMove = [&form] {
+        utilities::ResetLabelColors(form);
+    };
+    return heading;
+}
+
 }  // namespace
 
-Box AddUtilitiesPage(frmMain& form, platform::Clock& clock) {
-    Box heading = controls::PageHeading(form, "lblUtilities", "Utilities");
-    Box timeSource = AddTimeSource(form, clock);
-    Box options = AddOptions(form);
-    return toolkit::Column({std::move(heading),
-                            toolkit::Gap(toolkit::Row({toolkit::Stretch(std::move(timeSource)),
-                                                       toolkit::Stretch(std::move(options))}),
-                                         8),
-                            toolkit::Filler()});
+Box AddUtilitiesPage(frmMain& form, platform::Clock& clock, const utilities::Launchers& launchers) {
+    Box heading = AddHeading(form);
+    Box programs = utilities::AddLauncherLabels(form, launchers);
+    std::vector<Box> cells;
+    cells.push_back(toolkit::Stretch(AddTimeSource(form, clock)));
+    cells.push_back(toolkit::Stretch(AddOptions(form)));
+    cells.push_back(AddSessionButtons(form, clock));
+    cells.push_back(AddDialogButtons(form, clock));
+    Box tools = toolkit::Gap(toolkit::Grid(2, std::move(cells)), 8);
+    return toolkit::Gap(toolkit::Column({std::move(heading), std::move(programs), std::move(tools),
+                                         toolkit::Filler()}),
+                        6);
 }
 
 }  // namespace app

@@ -33,8 +33,7 @@ frmFirstInfo::frmFirstInfo(const platform::Machine& machine)
     accept.onClick = [this] { Accept(); };
     refuse.onClick = [this] { Unload(); };
 
-    // Accepting must be meant: the dialog opens on the refusal, and Return by itself presses
-    // nothing.
+    // Accepting must be meant: the dialog opens on the refusal, which Return then presses.
     firstFocus = &refuse;
     cancelButton = &refuse;
     sizeToContent = true;

@@ -26,6 +26,7 @@ class Clock {
 
     // Calls `tick` every `milliseconds` until StopTimer, but not while the tick before still runs.
     // Never 0.
+    // Throws Failure OutOfMemory when the system has no timer left.
     virtual Timer StartTimer(int milliseconds, std::function<void()> tick) = 0;
     // A timer may stop itself from its own tick; one that does not run is passed over.
     virtual void StopTimer(Timer timer) = 0;

@@ -1,10 +1,18 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <string>
 
 namespace platform {
 
-// The memory information object.
+// A block of memory that the program holds; its end gives the block back to the system.
+class MemoryBlock {
+  public:
+    virtual ~MemoryBlock() = default;
+};
+
+// The memory information object, and memory in large blocks.
 class Memory {
   public:
     virtual ~Memory() = default;
@@ -12,6 +20,10 @@ class Memory {
     // The total physical memory in bytes, as decimal text; more than 4 GB is told as it is.
     // Throws Failure CannotCreateObject when the system does not answer.
     virtual std::string TotalPhysical() const = 0;
+
+    // One text of that many blanks, at two bytes a character. Each page of it is really written,
+    // so the system has to find the memory. Throws Failure OutOfMemory when there is none to have.
+    virtual std::unique_ptr<MemoryBlock> Blanks(std::size_t characters) = 0;
 };
 
 }  // namespace platform

@@ -25,6 +25,12 @@ class Processes {
     virtual Handle Create(std::string_view commandLine, std::uint32_t creationFlags,
                           const StartupInfo& startup) = 0;
 
+    // Starts a process by command line and does not wait: CreateProcessA with nothing inherited and
+    // the window style (0 hidden, 1 normal, ...) in the startup record; all handles are closed.
+    // Throws Failure FileNotFound, PathNotFound, PermissionDenied, or InvalidProcedureCall for
+    // everything else, such as a file that is no program.
+    virtual void Start(std::string_view commandLine, std::int32_t windowStyle) = 0;
+
     // WaitForSingleObject without a limit: blocks, and lets no event through. Returns at once for
     // a handle that is none.
     virtual void WaitForEnd(Handle process) = 0;

@@ -28,12 +28,16 @@ std::string DescriptionOf(int failureNumber) {
             return "Datei nicht gefunden";
         case PermissionDenied:
             return "Zugriff verweigert";
+        case PathFileAccess:
+            return "Fehler beim Zugriff auf Pfad/Datei";
         case PathNotFound:
             return "Pfad nicht gefunden";
         case InvalidPropertyValue:
             return "Ungültiger Eigenschaftswert";
         case CannotCreateObject:
             return "Objekterstellung durch ActiveX-Komponente nicht möglich";
+        case DllFunctionNotFound:
+            return "Angegebene DLL-Funktion nicht gefunden";
         default:
             return "Anwendungs- oder objektdefinierter Fehler";
     }

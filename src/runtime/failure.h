@@ -16,9 +16,11 @@ enum FailureNumber : int {
     BadFileNumber = 52,
     FileNotFound = 53,
     PermissionDenied = 70,
+    PathFileAccess = 75,
     PathNotFound = 76,
     InvalidPropertyValue = 380,
     CannotCreateObject = 429,
+    DllFunctionNotFound = 453,
 };
 
 // The one exception of the program. A procedure that meets it takes one of three policies at its

@@ -78,6 +78,11 @@ Box AtLeast(Box box, int width, int height) {
     return box;
 }
 
+Box AtMost(Box box, int width, int height) {
+    box.most = {width, height};
+    return box;
+}
+
 Box KeepSize(Box box) {
     box.keepsSize = true;
     return box;

@@ -13,6 +13,7 @@ enum class ControlKind {
     CheckBox,
     OptionButton,
     TextBox,
+    ComboBox,
     Frame,
     Slider,
     TabStrip,

@@ -19,8 +19,26 @@ Label::Label(Form& form, std::string name, std::string caption, LabelStyle style
     : Control(form, ControlKind::Label, std::move(name), std::move(caption), false),
       style_(style) {}
 
+void Label::SetTextColour(Colour colour) {
+    if (colour == textColour_) return;
+    textColour_ = colour;
+    Changed(Aspect::TextColour);
+}
+
+void Label::Click() {
+    if (Enabled()) Raise(onClick);
+}
+
+void Label::MouseMoved() {
+    if (Enabled()) Raise(onMouseMove);
+}
+
 Frame::Frame(Form& form, std::string name, std::string caption)
     : Control(form, ControlKind::Frame, std::move(name), std::move(caption), false) {}
+
+void Frame::MouseMoved() {
+    if (Enabled()) Raise(onMouseMove);
+}
 
 CheckBox::CheckBox(Form& form, std::string name, std::string caption)
     : Control(form, ControlKind::CheckBox, std::move(name), std::move(caption), true) {}

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,23 +15,55 @@ namespace toolkit {
 
 using Handler = std::function<void()>;
 
-enum class LabelStyle { Plain, Heading };
+// Gets each character that is typed, before it reaches the control's text, as one unit of UTF-16;
+// Backspace is 8. Setting it to 0 swallows it, another value takes its place. Pasted text and the
+// keys of the clipboard (copy, cut, paste, undo, select all) are no typing and pass unasked.
+using KeyHandler = std::function<void(char16_t& character)>;
 
-// Text on the form; line ends in the caption (CR LF) are shown as such.
+// A path takes one line, as wide as the layout makes it; where it does not fit, its middle is left
+// out of the picture. An ampersand in it is nothing but one.
+enum class LabelStyle { Plain, Heading, Path };
+
+// A colour as the platform writes it: red in the lowest byte, then green, then blue.
+using Colour = std::uint32_t;
+inline constexpr Colour Black = 0;
+inline constexpr Colour Red = 255;
+
+// Text on the form; line ends in the caption (CR LF) are shown as such. A label that is to hear the
+// mouse needs its handlers before the form is loaded; without any, what lies behind it hears it.
 class Label : public Control {
   public:
     Label(Form& form, std::string name, std::string caption, LabelStyle style = LabelStyle::Plain);
 
     LabelStyle Style() const { return style_; }
 
+    // The system's own colour while there is none.
+    std::optional<Colour> TextColour() const { return textColour_; }
+    void SetTextColour(Colour colour);
+
+    // What the user's click does. A disabled label hears nothing.
+    void Click();
+    // The mouse has moved over the label.
+    void MouseMoved();
+
+    Handler onClick;
+    Handler onMouseMove;
+
   private:
     LabelStyle style_;
+    std::optional<Colour> textColour_;
 };
 
-// A group box: a caption and a line around the controls that the layout puts into it.
+// A group box: a caption and a line around the controls that the layout puts into it. For its
+// handler the same holds as for a label's.
 class Frame : public Control {
   public:
     Frame(Form& form, std::string name, std::string caption);
+
+    // The mouse has moved over the frame, beside the controls in it.
+    void MouseMoved();
+
+    Handler onMouseMove;
 };
 
 class CheckBox : public Control {
@@ -74,6 +107,10 @@ struct TextBoxStyle {
     int maxLength = 0;
     bool multiLine = false;
     bool password = false;
+    // The user may mark and copy the text, and no more.
+    bool readOnly = false;
+    // The distance of the tab stops in average characters; 0 is the platform's own.
+    int tabWidth = 0;
     // The width that the layout gives the box, in average characters.
     int columns = 12;
 };
@@ -87,6 +124,7 @@ class TextBox : public Control {
     const TextBoxStyle& Style() const { return style_; }
 
     Handler onChange;
+    KeyHandler onKeyPress;
 
   private:
     TextBoxStyle style_;

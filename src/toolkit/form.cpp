@@ -72,6 +72,17 @@ void Form::SetPointer(int pointer) {
     Changed(FormAspect::Pointer);
 }
 
+void Form::MakeLayered() {
+    if (layered_) return;
+    layered_ = true;
+    Changed(FormAspect::Layered);
+}
+
+void Form::SetLayerAttributes(LayerAttributes attributes) {
+    layer_ = attributes;
+    Changed(FormAspect::LayerAttributes);
+}
+
 void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
@@ -113,6 +124,8 @@ void Form::Unload() {
     host_.Close(*this);
     loaded_ = false;
     everShown_ = false;
+    layered_ = false;
+    layer_ = {};
 }
 
 void Form::WindowMoved(WindowState state, Bounds bounds) {

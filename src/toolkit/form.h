@@ -23,7 +23,16 @@ inline constexpr int DefaultPointer = 0;
 inline constexpr int Hourglass = 11;
 
 // What of a form has changed, for the window that shows it.
-enum class FormAspect { Caption, State, Position, Visible, TaskbarEntry, Pointer };
+enum class FormAspect {
+    Caption,
+    State,
+    Position,
+    Visible,
+    TaskbarEntry,
+    Pointer,
+    Layered,
+    LayerAttributes,
+};
 
 class FormView {
   public:
@@ -39,6 +48,17 @@ struct Bounds {
     float height = 0;
 
     bool operator==(const Bounds&) const = default;
+};
+
+// How a layered window lies over what is behind it: its alpha, 0 to 255, counts under the flag
+// AlphaFlag.
+struct LayerAttributes {
+    static constexpr int AlphaFlag = 2;
+
+    int alpha = 255;
+    int flags = 0;
+
+    bool operator==(const LayerAttributes&) const = default;
 };
 
 // A window with its controls. Its events are virtual functions which do nothing here.
@@ -95,6 +115,14 @@ class Form {
     int Pointer() const { return pointer_; }
     void SetPointer(int pointer);
 
+    // Both last until the form is unloaded, like the window that they belong to.
+    bool Layered() const { return layered_; }
+    void MakeLayered();
+    // Passed on to the window each time. The system refuses it, without a failure, as long as the
+    // window is not layered.
+    const LayerAttributes& Layer() const { return layer_; }
+    void SetLayerAttributes(LayerAttributes attributes);
+
     // What Return and Escape press; nullptr where they press nothing.
     DrawnControl* defaultButton = nullptr;
     DrawnControl* cancelButton = nullptr;
@@ -125,6 +153,8 @@ class Form {
     void WindowMoved(WindowState state, Bounds bounds);
     // True when the form has used up the key.
     bool KeyPressed(int virtualKey) { return OnKeyDown(virtualKey); }
+    // The mouse has moved over the form where no control heard it.
+    void MouseMoved() { OnMouseMove(); }
 
     void SetView(FormView* view) { view_ = view; }
     FormView* View() const { return view_; }
@@ -133,6 +163,7 @@ class Form {
     virtual void OnLoad() {}
     virtual void OnResize() {}
     virtual bool OnKeyDown(int) { return false; }
+    virtual void OnMouseMove() {}
     virtual void OnQueryUnload() {}
     virtual void OnUnload() {}
 
@@ -154,6 +185,8 @@ class Form {
     bool loaded_ = false;
     bool unloading_ = false;
     int pointer_ = DefaultPointer;
+    bool layered_ = false;
+    LayerAttributes layer_;
     std::vector<std::unique_ptr<Control>> controls_;
     std::map<std::string, Control*, std::less<>> byName_;
     Box layout_;

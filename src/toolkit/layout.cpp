@@ -45,6 +45,12 @@ Size Larger(Size one, Size other) {
     return {std::max(one.width, other.width), std::max(one.height, other.height)};
 }
 
+Size Within(Size size, Size most) {
+    if (most.width > 0) size.width = std::min(size.width, most.width);
+    if (most.height > 0) size.height = std::min(size.height, most.height);
+    return size;
+}
+
 enum class Direction { Across, Down };
 
 using Sizes = std::vector<Size>;
@@ -124,8 +130,12 @@ class Sizer {
         const bool hasCaption = box.kind == BoxKind::Frame || box.kind == BoxKind::Tabs;
         if (hasCaption) size = Larger(size, NaturalSize(*box.control, measure_));
         const int margins = 2 * measure_.Scale(box.margin);
-        return Larger({size.width + margins, size.height + margins},
-                      {measure_.Scale(box.least.width), measure_.Scale(box.least.height)});
+        size = Within({size.width + margins, size.height + margins}, Scaled(box.most));
+        return Larger(size, Scaled(box.least));
+    }
+
+    Size Scaled(Size size) const {
+        return {measure_.Scale(size.width), measure_.Scale(size.height)};
     }
 
     Size ContentSize(const Box& box) {

@@ -39,6 +39,8 @@ struct Box {
     int stretch = 0;
     // At least this large, in pixels at 96 dots per inch.
     Size least;
+    // Wants no more than this, in the same pixels; 0 means no limit.
+    Size most;
     // Across the parent's direction: the natural size instead of the full one.
     bool keepsSize = false;
 };
@@ -60,6 +62,7 @@ Box Stretch(Box box, int share = 1);
 Box Gap(Box box, int gap);
 Box Margin(Box box, int margin);
 Box AtLeast(Box box, int width, int height);
+Box AtMost(Box box, int width, int height);
 Box KeepSize(Box box);
 
 struct Placement {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "toolkit/combobox.h"
 #include "toolkit/controls.h"
 #include "toolkit/drawncontrol.h"
 #include "toolkit/layout.h"
@@ -15,6 +16,7 @@ constexpr int CheckMark = 13;
 constexpr int CheckMarkGap = 6;
 constexpr int FocusLine = 1;
 constexpr int TextBoxEdges = 8;
+constexpr int DropDownButton = 17;
 constexpr int LinesOfMultiLine = 3;
 constexpr Size SliderSize{120, 28};
 constexpr int FrameCaptionEdges = 18;
@@ -22,6 +24,7 @@ constexpr int TabEdges = 16;
 constexpr int TabStripEdges = 10;
 
 Size OfLabel(const Label& label, const TextMeasure& measure) {
+    if (label.Style() == LabelStyle::Path) return {0, LineHeight(measure)};
     const bool bold = label.Style() == LabelStyle::Heading;
     constexpr std::string_view lineEnd = "\r\n";
     std::string_view rest = label.Caption();
@@ -50,6 +53,13 @@ Size OfTextBox(const TextBox& box, const TextMeasure& measure) {
             lines * LineHeight(measure) + edges};
 }
 
+Size OfComboBox(const ComboBox& box, const TextMeasure& measure) {
+    const int edges = measure.Scale(TextBoxEdges);
+    return {box.Style().columns * measure.SizeOf("0", false).width + edges +
+                measure.Scale(DropDownButton),
+            LineHeight(measure) + edges};
+}
+
 Size OfTabStrip(const TabStrip& tabs, const TextMeasure& measure) {
     Size size{0, LineHeight(measure) + measure.Scale(TabStripEdges)};
     for (const std::string& caption : tabs.Captions()) {
@@ -73,6 +83,8 @@ Size NaturalSize(const Control& control, const TextMeasure& measure) {
             return OfCheckMarkAndText(control, measure);
         case ControlKind::TextBox:
             return OfTextBox(dynamic_cast<const TextBox&>(control), measure);
+        case ControlKind::ComboBox:
+            return OfComboBox(dynamic_cast<const ComboBox&>(control), measure);
         case ControlKind::Frame:
             return {
                 measure.SizeOf(control.Caption(), false).width + measure.Scale(FrameCaptionEdges),

@@ -5,7 +5,7 @@
 namespace toolkit {
 
 // What of a control has changed, for the window that shows it.
-enum class Aspect { Value, Caption, Enabled, Visible, Limits, TextColour };
+enum class Aspect { Value, Items, Caption, Enabled, Visible, Limits, TextColour };
 
 // What the platform puts behind a control: a native window that shows what the control holds.
 // It never holds state of its own; it reports what the user did by calling the control.

@@ -4,7 +4,8 @@ namespace tweaks {
 
 std::span<const CataloguePage> Catalogue() {
     static const CataloguePage pages[] = {
-        {" System", SystemOptions()},
+        {" System", SystemOptions()},      {" Tweaks", TweaksOptions()}, {" Pfade", PathsOptions()},
+        {"Sicherheit", SecurityOptions()}, {" DFÜ", NetworkOptions()},
     };
     return pages;
 }

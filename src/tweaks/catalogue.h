@@ -21,5 +21,9 @@ const Option* FindOption(std::string_view name);
 
 // One function a page, each in its own catalogue file.
 std::span<const Option> SystemOptions();
+std::span<const Option> TweaksOptions();
+std::span<const Option> PathsOptions();
+std::span<const Option> SecurityOptions();
+std::span<const Option> NetworkOptions();
 
 }  // namespace tweaks

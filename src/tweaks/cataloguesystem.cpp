@@ -15,19 +15,6 @@ constexpr char CdfsKey[] = "SYSTEM\\CurrentControlSet\\Control\\FileSystem\\CDFS
 constexpr char WinlogonKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon";
 constexpr char SystemKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
 
-// One value decides over four controls: the boxes are only read when the logon is automatic, and
-// emptied when it is not. Which box holds which value is told by the steps of the on side.
-void ReadAutoLogin(const PassContext& pass, const Option& option) {
-    ReadByRow(pass, option);
-    const bool on = pass.form.Find<toolkit::CheckBox>(option.control).Value() == 1;
-    for (const Step& step : option.on) {
-        if (step.action != Action::WriteControl) continue;
-        pass.form.Find<toolkit::TextBox>(step.text).SetText(
-            on ? pass.registry.RegReadValue(option.place.root, option.place.key, step.otherValue)
-               : "");
-    }
-}
-
 // Without the driver's key the box is shut, because its on side would make the key for a driver
 // that is not there; it is the only option that looks whether it makes sense on this machine.
 void ReadAgp(const PassContext& pass, const Option& option) {
@@ -115,13 +102,13 @@ constexpr Option Options[] = {
         .on = {Dword(2)},
         .off = {Dword(1)},
     },
-    // The value's presence decides: a stored "0" reads as on. The password is stored as it is,
+    // One value decides over four controls, by its presence: a stored "0" reads as on. The password
+    // is stored as it is,
     // which is how Windows wants it for its automatic logon.
     Option{
         .control = "chkAutoLogin",
         .place = {HKLM, WinlogonKey, "AutoAdminLogon"},
         .onWhen = {Present()},
-        .readStep = ReadAutoLogin,
         .on = {Text("1"), TextOf("txtALUserName").To("DefaultUserName"),
                TextOf("txtALPassword").To("DefaultPassword"),
                TextOf("txtALDomain").To("DefaultDomainName")},

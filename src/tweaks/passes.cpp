@@ -7,7 +7,7 @@
 namespace tweaks {
 
 Passes::Passes(toolkit::Form& form, const platform::Machine& machine)
-    : form_(form), locale_(machine.locale), registry_(machine.registry, machine.locale) {}
+    : form_(form), machine_(machine), registry_(machine.registry, machine.locale) {}
 
 void Passes::Read() {
     Walk(ReadOrder(), ReadOption);
@@ -19,7 +19,7 @@ void Passes::Write() {
 
 void Passes::Walk(std::span<const std::string_view> order, OptionStep step) {
     form_.SetPointer(toolkit::Hourglass);
-    const PassContext pass{form_, registry_, locale_.Signs()};
+    const PassContext pass{form_, registry_, machine_.locale.Signs(), machine_};
     for (std::string_view name : order) {
         if (const Option* option = FindOption(name)) step(pass, *option);
     }

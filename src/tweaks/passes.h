@@ -31,7 +31,7 @@ class Passes {
     void Walk(std::span<const std::string_view> order, OptionStep step);
 
     toolkit::Form& form_;
-    const platform::Locale& locale_;
+    platform::Machine machine_;
     registry::Registry registry_;
 };
 

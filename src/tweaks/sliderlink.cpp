@@ -1,7 +1,7 @@
 #include "tweaks/sliderlink.h"
 
-#include <algorithm>
-#include <cmath>
+#include <memory>
+#include <utility>
 
 #include "platform/locale.h"
 #include "runtime/number.h"
@@ -10,32 +10,39 @@
 namespace tweaks {
 namespace {
 
-// Whether the box holds a number beyond the slider's range that has taken the slider to the end
-// where it stands.
-bool HoldsNumberBeyond(const toolkit::Slider& slider, const std::string& text,
-                       const runtime::NumberSigns& signs) {
-    const auto number = runtime::ParseNumber(text, signs);
-    if (!number) return false;
-    const double whole = std::nearbyint(*number);
-    const double lowest = slider.Range().minimum;
-    const double highest = slider.Range().maximum;
-    return whole != std::clamp(whole, lowest, highest) &&
-           slider.Value() == std::clamp(whole, lowest, highest);
+bool IsBeyond(const toolkit::SliderRange& range, std::int32_t number) {
+    return number < range.minimum || number > range.maximum;
 }
+
+// Gives a flag a value for as long as it lives.
+class Temporarily {
+  public:
+    Temporarily(bool& flag, bool value) : flag_(flag), before_(std::exchange(flag, value)) {}
+    ~Temporarily() { flag_ = before_; }
+    Temporarily(const Temporarily&) = delete;
+    Temporarily& operator=(const Temporarily&) = delete;
+
+  private:
+    bool& flag_;
+    bool before_;
+};
 
 }  // namespace
 
 void LinkSliderWithBox(toolkit::Slider& slider, toolkit::TextBox& box,
-                       const platform::Locale& locale) {
-    slider.onChange = [&slider, &box, &locale] {
-        if (HoldsNumberBeyond(slider, box.Text(), locale.Signs())) return;
-        box.SetText(runtime::ToText(slider.Value()));
+                       const platform::Locale& locale, std::function<void(std::int32_t)> effect) {
+    // Set while a number beyond the range, which the box keeps, takes the slider to its end.
+    const auto keepsText = std::make_shared<bool>(false);
+    slider.onChange = [&slider, &box, keepsText, effect = std::move(effect)] {
+        if (effect) effect(slider.Value());
+        if (!*keepsText) box.SetText(runtime::ToText(slider.Value()));
     };
-    box.onChange = [&slider, &box, &locale] {
+    box.onChange = [&slider, &box, &locale, keepsText] {
         const runtime::NumberSigns signs = locale.Signs();
-        if (runtime::IsNumeric(box.Text(), signs)) {
-            slider.SetValue(runtime::ToWholeNumber(box.Text(), signs));
-        }
+        if (!runtime::IsNumeric(box.Text(), signs)) return;
+        const std::int32_t number = runtime::ToWholeNumber(box.Text(), signs);
+        const Temporarily kept(*keepsText, IsBeyond(slider.Range(), number));
+        slider.SetValue(number);
     };
 }
 

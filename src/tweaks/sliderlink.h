@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
+
 namespace platform {
 class Locale;
 }
@@ -15,7 +18,11 @@ namespace tweaks {
 // stays in the box. A number that does not fit into 32 bits raises Failure Overflow to whoever set
 // the text, which is then in the box already: there is no guard on purpose, and a read pass that
 // meets such a number ends there.
+//
+// `effect` is what each move of the slider does beside that, with the slider's value and before the
+// box follows. When it fails the box does not follow.
 void LinkSliderWithBox(toolkit::Slider& slider, toolkit::TextBox& box,
-                       const platform::Locale& locale);
+                       const platform::Locale& locale,
+                       std::function<void(std::int32_t)> effect = {});
 
 }  // namespace tweaks

@@ -1,96 +1,202 @@
 #include "tweaks/steps.h"
 
+#include "platform/machine.h"
+#include "platform/messages.h"
+#include "runtime/text.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
+#include "tweaks/controltext.h"
 
 namespace tweaks {
 namespace {
 
-const char* NameOr(const char* otherValue, const Option& option) {
-    return otherValue ? otherValue : option.place.value;
+const char* Or(const char* other, const char* own) {
+    return other ? other : own;
 }
 
-// The text that cannot be read as a number, so an absent value too, equals none.
-bool EqualsNumber(const PassContext& pass, const std::string& text, std::int32_t number) {
-    return runtime::ParseNumber(text, pass.signs) == number;
-}
-
-bool Holds(const PassContext& pass, const Option& option, const Condition& condition) {
-    const auto& [root, key, ownValue] = option.place;
-    const char* value = NameOr(condition.otherValue, option);
-    if (condition.question == Question::Present) {
-        return pass.registry.RegValuePresent(root, key, value);
-    }
-    const std::string text = pass.registry.RegReadValue(root, key, value);
+bool HasText(const std::string& text, const Condition& condition) {
     switch (condition.question) {
-        case Question::EqualsText:
-            return text == condition.text;
-        case Question::EmptyOrEqualsNumber:
-            return text.empty() || EqualsNumber(pass, text, condition.number);
+        case Question::LowerEqualsText:
+            return runtime::ToLower(text) == condition.text;
+        case Question::UpperEqualsText:
+            return runtime::ToUpper(text) == condition.text;
+        case Question::NotEmpty:
+            return !text.empty();
         default:
-            return EqualsNumber(pass, text, condition.number);
+            return text == condition.text;
     }
 }
 
-bool AllHold(const PassContext& pass, const Option& option, const Conditions& conditions) {
+// The text that cannot be read as a number, so an absent value too, equals none and exceeds all.
+bool HasNumber(const std::string& text, const Condition& condition,
+               const runtime::NumberSigns& signs) {
+    const auto number = runtime::ParseNumber(text, signs);
+    switch (condition.question) {
+        case Question::AtLeastNumber:
+            return !number || *number >= condition.number;
+        case Question::EmptyOrEqualsNumber:
+            return text.empty() || number == condition.number;
+        default:
+            return number == condition.number;
+    }
+}
+
+bool Holds(const PassContext& pass, const ValuePlace& place, const Condition& condition) {
+    const auto present = [&] {
+        return pass.registry.RegValuePresent(place.root, place.key, place.value);
+    };
+    const auto text = [&] {
+        return pass.registry.RegReadValue(place.root, place.key, place.value);
+    };
+    switch (condition.question) {
+        case Question::Present:
+            return present();
+        case Question::PresentWithText:
+            return present() && HasText(text(), condition);
+        case Question::NotEmpty:
+        case Question::EqualsText:
+        case Question::LowerEqualsText:
+        case Question::UpperEqualsText:
+            return HasText(text(), condition);
+        default:
+            return HasNumber(text(), condition, pass.signs);
+    }
+}
+
+bool AllHold(const PassContext& pass, const ValuePlace& own, const Conditions& conditions) {
     bool all = true;
-    for (const Condition& condition : conditions) all &= Holds(pass, option, condition);
+    for (const Condition& condition : conditions) {
+        all &= Holds(pass, {own.root, own.key, Or(condition.value, own.value)}, condition);
+    }
     return all;
 }
 
-void Carry(const PassContext& pass, const Option& option, const Step& step) {
-    const auto& [root, key, ownValue] = option.place;
-    const char* value = NameOr(step.otherValue, option);
-    switch (step.action) {
-        case Action::WriteDword:
-            return pass.registry.RegWriteDword(root, key, value, step.number);
-        case Action::WriteText:
-            return pass.registry.RegWriteString(root, key, value, step.text);
-        case Action::WriteBinary:
-            return pass.registry.RegWriteBinary(root, key, value, step.text);
-        case Action::WriteControl:
-            return pass.registry.RegWriteString(root, key, value,
-                                                pass.form.Find<toolkit::TextBox>(step.text).Text());
-        case Action::DeleteValue:
-            return pass.registry.RegDeleteValueAt(root, key, value);
+void SetCheckBox(const PassContext& pass, std::string_view name, bool on) {
+    pass.form.Find<toolkit::CheckBox>(name).SetValue(on ? 1 : 0);
+}
+
+bool IsOn(const PassContext& pass, std::string_view name) {
+    return pass.form.Find<toolkit::CheckBox>(name).Value() == 1;
+}
+
+std::string TextAt(const PassContext& pass, const ValuePlace& place) {
+    return pass.registry.RegReadValue(place.root, place.key, place.value);
+}
+
+void ReadBoxesAlong(const PassContext& pass, const Option& option, const ValuePlace& own, bool on) {
+    for (const Step& step : option.on) {
+        if (step.action != Action::WriteTextOf) continue;
+        const ValuePlace place{own.root, own.key, Or(step.value, own.value)};
+        SetTextOfControl(pass.form, step.text, on ? TextAt(pass, place) : "");
     }
 }
 
-void CarryAll(const PassContext& pass, const Option& option, const Steps& steps) {
-    for (const Step& step : steps) Carry(pass, option, step);
+void ReadFrom(const PassContext& pass, const Option& option, const ValuePlace& place) {
+    if (!option.IsCheckBox()) {
+        SetTextOfControl(pass.form, option.control, TextAt(pass, place));
+        return;
+    }
+    const bool on = option.onWhen.size() > 0 ? AllHold(pass, place, option.onWhen)
+                                             : !AllHold(pass, place, option.offWhen);
+    if (!on && !option.otherwiseClears.empty()) {
+        SetCheckBox(pass, option.otherwiseClears, false);
+        return;
+    }
+    SetCheckBox(pass, option.control, on);
+    ReadBoxesAlong(pass, option, place, on);
 }
 
-bool Allows(const PassContext& pass, const Option& option, Guard guard) {
-    return guard == Guard::None || pass.registry.RegKeyPresent(option.place.root, option.place.key);
+// The answer is not looked at: Cancel cancels nothing.
+bool NumericTestPasses(const PassContext& pass, const Step& step) {
+    if (!step.numericControl) return true;
+    if (runtime::IsNumeric(TextOfControl(pass.form, step.numericControl), pass.signs)) return true;
+    if (step.message) {
+        pass.machine.messages.Show(
+            step.message, platform::message::OkCancel + platform::message::Exclamation, "Fehler");
+    }
+    return false;
+}
+
+void Carry(const PassContext& pass, const ValuePlace& place, const Step& step) {
+    const auto& [root, key, value] = place;
+    registry::Registry& registry = pass.registry;
+    switch (step.action) {
+        case Action::WriteDword:
+            return registry.RegWriteDword(root, key, value, step.number);
+        case Action::WriteText:
+            return registry.RegWriteString(root, key, value, step.text);
+        case Action::WriteBinary:
+            return registry.RegWriteBinary(root, key, value, step.text);
+        case Action::WriteTextOf:
+            return registry.RegWriteString(root, key, value, TextOfControl(pass.form, step.text));
+        case Action::WriteNumberOf:
+            return registry.RegWriteDword(
+                root, key, value,
+                runtime::ToWholeNumber(TextOfControl(pass.form, step.text), pass.signs));
+        case Action::DeleteValue:
+            return registry.RegDeleteValueAt(root, key, value);
+        case Action::DeleteKey:
+            return registry.RegDeleteKeyAt(root, key);
+    }
+}
+
+void CarryAll(const PassContext& pass, const ValuePlace& own, const Steps& steps) {
+    for (const Step& step : steps) {
+        if (!NumericTestPasses(pass, step)) continue;
+        Carry(pass,
+              {step.root.value_or(own.root), Or(step.key, own.key), Or(step.value, own.value)},
+              step);
+    }
+}
+
+bool Allows(const PassContext& pass, const ValuePlace& own, Guard guard) {
+    switch (guard) {
+        case Guard::ValuePresent:
+            return pass.registry.RegValuePresent(own.root, own.key, own.value);
+        case Guard::KeyPresent:
+            return pass.registry.RegKeyPresent(own.root, own.key);
+        case Guard::KeyAbsent:
+            return !pass.registry.RegKeyPresent(own.root, own.key);
+        default:
+            return true;
+    }
+}
+
+// Where the option is written; nothing when neither of its two keys is there.
+std::optional<ValuePlace> PlaceToWrite(const PassContext& pass, const Option& option) {
+    ValuePlace place = option.place;
+    if (!option.laterKey || pass.registry.RegKeyPresent(place.root, place.key)) return place;
+    place.key = option.laterKey;
+    if (!pass.registry.RegKeyPresent(place.root, place.key)) return std::nullopt;
+    return place;
 }
 
 }  // namespace
 
 void ReadByRow(const PassContext& pass, const Option& option) {
-    if (option.IsCheckBox()) {
-        const bool on = !option.onWhen.empty() ? AllHold(pass, option, option.onWhen)
-                                               : !AllHold(pass, option, option.offWhen);
-        pass.form.Find<toolkit::CheckBox>(option.control).SetValue(on ? 1 : 0);
-        return;
-    }
-    const auto& [root, key, value] = option.place;
-    pass.form.Find<toolkit::TextBox>(option.control)
-        .SetText(pass.registry.RegReadValue(root, key, value));
+    ValuePlace place = option.place;
+    ReadFrom(pass, option, place);
+    if (!option.laterKey) return;
+    place.key = option.laterKey;
+    ReadFrom(pass, option, place);
+}
+
+void WriteByRow(const PassContext& pass, const Option& option) {
+    const auto place = PlaceToWrite(pass, option);
+    if (!place) return;
+    CarryAll(pass, *place, option.always);
+    if (!option.HasSides()) return;
+    const bool on = IsOn(pass, option.decidedBy.empty() ? option.control : option.decidedBy);
+    if (!Allows(pass, *place, on ? option.onGuard : option.offGuard)) return;
+    CarryAll(pass, *place, on ? option.on : option.off);
 }
 
 void ReadOption(const PassContext& pass, const Option& option) {
-    if (option.readStep) return option.readStep(pass, option);
-    ReadByRow(pass, option);
+    option.readStep ? option.readStep(pass, option) : ReadByRow(pass, option);
 }
 
 void WriteOption(const PassContext& pass, const Option& option) {
-    CarryAll(pass, option, option.always);
-    if (!option.IsCheckBox()) return;
-    if (pass.form.Find<toolkit::CheckBox>(option.control).Value() == 1) {
-        CarryAll(pass, option, option.on);
-    } else if (Allows(pass, option, option.offGuard)) {
-        CarryAll(pass, option, option.off);
-    }
+    option.writeStep ? option.writeStep(pass, option) : WriteByRow(pass, option);
 }
 
 }  // namespace tweaks

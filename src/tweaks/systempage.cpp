@@ -1,12 +1,17 @@
 #include "tweaks/systempage.h"
 
-#include <string>
+#include <functional>
+#include <utility>
 
 #include "controls/chameleonbutton.h"
 #include "controls/pageheading.h"
+#include "platform/machine.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
+#include "tweaks/pageparts.h"
 #include "tweaks/sliderlink.h"
+#include "utilities/memoryrelease.h"
+#include "utilities/transparency.h"
 
 namespace tweaks {
 namespace {
@@ -15,31 +20,6 @@ using toolkit::Box;
 using toolkit::Form;
 using toolkit::Leaf;
 using toolkit::TextBoxStyle;
-
-struct Named {
-    const char* name;
-    const char* caption;
-};
-
-Box CheckBoxOn(Form& form, Named box) {
-    return Leaf(form.Add<toolkit::CheckBox>(box.name, box.caption));
-}
-
-Box LabelOn(Form& form, Named label) {
-    return Leaf(form.Add<toolkit::Label>(label.name, label.caption));
-}
-
-Box TextBoxOn(Form& form, const char* name, TextBoxStyle style = {}) {
-    return Leaf(form.Add<toolkit::TextBox>(name, style));
-}
-
-// A group of check boxes, one below the other.
-Box CheckBoxGroup(Form& form, Named frame, std::initializer_list<Named> boxes) {
-    auto& group = form.Add<toolkit::Frame>(frame.name, frame.caption);
-    std::vector<Box> rows;
-    for (const Named& box : boxes) rows.push_back(CheckBoxOn(form, box));
-    return InFrame(group, Gap(toolkit::Column(std::move(rows)), 3));
-}
 
 Box MemoryGroup(Form& form) {
     return CheckBoxGroup(form, {"fraMemory", "System Boosts"},
@@ -65,28 +45,34 @@ Box FixesGroup(Form& form) {
         });
 }
 
-// The slider leads; the box shows its value from the start.
+// The slider leads; the box follows.
 struct LinkedPair {
     Box slider;
     Box box;
 };
 
 LinkedPair SliderWithBox(Form& form, const char* sliderName, toolkit::SliderRange range,
-                         const char* boxName, const platform::Locale& locale) {
+                         const char* boxName, const platform::Locale& locale,
+                         std::function<void(std::int32_t)> effect = {}) {
     auto& slider = form.Add<toolkit::Slider>(sliderName, range, range.maximum);
     auto& box = form.Add<toolkit::TextBox>(boxName, TextBoxStyle{.columns = 5});
-    LinkSliderWithBox(slider, box, locale);
+    LinkSliderWithBox(slider, box, locale, std::move(effect));
     return {toolkit::Stretch(Leaf(slider)), KeepSize(Leaf(box))};
 }
 
-Box TaskbarGroup(Form& form, const platform::Locale& locale) {
+// Both controls act on the running shell at once. The level goes no lower than 55, on purpose: what
+// cannot be seen cannot be used any more.
+Box TaskbarGroup(Form& form, const platform::Machine& machine) {
     auto& group = form.Add<toolkit::Frame>("fraTaskBar", "Windows Taskbar Transparenz");
     auto pair = SliderWithBox(
         form, "Level", {.minimum = 55, .maximum = 255, .smallStep = 3, .largeStep = 51, .tick = 25},
-        "txtLevelValue", locale);
+        "txtLevelValue", machine.locale, [machine](std::int32_t level) {
+            utilities::SetTaskbarOpacity(machine, static_cast<std::uint8_t>(level));
+        });
     form.Find<toolkit::TextBox>("txtLevelValue").SetText("255");
-    Box icons = CheckBoxOn(form, {"chkIcons", "Transparente Icons"});
-    return InFrame(group, toolkit::Row({pair.slider, pair.box, icons}));
+    auto& icons = form.Add<toolkit::CheckBox>("chkIcons", "Transparente Icons");
+    icons.onClick = [&icons, machine] { utilities::IconsChosen(machine, icons.Value()); };
+    return InFrame(group, toolkit::Row({pair.slider, pair.box, Leaf(icons)}));
 }
 
 Box StartMenuGroup(Form& form, const platform::Locale& locale) {
@@ -136,24 +122,22 @@ Box SystemFactsGroup(Form& form) {
     return InFrame(group, Gap(toolkit::Grid(2, std::move(cells)), 2));
 }
 
-// Their tools are not there yet.
-Box ButtonsOfPage(Form& form, platform::Clock& clock) {
-    const auto button = [&](const char* name, const char* caption) {
-        auto& made = form.Add<controls::chameleonButton>(name, caption, clock);
-        made.SetEnabled(false);
-        return Leaf(made);
+Box SystemButtons(Form& form, const platform::Machine& machine) {
+    Box buttons = ButtonsOfPage(form, machine.clock,
+                                {{"cmdFreeMemory", "Speicher aufräumen"},
+                                 {"cmdNormal", "Standard"},
+                                 {"cmdOptimal", "Empfohlen"}});
+    auto& freeMemory = form.Find<controls::chameleonButton>("cmdFreeMemory");
+    freeMemory.SetEnabled(true);
+    freeMemory.onClick = [&form, machine] {
+        utilities::ReleaseMemory(form, machine.memory, machine.locale);
     };
-    std::vector<Box> row;
-    row.push_back(toolkit::Filler());
-    row.push_back(button("cmdFreeMemory", "Speicher aufräumen"));
-    row.push_back(button("cmdNormal", "Standard"));
-    row.push_back(button("cmdOptimal", "Empfohlen"));
-    return Gap(toolkit::Row(std::move(row)), 8);
+    return buttons;
 }
 
 }  // namespace
 
-Box AddSystemPage(Form& form, platform::Clock& clock, const platform::Locale& locale) {
+Box AddSystemPage(Form& form, const platform::Machine& machine) {
     Box heading = controls::PageHeading(form, "lblTuning", "Windows Tuning #1");
 
     std::vector<Box> left;
@@ -161,14 +145,14 @@ Box AddSystemPage(Form& form, platform::Clock& clock, const platform::Locale& lo
     left.push_back(
         CheckBoxOn(form, {"chkLastAccessTimestamp", "Last Access Timestamp aktiv (nur NTFS)"}));
     left.push_back(FixesGroup(form));
-    left.push_back(TaskbarGroup(form, locale));
+    left.push_back(TaskbarGroup(form, machine));
 
     std::vector<Box> right;
     right.push_back(AutoLoginGroup(form));
-    right.push_back(StartMenuGroup(form, locale));
+    right.push_back(StartMenuGroup(form, machine.locale));
     right.push_back(SystemFactsGroup(form));
     right.push_back(toolkit::Filler());
-    right.push_back(ButtonsOfPage(form, clock));
+    right.push_back(SystemButtons(form, machine));
 
     Box columns = toolkit::Row({Gap(toolkit::Column(std::move(left)), 6),
                                 toolkit::Stretch(Gap(toolkit::Column(std::move(right)), 6))});

@@ -3,18 +3,16 @@
 #include "toolkit/layout.h"
 
 namespace platform {
-class Clock;
-class Locale;
-}  // namespace platform
+struct Machine;
+}
 namespace toolkit {
 class Form;
 }
 
 namespace tweaks {
 
-// Makes the controls of the page "Windows Tuning #1", in the order in which one reads them. Clock
-// and locale are used for as long as the form lives.
-toolkit::Box AddSystemPage(toolkit::Form& form, platform::Clock& clock,
-                           const platform::Locale& locale);
+// Makes the controls of the page "Windows Tuning #1", in the order in which one reads them. The
+// machine's services are used for as long as the form lives.
+toolkit::Box AddSystemPage(toolkit::Form& form, const platform::Machine& machine);
 
 }  // namespace tweaks

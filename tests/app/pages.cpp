@@ -12,7 +12,7 @@ TEST_CASE("the window has the eight pages with their captions") {
                                    " Shortcuts", " Utilities"});
 }
 
-TEST_CASE("every page carries its heading") {
+TEST_CASE("every page carries its heading over an engraved line") {
     Program program;
     REQUIRE(program.Start());
     const std::pair<const char*, const char*> headings[] = {
@@ -25,6 +25,7 @@ TEST_CASE("every page carries its heading") {
         const auto& label = program.form->Find<toolkit::Label>(name);
         CHECK(label.Caption() == caption);
         CHECK(label.Style() == toolkit::LabelStyle::Heading);
+        CHECK(program.form->FindControl("Line3D(" + std::string(name) + ")") != nullptr);
     }
 }
 
@@ -32,12 +33,13 @@ TEST_CASE("buttons whose tool is not there yet are disabled, the others are not"
     Program program;
     REQUIRE(program.Start());
     for (const char* name :
-         {"cmdSetAllOptimal", "cmdSysInfo", "cmdHilfe", "cmdAbout", "cmdFreeMemory", "cmdOptimal",
-          "cmdNormal", "cmdSynchronizeDateTime"}) {
+         {"cmdSetAllOptimal", "cmdOptimal", "cmdNormal", "cmdSynchronizeDateTime",
+          "cmdShowAllLoggedOnUsers", "cmdInstalledSoftware", "cmdVirtualDrive"}) {
         CAPTURE(name);
         CHECK_FALSE(program.form->Find<controls::chameleonButton>(name).Enabled());
     }
-    for (const char* name : {"cmdApply", "cmdEnd"}) {
+    for (const char* name :
+         {"cmdApply", "cmdEnd", "cmdFreeMemory", "cmdHilfe", "cmdSysInfo", "cmdAbout"}) {
         CHECK(program.form->Find<controls::chameleonButton>(name).Enabled());
     }
 }

@@ -5,8 +5,10 @@
 
 #include "app/frmmain.h"
 #include "controls/chameleonbutton.h"
+#include "platform/messages.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "toolkit/combobox.h"
 #include "toolkit/controls.h"
 
 namespace app_test {
@@ -21,7 +23,11 @@ struct Program {
     platform::simulated::Machine machine;
     std::unique_ptr<app::frmMain> form;
 
-    Program() { machine.settings.Put("Options", "Accepted", "Yes"); }
+    // Complaints about numbers are answered with Cancel, which cancels nothing.
+    Program() {
+        machine.settings.Put("Options", "Accepted", "Yes");
+        machine.messages.AnswerAll("Fehler", platform::message::Cancel);
+    }
 
     // Starts the program as main does; false when it ended on the way.
     bool Start() {
@@ -50,6 +56,12 @@ struct Program {
 
     toolkit::CheckBox& Check(const char* name) { return form->Find<toolkit::CheckBox>(name); }
     toolkit::TextBox& Text(const char* name) { return form->Find<toolkit::TextBox>(name); }
+    toolkit::ComboBox& Combo(const char* name) { return form->Find<toolkit::ComboBox>(name); }
+    // Numbers where the write pass asks for some, so that it complains about nothing.
+    void FillNumbers() {
+        for (const char* name : {"cboMTU", "cboHTTP10", "cboHTTP11"}) Combo(name).SetText("64");
+        for (const char* name : {"txtRWIN", "txtTTL"}) Text(name).SetText("64");
+    }
     void Press(const char* name) { form->Find<controls::chameleonButton>(name).Press(); }
 
     std::string Stored(const char* key) const {

@@ -102,3 +102,116 @@ TEST_CASE_FIXTURE(Fixture, "writing to a handle that is closed or none is a bad 
 TEST_CASE_FIXTURE(Fixture, "the empty path is not found") {
     CHECK(NumberOf([&] { files.OpenForAppend(""); }) == runtime::PathNotFound);
 }
+
+TEST_CASE_FIXTURE(Fixture, "a file can be opened for reading and is free again after closing") {
+    const std::string path = machine.FilePath("read.tmp");
+    Append(path, "x");
+    for (int i = 0; i < 2; ++i) {
+        CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+    }
+    CHECK(machine.FileContent(path) == "x");
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a file that is open for reading cannot be opened for reading once more") {
+    const std::string path = machine.FilePath("read.tmp");
+    Append(path, "x");
+    const auto file = files.OpenForReading(path);
+    CHECK(NumberOf([&] { files.OpenForReading(path); }) == runtime::PermissionDenied);
+    files.Close(file);
+    CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file that is open for appending can be opened for reading") {
+    const std::string path = machine.FilePath("append.tmp");
+    const auto file = files.OpenForAppend(path);
+    CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+    files.Close(file);
+}
+
+TEST_CASE_FIXTURE(Fixture, "writing to a file opened for reading is denied") {
+    const std::string path = machine.FilePath("read.tmp");
+    Append(path, "x");
+    const auto file = files.OpenForReading(path);
+    CHECK(NumberOf([&] { files.Write(file, "y"); }) == runtime::PermissionDenied);
+    files.Close(file);
+    CHECK(machine.FileContent(path) == "x");
+}
+
+TEST_CASE_FIXTURE(Fixture, "opening for reading makes no file: absent, no directory, a directory") {
+    Append(machine.FilePath("neighbour.tmp"), "x");
+    const std::string absent = machine.FilePath("absent.tmp");
+    CHECK(NumberOf([&] { files.OpenForReading(absent); }) == runtime::FileNotFound);
+    CHECK(machine.FileContent(absent) == std::nullopt);
+    const std::string nowhere = machine.FilePath("absent\\file.tmp");
+    CHECK(NumberOf([&] { files.OpenForReading(nowhere); }) == runtime::PathNotFound);
+    CHECK(NumberOf([&] { files.OpenForReading(""); }) == runtime::PathNotFound);
+    std::string directory = machine.FilePath("");
+    directory.pop_back();
+    CHECK(NumberOf([&] { files.OpenForReading(directory); }) == runtime::PathFileAccess);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file is read whole, whatever its bytes and its size") {
+    const std::string path = machine.FilePath("whole.inf");
+    std::string bytes;
+    for (int i = 0; i < 100000; ++i) bytes += static_cast<char>(i);
+    Append(path, bytes);
+    CHECK((files.Read(path) == bytes));
+    Append(machine.FilePath("empty.inf"), "");
+    CHECK(files.Read(machine.FilePath("empty.inf")) == "");
+}
+
+TEST_CASE_FIXTURE(Fixture, "reading a whole file refuses as opening it for reading does") {
+    const std::string path = machine.FilePath("held.inf");
+    Append(path, "x");
+    CHECK(NumberOf([&] { files.Read(machine.FilePath("absent.inf")); }) == runtime::FileNotFound);
+    CHECK(NumberOf([&] { files.Read(machine.FilePath("absent\\x.inf")); }) ==
+          runtime::PathNotFound);
+    const auto file = files.OpenForReading(path);
+    CHECK(NumberOf([&] { files.Read(path); }) == runtime::PermissionDenied);
+    files.Close(file);
+    CHECK(files.Read(path) == "x");
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file is removed, a read-only one with force only") {
+    const std::string path = machine.FilePath("gone.inf");
+    Append(path, "x");
+    files.Remove(path, false);
+    CHECK(machine.FileContent(path) == std::nullopt);
+    Append(path, "x");
+    machine.Protect(path);
+    CHECK(NumberOf([&] { files.Remove(path, false); }) == runtime::PermissionDenied);
+    CHECK(machine.FileContent(path) == "x");
+    files.Remove(path, true);
+    CHECK(machine.FileContent(path) == std::nullopt);
+}
+
+TEST_CASE_FIXTURE(Fixture, "what is not there or is open here is not removed") {
+    const std::string path = machine.FilePath("open.inf");
+    const auto file = files.OpenForAppend(path);
+    CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
+    files.Close(file);
+    CHECK(machine.FileContent(path) == "");
+    CHECK(NumberOf([&] { files.Remove(machine.FilePath("absent.inf"), true); }) ==
+          runtime::FileNotFound);
+    CHECK(NumberOf([&] { files.Remove(machine.FilePath("absent\\x.inf"), true); }) ==
+          runtime::PathNotFound);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a text is written into a new file and in the place of an old one") {
+    const std::string path = machine.FilePath("text.inf");
+    files.WriteText(path, "what was there is longer");
+    files.WriteText(path, std::string("a\0\xFF\r\n", 5));
+    CHECK((machine.FileContent(path) == std::string("a\0\xFF\r\n", 5)));
+    files.WriteText(path, "");
+    CHECK(machine.FileContent(path) == "");
+    CHECK(NumberOf([&] { files.WriteText("", "x"); }) == runtime::PathNotFound);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a text does not go into a file that is open") {
+    const std::string path = machine.FilePath("text.inf");
+    const auto file = files.OpenForAppend(path);
+    CHECK(NumberOf([&] { files.WriteText(path, "x"); }) == runtime::PermissionDenied);
+    files.Close(file);
+    CHECK(machine.FileContent(path) == "");
+}

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/machine.h"
+#include "platform/otherwindows.h"
 #include "platform/registry.h"
 
 // One suite for two machines. The cases below know the services by their interfaces only; which
@@ -28,6 +29,21 @@ struct Stored {
     bool operator==(const Stored&) const = default;
 };
 
+// What there is to see of a window of another program.
+struct WindowLook {
+    std::uint32_t extendedStyle = 0;
+    // 255 where nobody has set it.
+    int alpha = 255;
+    std::uint32_t textBackground = 0;
+    // In its parent.
+    toolkit::Rect place;
+    bool visible = true;
+    // How often it was drawn anew from its background on.
+    int redraws = 0;
+
+    bool operator==(const WindowLook&) const = default;
+};
+
 class TestMachine {
   public:
     TestMachine();
@@ -43,9 +59,30 @@ class TestMachine {
     // A path in an empty directory that may be written to.
     std::string FilePath(std::string_view name) const;
     std::optional<std::string> FileContent(std::string_view path) const;
+    // Gives the file the read-only attribute.
+    void Protect(std::string_view path);
+
+    // A window of that class, shown above its brothers; it goes with the machine at the latest.
+    platform::OtherWindows::Handle OpenWindow(std::string_view className, std::string_view title,
+                                              platform::OtherWindows::Handle parent = 0);
+    void EndWindow(platform::OtherWindows::Handle window);
+    WindowLook LookAt(platform::OtherWindows::Handle window) const;
+
+    // What the program holds in memory.
+    std::size_t ResidentBytes() const;
+
+    // The text in the clipboard; nothing when it holds none.
+    std::optional<std::string> ClipboardText() const;
 
     // Lets events through until `done`, at most for the given time. Returns `done`.
     bool PassTime(int milliseconds, const std::function<bool()>& done);
+
+    // The user of the next pop-up menu chooses the item with that caption, or leaves the menu where
+    // that is empty. `whileOpen` runs before.
+    void UseNextMenu(std::string caption, std::function<void()> whileOpen = nullptr);
+
+    // The user of the next folder dialog leaves it as it opened and closes it with OK, or cancels.
+    void UseNextFolderDialog(bool ok);
 
     // Command lines of a program that ends soon, and of one that is not there.
     std::string EndingCommand() const;

@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <psapi.h>
 #include <shlwapi.h>
 #include <winternl.h>
 
@@ -8,6 +9,10 @@
 
 #include "contract/machine.h"
 #include "contract/win32/child.h"
+#include "contract/win32/folderuser.h"
+#include "contract/win32/menuuser.h"
+#include "contract/win32/standins.h"
+#include "platform/win32/formhandles.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
@@ -20,13 +25,14 @@ namespace {
 namespace win32 = platform::win32;
 
 // The services need no windows, and the suite opens none.
-class NoForms final : public toolkit::FormHost {
+class NoForms final : public win32::FormHandles {
   public:
     void Open(toolkit::Form&) override { throw std::logic_error("no forms here"); }
     void RunModal(toolkit::Form&) override { throw std::logic_error("no forms here"); }
     void Close(toolkit::Form&) override {}
     toolkit::Bounds WorkArea() const override { return {}; }
     std::vector<toolkit::Form*> OpenForms() const override { return {}; }
+    HWND WindowOf(const toolkit::Form&) const override { return nullptr; }
 };
 
 // What NtQueryValueKey tells: the value as it is stored, without a terminator of the query's own.
@@ -73,7 +79,9 @@ void RemoveScratchDirectory() {
     const HANDLE search = FindFirstFileW((directory + L"\\*").c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return;
     do {
-        DeleteFileW((directory + L'\\' + found.cFileName).c_str());
+        const std::wstring path = directory + L'\\' + found.cFileName;
+        SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+        DeleteFileW(path.c_str());
     } while (FindNextFileW(search, &found));
     FindClose(search);
     RemoveDirectoryW(directory.c_str());
@@ -84,6 +92,9 @@ void RemoveScratchDirectory() {
 struct TestMachine::Inside {
     NoForms forms;
     win32::Machine machine{forms};
+    StandIns windows;
+    std::unique_ptr<MenuUser> menuUser;
+    std::unique_ptr<FolderUser> folderUser;
 };
 
 TestMachine::TestMachine() : inside_(std::make_unique<Inside>()) {
@@ -143,6 +154,43 @@ std::optional<std::string> TestMachine::FileContent(std::string_view path) const
     return content;
 }
 
+std::optional<std::string> TestMachine::ClipboardText() const {
+    if (!OpenClipboard(nullptr)) return std::nullopt;
+    std::optional<std::string> text;
+    if (const HANDLE memory = GetClipboardData(CF_UNICODETEXT)) {
+        text = win32::FromWide(static_cast<const wchar_t*>(GlobalLock(memory)));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+}
+
+void TestMachine::Protect(std::string_view path) {
+    SetFileAttributesW(win32::ToWide(path).c_str(), FILE_ATTRIBUTE_READONLY);
+}
+
+platform::OtherWindows::Handle TestMachine::OpenWindow(std::string_view className,
+                                                       std::string_view title,
+                                                       platform::OtherWindows::Handle parent) {
+    return reinterpret_cast<platform::OtherWindows::Handle>(
+        inside_->windows.Open(className, title, reinterpret_cast<HWND>(parent)));
+}
+
+void TestMachine::EndWindow(platform::OtherWindows::Handle window) {
+    inside_->windows.Close(reinterpret_cast<HWND>(window));
+}
+
+WindowLook TestMachine::LookAt(platform::OtherWindows::Handle window) const {
+    return inside_->windows.LookAt(reinterpret_cast<HWND>(window));
+}
+
+std::size_t TestMachine::ResidentBytes() const {
+    PROCESS_MEMORY_COUNTERS counters = {};
+    counters.cb = sizeof counters;
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+    return counters.WorkingSetSize;
+}
+
 bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) {
     const DWORD start = GetTickCount();
     while (!done() && GetTickCount() - start < static_cast<DWORD>(milliseconds)) {
@@ -156,12 +204,23 @@ bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) 
     return done();
 }
 
+void TestMachine::UseNextMenu(std::string caption, std::function<void()> whileOpen) {
+    inside_->menuUser.reset();
+    inside_->menuUser = std::make_unique<MenuUser>(std::move(caption), std::move(whileOpen));
+}
+
+void TestMachine::UseNextFolderDialog(bool ok) {
+    // The old one goes first, so that only one is ever at work.
+    inside_->folderUser.reset();
+    inside_->folderUser = std::make_unique<FolderUser>(ok);
+}
+
 std::string TestMachine::EndingCommand() const {
     return ChildCommand("sleep 300");
 }
 
 std::string TestMachine::MissingCommand() {
-    return "C:\\QuillmoreContract\\missing.exe";
+    return FilePath("missing.exe");
 }
 
 std::string TestMachine::ExpectedDirectory() const {

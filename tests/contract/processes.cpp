@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "contract/machine.h"
+#include "runtime/failure.h"
 
 namespace {
 
@@ -42,4 +43,17 @@ TEST_CASE_FIXTURE(Fixture, "two processes have handles of their own") {
     processes.WaitForEnd(second);
     CHECK(processes.Close(first));
     CHECK(processes.Close(second));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a process is started by command line alone") {
+    CHECK_NOTHROW(processes.Start(machine.EndingCommand(), 0));
+}
+
+TEST_CASE_FIXTURE(Fixture, "starting a program that is not there is a file not found") {
+    try {
+        processes.Start(machine.MissingCommand(), 1);
+        FAIL("it was started");
+    } catch (const runtime::Failure& failure) {
+        CHECK(failure.number == runtime::FileNotFound);
+    }
 }

@@ -36,3 +36,36 @@ TEST_CASE("the memory is told in decimal digits and is at least 64 megabytes") {
     CHECK(std::all_of(total.begin(), total.end(), [](char c) { return std::isdigit(c) != 0; }));
     CHECK(std::stoull(total) >= 64ull << 20);
 }
+
+TEST_CASE("the user has a name, and no NUL is in it") {
+    contract::TestMachine machine;
+    const std::string name = machine.Services().facts.UserName();
+    CHECK(name != "");
+    CHECK(name.find('\0') == std::string::npos);
+}
+
+TEST_CASE("the path for temporary files is a full one with a backslash behind") {
+    contract::TestMachine machine;
+    const std::string path = machine.Services().facts.TempPath();
+    REQUIRE(path.size() > 3);
+    CHECK(path.substr(1, 2) == ":\\");
+    CHECK(path.back() == '\\');
+    CHECK(path.find('\0') == std::string::npos);
+}
+
+TEST_CASE("the drive of Windows has space, and no more is free than there is") {
+    contract::TestMachine machine;
+    const auto& facts = machine.Services().facts;
+    const auto space = facts.Space(facts.WindowsDirectory().substr(0, 3));
+    CHECK(space.total > 0);
+    CHECK(space.free <= space.total);
+    CHECK(space.freeToUser <= space.free);
+    CHECK(facts.Space(facts.WindowsDirectory()).total == space.total);
+}
+
+TEST_CASE("a drive that is not there and a path that is none have no space") {
+    contract::TestMachine machine;
+    const auto& facts = machine.Services().facts;
+    CHECK(facts.Space("Q:\\") == platform::DiskSpace{});
+    CHECK(facts.Space("?") == platform::DiskSpace{});
+}

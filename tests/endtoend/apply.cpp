@@ -56,6 +56,7 @@ TEST_CASE("the dialogue of Apply asks in its own words and writes between the qu
     CHECK(restorePoint.buttons == std::vector<int>{IDYES, IDNO});
     CHECK_FALSE(CacheIsWritten());
     program.Answer(RestorePointTitle, IDNO);
+    CancelNumberComplaints(program);
 
     const MessageBox done = program.WaitBox(DoneTitle);
     CHECK(done.text ==

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <doctest/doctest.h>
+
 #include "endtoend/automation.h"
 
 // The titles of the dialogue that Apply holds, and its usual course.
@@ -15,9 +17,21 @@ inline MessageBox DeclineRestart(const Application& program) {
     return program.Answer(DoneTitle, IDNO);
 }
 
+// The baseline holds none of the network's numbers, and the pass complains of each as it comes to
+// writing it. Cancel cancels nothing.
+inline void CancelNumberComplaints(const Application& program) {
+    for (const char* complaint :
+         {"MTU falsch eingegeben", "MTU falscher Wert eingegeben", "RWIN falscher Wert eingegeben",
+          "TTL falscher Wert eingegeben", "HTTP1.0 Wert falsch eingegeben",
+          "HTTP1.1 Wert falsch eingegeben"}) {
+        CHECK(program.Answer("Fehler", IDCANCEL).text == complaint);
+    }
+}
+
 // From the restore point question to the end, without a restore point.
 inline void FinishApply(const Application& program) {
     program.Answer(RestorePointTitle, IDNO);
+    CancelNumberComplaints(program);
     DeclineRestart(program);
 }
 

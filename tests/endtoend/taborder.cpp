@@ -7,11 +7,13 @@
 namespace endtoend {
 namespace {
 
+// The control that has the focus; a combo box hands it on to the field in it.
 HWND FocusOf(HWND form) {
     GUITHREADINFO thread = {};
     thread.cbSize = sizeof thread;
     GetGUIThreadInfo(GetWindowThreadProcessId(form, nullptr), &thread);
-    return thread.hwndFocus;
+    const HWND around = thread.hwndFocus ? GetParent(thread.hwndFocus) : nullptr;
+    return around && ClassOf(around) == "ComboBox" ? around : thread.hwndFocus;
 }
 
 // The windows that get the focus, in order, until the walk is back where it began. A walk that

@@ -23,10 +23,15 @@ std::string NewFolder() {
     wchar_t temporary[MAX_PATH];
     GetTempPathW(MAX_PATH, temporary);
     static unsigned count = 0;
-    const std::string folder = FromWide(temporary) + "quillmore-" +
-                               std::to_string(GetCurrentProcessId()) + '-' +
-                               std::to_string(++count);
-    if (!CreateDirectoryW(ToWide(folder).c_str(), nullptr)) throw Failed("no folder " + folder);
+    std::string folder;
+    do {
+        // A run that was broken off leaves its folder, and the system uses its number again.
+        if (!folder.empty() && GetLastError() != ERROR_ALREADY_EXISTS) {
+            throw Failed("no folder " + folder);
+        }
+        folder = FromWide(temporary) + "quillmore-" + std::to_string(GetCurrentProcessId()) + '-' +
+                 std::to_string(++count);
+    } while (!CreateDirectoryW(ToWide(folder).c_str(), nullptr));
     return folder;
 }
 

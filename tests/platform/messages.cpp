@@ -35,6 +35,15 @@ TEST_CASE_FIXTURE(Boxes, "answers to one title queue up, other titles wait for t
     CHECK(messages.Show("t", message::OkCancel, "B") == message::Cancel);
 }
 
+TEST_CASE_FIXTURE(Boxes, "a standing answer serves every box of its title behind the single ones") {
+    messages.AnswerAll("A", message::Cancel);
+    messages.Answer("A", message::Yes);
+    CHECK(messages.Show("t", Question, "A") == message::Yes);
+    CHECK(messages.Show("t", Question, "A") == message::Cancel);
+    CHECK(messages.Show("t", Question, "A") == message::Cancel);
+    CHECK_THROWS_AS(messages.Show("t", Question, "B"), std::logic_error);
+}
+
 TEST_CASE_FIXTURE(Boxes, "a question that nobody answers is a mistake in the test") {
     messages.Answer("Andere", message::Yes);
     for (int style : {Question, message::OkCancel + message::Exclamation}) {

@@ -2,6 +2,7 @@
 
 #include <doctest/doctest.h>
 
+#include "toolkit/combobox.h"
 #include "toolkit/layoutfixture.h"
 
 using namespace toolkit;
@@ -18,6 +19,10 @@ TEST_CASE_FIXTURE(LayoutFixture, "a label of several lines is as wide as its wid
 
 TEST_CASE_FIXTURE(LayoutFixture, "an empty label keeps the height of a line") {
     CHECK(NaturalSize(form.Add<Label>("a", ""), text) == Size{0, 13});
+}
+
+TEST_CASE_FIXTURE(LayoutFixture, "a path wants one line whatever its text, and no width") {
+    CHECK(NaturalSize(form.Add<Label>("a", "C:\\ab\r\ncd", LabelStyle::Path), text) == Size{0, 13});
 }
 
 TEST_CASE_FIXTURE(LayoutFixture, "a heading is measured in bold") {
@@ -45,6 +50,14 @@ TEST_CASE_FIXTURE(LayoutFixture,
 TEST_CASE_FIXTURE(LayoutFixture, "a text box of several lines is three lines high") {
     CHECK(NaturalSize(form.Add<TextBox>("a", TextBoxStyle{.multiLine = true, .columns = 10}),
                       text) == Size{68, 3 * 13 + 8});
+}
+
+TEST_CASE_FIXTURE(LayoutFixture,
+                  "a combo box adds its button to the columns, and its items play no part") {
+    auto& box = form.Add<ComboBox>("a", ComboBoxStyle{.columns = 5});
+    CHECK(NaturalSize(box, text) == Size{5 * 6 + 8 + 17, 21});
+    box.AddItem("much longer than five");
+    CHECK(NaturalSize(box, text) == Size{5 * 6 + 8 + 17, 21});
 }
 
 TEST_CASE_FIXTURE(LayoutFixture, "a slider has a size of its own") {

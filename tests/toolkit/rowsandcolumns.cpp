@@ -55,6 +55,18 @@ TEST_CASE_FIXTURE(LayoutFixture, "what stands in a column is as wide as the colu
     CHECK(this->Areas(column, {0, 0, 100, 23}) == ::Areas{{0, 0, 100, 23}});
 }
 
+TEST_CASE_FIXTURE(LayoutFixture,
+                  "what is limited wants no more than its limit, and less if it can") {
+    CHECK(SizeOf(AtMost(Text(4), 20, 10)) == Size{20, 10});
+    CHECK(SizeOf(AtMost(Text(4), 30, 0)) == Size{24, 13});
+    CHECK(SizeOf(AtLeast(AtMost(Text(4), 20, 10), 21, 11)) == Size{21, 11});
+    const Box row =
+        Gap(Row({Stretch(Text(1)), AtMost(Leaf(form.Add<DrawnBox>("cmd", "ab")), 9, 7)}), 0);
+    CHECK(this->Areas(row, {0, 0, 50, 13}) == ::Areas{{0, 0, 41, 13}, {41, 3, 9, 7}});
+    text.percent = 200;
+    CHECK(SizeOf(AtMost(Text(4), 20, 10)) == Size{40, 20});
+}
+
 TEST_CASE_FIXTURE(LayoutFixture, "what keeps its size in a column stands on the left") {
     const Box column = Column({KeepSize(Leaf(form.Add<DrawnBox>("cmd", "ab")))});
     CHECK(this->Areas(column, {0, 0, 100, 23}) == ::Areas{{0, 0, 22, 23}});

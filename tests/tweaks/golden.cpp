@@ -1,10 +1,14 @@
 #include "tweaks/golden.h"
 
+#include <algorithm>
+#include <cctype>
+#include <climits>
 #include <cstdlib>
 #include <fstream>
-#include <set>
 #include <sstream>
 #include <stdexcept>
+
+#include "tweaks/controltext.h"
 
 namespace tweak_tests {
 namespace {
@@ -55,11 +59,12 @@ std::string TextForm(const StoredValue& stored) {
 }
 
 // Plain decimal numbers with blanks around alone, which is all that the tests store.
-bool IsNumber(std::string text, long number) {
+std::optional<long> NumberIn(std::string text) {
     while (text.ends_with(' ')) text.pop_back();
     char* end = nullptr;
     const long found = std::strtol(text.c_str(), &end, 10);
-    return !text.empty() && *end == '\0' && found == number;
+    if (text.empty() || *end != '\0') return std::nullopt;
+    return found;
 }
 
 }  // namespace
@@ -110,6 +115,16 @@ std::vector<std::string> GoldenCheckBoxes() {
     return names;
 }
 
+std::vector<std::string> ReadCheckBoxes() {
+    std::vector<std::string> names = GoldenCheckBoxes();
+    std::erase_if(names, [](const std::string& name) {
+        const auto facts = FactsDecidedBy(name);
+        return std::none_of(facts.begin(), facts.end(),
+                            [](const Fact& fact) { return fact.Decides(); });
+    });
+    return names;
+}
+
 std::vector<Fact> FactsDecidedBy(const std::string& checkBox) {
     std::vector<Fact> facts;
     for (const Fact& fact : GoldenFacts()) {
@@ -120,39 +135,128 @@ std::vector<Fact> FactsDecidedBy(const std::string& checkBox) {
     return facts;
 }
 
-std::optional<StoredValue> Outcome(const std::string& side, const std::string& boxText) {
-    if (side.starts_with("dword ")) {
-        return DwordValue(static_cast<std::uint32_t>(std::stoul(side.substr(6))));
+namespace {
+
+// Takes `tail` off the end of `words`; whether it stood there.
+bool TakeOff(std::string& words, const std::string& tail) {
+    if (!words.ends_with(tail)) return false;
+    words.erase(words.size() - tail.size());
+    return true;
+}
+
+std::string BoxText(const Options& options, const std::string& name) {
+    return tweaks::TextOfControl(options.form, name);
+}
+
+bool Numeric(const std::string& text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+// Takes the numeric test off the words and asks it.
+bool NumericTestPasses(std::string& words, const Fact& fact, const Options& options) {
+    const std::size_t end = words.find("numeric");
+    if (end == std::string::npos) return true;
+    const std::size_t start = words.find(" if ") + 4;
+    std::string asked = words.substr(start, end - start);
+    words.erase(start - 4);
+    return Numeric(BoxText(options, TakeOff(asked, " is ") ? asked : fact.control));
+}
+
+// Takes what limits the side off the words and asks it.
+bool Allowed(std::string& words, const Fact& fact, const Options& options) {
+    const auto& registry = options.machine.registry;
+    if (TakeOff(words, " if key present")) return registry.HasKey(fact.Root(), fact.key);
+    if (TakeOff(words, " if key absent")) return !registry.HasKey(fact.Root(), fact.key);
+    if (TakeOff(words, " if value present")) {
+        return registry.Value(fact.Root(), fact.key, fact.value).has_value();
     }
-    if (side.starts_with("text of the box")) return BareTextValue(boxText);
-    if (side.starts_with("text \"")) return BareTextValue(Quoted(side));
-    if (side.starts_with("binary \"")) {
-        StoredValue value = BareTextValue(Quoted(side));
+    if (TakeOff(words, " if only this key present")) {
+        const bool earlier =
+            std::any_of(GoldenFacts().begin(), GoldenFacts().end(), [&](const Fact& other) {
+                return other.control == fact.control && other.read == "overruled" &&
+                       registry.HasKey(other.Root(), other.key);
+            });
+        return !earlier && registry.HasKey(fact.Root(), fact.key);
+    }
+    return true;
+}
+
+void ApplyWords(const std::string& words, const Fact& fact, Options& options) {
+    auto& registry = options.machine.registry;
+    const auto put = [&](const StoredValue& value) {
+        registry.Put(fact.Root(), fact.key, fact.value, value);
+    };
+    const auto source = [&](std::size_t prefix) {
+        const std::string name = words.substr(prefix);
+        return BoxText(options, name == "the box" ? fact.control : name);
+    };
+    if (words.starts_with("dword ")) {
+        put(DwordValue(static_cast<std::uint32_t>(std::stoul(words.substr(6)))));
+    } else if (words.starts_with("text of ")) {
+        put(BareTextValue(source(8)));
+    } else if (words.starts_with("number of ")) {
+        put(DwordValue(static_cast<std::uint32_t>(std::stoul(source(10)))));
+    } else if (words.starts_with("text \"")) {
+        put(BareTextValue(Quoted(words)));
+    } else if (words.starts_with("binary \"")) {
+        StoredValue value = BareTextValue(Quoted(words));
         value.type = Service::Binary;
-        return value;
+        put(value);
+    } else if (words == "delete value") {
+        if (registry.HasKey(fact.Root(), fact.key)) {
+            registry.Erase(fact.Root(), fact.key, fact.value);
+        }
+    } else if (words == "delete key") {
+        if (registry.HasKey(fact.Root(), fact.key)) registry.EraseKey(fact.Root(), fact.key);
+    } else if (words != "nothing") {
+        throw std::runtime_error("no such side: " + words);
     }
-    if (side.starts_with("delete value") || side == "nothing") return std::nullopt;
-    throw std::runtime_error("no such side: " + side);
+}
+
+}  // namespace
+
+// The limits are asked before anything is written, as one side of an option is limited as a whole.
+void Apply(const std::vector<Fact>& facts, std::string Fact::*side, Options& options) {
+    std::vector<std::pair<std::string, const Fact*>> allowed;
+    for (const Fact& fact : facts) {
+        std::string words = (fact.*side).substr(0, (fact.*side).find(" with "));
+        if (Allowed(words, fact, options) && NumericTestPasses(words, fact, options)) {
+            allowed.emplace_back(words, &fact);
+        }
+    }
+    for (const auto& [words, fact] : allowed) ApplyWords(words, *fact, options);
 }
 
 bool ReadsAsOn(const Fact& fact, const std::optional<StoredValue>& stored) {
-    std::string words = fact.read.substr(0, fact.read.find(';'));
-    if (words == "not read") return true;
+    if (!fact.Decides()) return true;
+    std::string words = fact.read.substr(0, fact.read.find_first_of(",;"));
     const bool offWhen = words.starts_with("off when ");
     if (offWhen) words.erase(0, 9);
 
-    const std::string text = stored ? TextForm(*stored) : "";
+    std::string text = stored ? TextForm(*stored) : "";
     bool holds = true;
     if (words.starts_with("present")) {
         holds = stored.has_value();
         words.erase(0, words.starts_with("present and ") ? 12 : 7);
     }
-    bool emptyToo = words.starts_with("\"\" or ");
+    const bool emptyToo = words.starts_with("\"\" or ");
     if (emptyToo) words.erase(0, 6);
+    if (words.starts_with("lower ") || words.starts_with("upper ")) {
+        for (char& letter : text) {
+            letter =
+                static_cast<char>(words[0] == 'l' ? std::tolower(letter) : std::toupper(letter));
+        }
+        words.erase(0, 6);
+    }
     if (words.starts_with("= \"")) {
         holds = holds && text == Quoted(words);
     } else if (words.starts_with("= ")) {
-        holds = holds && (IsNumber(text, std::stol(words.substr(2))) || (emptyToo && text.empty()));
+        holds =
+            holds && (NumberIn(text) == std::stol(words.substr(2)) || (emptyToo && text.empty()));
+    } else if (words.starts_with(">= ")) {
+        holds = holds && NumberIn(text).value_or(LONG_MAX) >= std::stol(words.substr(3));
+    } else if (words == "not empty") {
+        holds = !text.empty();
     } else if (!words.empty()) {
         throw std::runtime_error("no such condition: " + fact.read);
     }

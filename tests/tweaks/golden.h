@@ -24,19 +24,24 @@ struct Fact {
 
     Service::Key Root() const;
     bool IsCheckBox() const { return control.starts_with("chk"); }
+    // Whether a check box looks at the value.
+    bool Decides() const { return read.find("; absent: o") != std::string::npos; }
 };
 
 const std::vector<Fact>& GoldenFacts();
 
-// The names of the check boxes, each once, and the facts of one of them with its boxes' facts.
+// The names of the check boxes with facts of their own, each once; those that every read sets; and
+// the facts of one of them with its boxes' facts.
 std::vector<std::string> GoldenCheckBoxes();
+std::vector<std::string> ReadCheckBoxes();
 std::vector<Fact> FactsDecidedBy(const std::string& checkBox);
 
-// What a side of a fact leaves in the registry; nothing for a deleted value. The text of a box is
-// the one given.
-std::optional<StoredValue> Outcome(const std::string& side, const std::string& boxText = "");
+// Carries one side of an option's facts out on the registry of `options`, by this function's own
+// understanding of their words, not the program's. Texts are those of the form's boxes.
+void Apply(const std::vector<Fact>& facts, std::string Fact::*side, Options& options);
 
-// Whether the fact, by its own words, lets a check box read as on. The stored value's text is taken
+// Whether the fact, by its own words, lets a check box read as on; a fact that does not decide says
+// yes. The stored value's text is taken
 // by this function's own understanding, not the program's.
 bool ReadsAsOn(const Fact& fact, const std::optional<StoredValue>& stored);
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "tweaks/pagefixture.h"
+#include "tweaks/golden.h"
 
 using namespace tweak_tests;
 
@@ -26,6 +26,10 @@ Names GoldenOrder(const std::string& pass) {
 
 Names NamesOf(std::span<const std::string_view> order) {
     return {order.begin(), order.end()};
+}
+
+void AddOnce(Names& names, const std::string& name) {
+    if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
 }
 
 std::size_t PlaceOf(const Names& names, const std::string& name) {
@@ -68,97 +72,73 @@ TEST_CASE("apart from five names the write pass follows the read pass") {
 
 namespace {
 
-// The value names of the calls, each when it first comes.
-Names FirstQuestions(const Names& lines) {
+// The names of the values that the calls are about, each when it first comes.
+Names ValuesInOrder(const Names& lines, std::initializer_list<std::string_view> calls) {
     Names names;
     for (const std::string& line : lines) {
-        const std::size_t first = line.find('"');
-        const std::string name = line.substr(first + 1, line.find('"', first + 1) - first - 1);
-        if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+        const std::string_view call = std::string_view(line).substr(0, line.find(' '));
+        if (std::find(calls.begin(), calls.end(), call) == calls.end()) continue;
+        const std::size_t first = line.find('"') + 1;
+        AddOnce(names, line.substr(first, line.find('"', first) - first));
     }
     return names;
 }
 
-void PutEveryKey(Options& options) {
-    for (std::string_view key :
-         {MemoryKey, WinlogonKey, SystemKey, AgpKey,
-          std::string_view("SYSTEM\\CurrentControlSet\\Control\\FileSystem\\CDFS"),
-          std::string_view("SYSTEM\\CurrentControlSet\\Control\\Session Manager"
-                           "\\Memory Management\\PrefetchParameters"),
-          std::string_view("SYSTEM\\CurrentControlSet\\Control\\Class"
-                           "\\{4D36E96A-E325-11CE-BFC1-08002BE10318}\\0000")}) {
-        options.machine.registry.MakeKey(Service::LocalMachine, key);
-    }
-    options.machine.registry.MakeKey(Service::CurrentUser,
-                                     "SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction");
-    options.machine.registry.MakeKey(Service::CurrentUser, DesktopKey);
+// For reports that can be read.
+std::string Joined(const Names& names) {
+    std::string text;
+    for (const std::string& name : names) text += name + '\n';
+    return text;
 }
+
+// The values of the golden facts in the golden order of a pass, as far as they are wanted.
+template <typename Wanted>
+Names GoldenValues(const std::string& pass, Wanted wanted) {
+    Names names;
+    for (const std::string& name : GoldenOrder(pass)) {
+        for (const Fact& fact : FactsDecidedBy(name)) {
+            if (wanted(fact)) AddOnce(names, fact.value);
+        }
+    }
+    return names;
+}
+
+struct FullOptions : Options {
+    FullOptions() {
+        for (const Fact& fact : GoldenFacts()) {
+            machine.registry.Put(fact.Root(), fact.key, fact.value, TextValue("1"));
+        }
+        machine.journal.Clear();
+    }
+};
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Options, "a read pass asks for the values in the order of the names") {
-    PutEveryKey(*this);
-    PutMachine(WinlogonKey, "AutoAdminLogon", TextValue("1"));
-    machine.journal.Clear();
+TEST_CASE_FIXTURE(FullOptions, "a read pass asks for the values in the order of the names") {
     passes.Read();
-    CHECK(FirstQuestions(machine.journal.Calls("RegQueryValueExA")) ==
-          Names{"DisablePagingExecutive",
-                "LargeSystemCache",
-                "Enable",
-                "MenuShowDelay",
-                "ProductName",
-                "ProductId",
-                "RegisteredOwner",
-                "RegisteredOrganization",
-                "CurrentVersion",
-                "CurrentBuildNumber",
-                "SecondLevelDataCache",
-                "NtfsDisableLastAccessUpdate",
-                "EnablePrefetcher",
-                "Prefetch",
-                "PrefetchTail",
-                "NtfsMftZoneReservation",
-                "IOPageLockLimit",
-                "AutoAdminLogon",
-                "DefaultUserName",
-                "DefaultPassword",
-                "DefaultDomainName",
-                "EnableUDMA66",
-                "LargePageMinimum",
-                "EnableVia4x"});
+    const Names expected =
+        GoldenValues("read", [](const Fact& fact) { return fact.read != "not read"; });
+    CHECK(expected.size() > 40);
+    CHECK(Joined(ValuesInOrder(machine.journal.Lines(), {"RegQueryValueExA"})) == Joined(expected));
 }
 
-TEST_CASE_FIXTURE(Options, "a write pass sets the values in the order of the names") {
-    PutEveryKey(*this);
-    passes.Read();
-    for (const char* name : {"chkAutoLogin", "chkUltraDMA66", "chkFixAthlonPCIAGP"}) {
-        form.Check(name).SetValue(1);
+// With every value present, so that no limit but those on absent keys takes effect.
+TEST_CASE("a write pass touches the values in the order of the names") {
+    for (int state : {1, 0}) {
+        CAPTURE(state);
+        FullOptions options;
+        options.passes.Read();
+        for (const std::string& name : GoldenCheckBoxes()) options.form.Check(name).SetValue(state);
+        options.machine.journal.Clear();
+        options.passes.Write();
+        const Names expected = GoldenValues("write", [&](const Fact& fact) {
+            const std::string& side = state == 1 ? fact.on : fact.off;
+            return side != "nothing" && !side.starts_with("delete key") &&
+                   side.find(" if key absent") == std::string::npos &&
+                   side.find(" if only this key present") == std::string::npos;
+        });
+        CHECK(expected.size() > 40);
+        CHECK(Joined(ValuesInOrder(options.machine.journal.Lines(),
+                                   {"RegSetValueExA", "RegDeleteValueA"})) == Joined(expected));
     }
-    machine.journal.Clear();
-    passes.Write();
-    CHECK(FirstQuestions(machine.journal.Calls("RegSetValueExA")) ==
-          Names{"DisablePagingExecutive",
-                "LargeSystemCache",
-                "Enable",
-                "MenuShowDelay",
-                "ProductName",
-                "RegisteredOwner",
-                "RegisteredOrganization",
-                "CurrentVersion",
-                "CurrentBuildNumber",
-                "SecondLevelDataCache",
-                "NtfsDisableLastAccessUpdate",
-                "EnablePrefetcher",
-                "CacheSize",
-                "Prefetch",
-                "PrefetchTail",
-                "NtfsMftZoneReservation",
-                "IOPageLockLimit",
-                "AutoAdminLogon",
-                "DefaultUserName",
-                "DefaultPassword",
-                "DefaultDomainName",
-                "EnableUDMA66",
-                "LargePageMinimum",
-                "EnableVia4x"});
 }

@@ -3,11 +3,18 @@
 #include <string>
 #include <string_view>
 
+#include "platform/messages.h"
 #include "platform/simulated/machine.h"
+#include "support/optionsform.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
+#include "tweaks/controltext.h"
+#include "tweaks/networkpage.h"
 #include "tweaks/passes.h"
+#include "tweaks/pathspage.h"
+#include "tweaks/securitypage.h"
 #include "tweaks/systempage.h"
+#include "tweaks/tweakspage.h"
 
 namespace tweak_tests {
 
@@ -25,19 +32,22 @@ inline constexpr std::string_view SystemKey = "SOFTWARE\\Microsoft\\Windows NT\\
 inline constexpr std::string_view DesktopKey = "Control Panel\\Desktop";
 inline constexpr std::string_view AgpKey = "SYSTEM\\CurrentControlSet\\Services\\nv4\\Device0";
 
-// A form with every page that has options, on a given machine.
-struct OptionsForm : toolkit::Form {
-    explicit OptionsForm(const platform::Machine& machine)
-        : Form(machine.forms, "frmMain", "", {}) {
-        SetLayout(tweaks::AddSystemPage(*this, machine.clock, machine.locale));
-    }
+// A form with nothing but one page.
+struct OnePage {
+    using AddPage = toolkit::Box (*)(toolkit::Form&, const platform::Machine&);
+    explicit OnePage(AddPage add) { form.SetLayout(add(form, machine.services)); }
 
-    toolkit::CheckBox& Check(std::string_view name) { return Find<toolkit::CheckBox>(name); }
-    toolkit::TextBox& Box(std::string_view name) { return Find<toolkit::TextBox>(name); }
+    platform::simulated::Machine machine;
+    toolkit::Form form{machine.services.forms, "frmMain", "", {}};
+
+    toolkit::TextBox& Box(std::string_view name) { return form.Find<toolkit::TextBox>(name); }
 };
 
-// The same with its machine and the passes.
+// A form with all options, its machine, the passes, and a user who presses Cancel at each complaint
+// about a number, which cancels nothing.
 struct Options {
+    Options() { machine.messages.AnswerAll("Fehler", platform::message::Cancel); }
+
     platform::simulated::Machine machine;
     OptionsForm form{machine.services};
     tweaks::Passes passes{form, machine.services};
@@ -51,6 +61,7 @@ struct Options {
     void PutUser(std::string_view key, std::string_view value, StoredValue stored) {
         machine.registry.Put(Service::CurrentUser, key, value, std::move(stored));
     }
+    void FillNumbers() { form.FillNumbers(); }
     auto OfMachine(std::string_view key, std::string_view value) const {
         return machine.registry.Value(Service::LocalMachine, key, value);
     }

@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "toolkit/combobox.h"
 #include "tweaks/catalogue.h"
 #include "tweaks/order.h"
 #include "tweaks/pagefixture.h"
@@ -39,7 +40,8 @@ std::string Violations(Rule&& holds) {
 bool SameStep(const Step& left, const Step& right) {
     const auto text = [](const char* words) { return std::string_view(words ? words : ""); };
     return left.action == right.action && left.number == right.number &&
-           text(left.text) == text(right.text) && text(left.otherValue) == text(right.otherValue);
+           text(left.text) == text(right.text) && left.root == right.root &&
+           text(left.key) == text(right.key) && text(left.value) == text(right.value);
 }
 
 bool SameSteps(const Steps& left, const Steps& right) {
@@ -50,8 +52,13 @@ bool StandsIn(std::span<const std::string_view> order, const Option& option) {
     return std::count(order.begin(), order.end(), option.control) == 1;
 }
 
+bool IsRead(const Option& option) {
+    return !option.IsCheckBox() || option.HasConditions() || option.readStep;
+}
+
+// chkWinLogOn has its place although the two boxes that it decides about do the writing.
 bool IsWritten(const Option& option) {
-    return option.IsCheckBox() || !option.always.empty();
+    return option.HasSides() || option.always.size() > 0 || option.control == "chkWinLogOn";
 }
 
 }  // namespace
@@ -75,9 +82,10 @@ TEST_CASE("every option is found by its name") {
     CHECK(tweaks::FindOption("chkNothing") == nullptr);
 }
 
-TEST_CASE("every option has its place in the order of the read pass") {
-    CHECK(Violations([](const Option& option) { return StandsIn(tweaks::ReadOrder(), option); }) ==
-          "");
+TEST_CASE("exactly the options that are read stand in the order of the read pass") {
+    CHECK(Violations([](const Option& option) {
+              return StandsIn(tweaks::ReadOrder(), option) == IsRead(option);
+          }) == "");
 }
 
 TEST_CASE("exactly the options that are written stand in the order of the write pass") {
@@ -86,12 +94,19 @@ TEST_CASE("exactly the options that are written stand in the order of the write 
           }) == "");
 }
 
-TEST_CASE("a check box has one condition side and two sides of steps that differ") {
+TEST_CASE("a check box asks for on or for off, not for both, and an edit field for nothing") {
     CHECK(Violations([](const Option& option) {
-              if (!option.IsCheckBox()) return option.on.empty() && option.off.empty();
-              return option.onWhen.empty() != option.offWhen.empty() && !option.on.empty() &&
-                     !option.off.empty() && !SameSteps(option.on, option.off) &&
-                     option.always.empty();
+              const bool one = (option.onWhen.size() > 0) != (option.offWhen.size() > 0);
+              return option.IsCheckBox() ? one || !option.HasConditions() : !option.HasConditions();
+          }) == "");
+}
+
+TEST_CASE("an option has two sides of steps that differ, or steps for always") {
+    CHECK(Violations([](const Option& option) {
+              if (!option.HasSides()) return !option.IsCheckBox() || option.always.size() == 0;
+              return option.on.size() > 0 && option.off.size() > 0 &&
+                     !SameSteps(option.on, option.off) && option.always.size() == 0 &&
+                     option.IsCheckBox() == option.decidedBy.empty();
           }) == "");
 }
 
@@ -101,36 +116,61 @@ TEST_CASE("every step has what its action needs") {
                   for (const Step& step : *steps) {
                       const bool needsText = step.action == Action::WriteText ||
                                              step.action == Action::WriteBinary ||
-                                             step.action == Action::WriteControl;
+                                             step.action == Action::WriteTextOf ||
+                                             step.action == Action::WriteNumberOf;
                       if (needsText != (step.text != nullptr) || step.number < 0) return false;
+                      if (step.message && !step.numericControl) return false;
                   }
               }
               return true;
           }) == "");
 }
 
-TEST_CASE_FIXTURE(Options, "every option and every box named by a step is on the form") {
+TEST_CASE_FIXTURE(Options, "every control named by a row is on the form, of the right class") {
+    const auto holdsText = [&](std::string_view name) {
+        const auto* control = form.FindControl(name);
+        return dynamic_cast<const toolkit::TextBox*>(control) ||
+               dynamic_cast<const toolkit::ComboBox*>(control) ||
+               dynamic_cast<const toolkit::Label*>(control);
+    };
+    const auto isCheckBox = [&](std::string_view name) {
+        return dynamic_cast<const toolkit::CheckBox*>(form.FindControl(name)) != nullptr;
+    };
     CHECK(Violations([&](const Option& option) {
-              for (const Steps* steps : {&option.on, &option.always}) {
+              for (const Steps* steps : {&option.on, &option.off, &option.always}) {
                   for (const Step& step : *steps) {
-                      if (step.action == Action::WriteControl &&
-                          !dynamic_cast<toolkit::TextBox*>(form.FindControl(step.text))) {
-                          return false;
-                      }
+                      const bool named = step.action == Action::WriteTextOf ||
+                                         step.action == Action::WriteNumberOf;
+                      if (named && !holdsText(step.text)) return false;
+                      if (step.numericControl && !holdsText(step.numericControl)) return false;
                   }
               }
-              const auto* control = form.FindControl(option.control);
-              return option.IsCheckBox()
-                         ? dynamic_cast<const toolkit::CheckBox*>(control) != nullptr
-                         : dynamic_cast<const toolkit::TextBox*>(control) != nullptr;
+              for (std::string_view box : {option.decidedBy, option.otherwiseClears}) {
+                  if (!box.empty() && !isCheckBox(box)) return false;
+              }
+              return option.IsCheckBox() ? isCheckBox(option.control) : holdsText(option.control);
+          }) == "");
+}
+
+TEST_CASE("an option that two keys of a program hold is read and written by its row alone") {
+    CHECK(Violations([](const Option& option) {
+              return !option.laterKey || (!option.readStep && !option.writeStep &&
+                                          option.onGuard == tweaks::Guard::None &&
+                                          option.offGuard == tweaks::Guard::None);
           }) == "");
 }
 
 // Where an absent value reads otherwise, a first Apply changes what Windows did so far.
-TEST_CASE_FIXTURE(Options, "an absent value reads as what Windows does but for three options") {
+TEST_CASE_FIXTURE(Options, "an absent value reads as what Windows does but for some options") {
     passes.Read();
     CHECK(Violations([&](const Option& option) {
-              return !option.IsCheckBox() ||
+              return !option.HasConditions() ||
                      (State(option.control) == 1) == (option.windowsDefault == tweaks::State::On);
-          }) == "chkmemorymanagement\nchkSecondLevelDataCache\nchkMFTTuning\n");
+          }) ==
+          "chkmemorymanagement\nchkSecondLevelDataCache\nchkMFTTuning\n"
+          "chkWinAnimate\nchkNeroBurnSpeed\nchkOSVersionOnDesktop\nchkBalloonTipps\n"
+          "chkDescriptionPopups\nchkDisableThumbnails\nchkSystemRestore\nchkTaskBarGlooming\n"
+          "chkSystemSpeaker\nchkDOSComp\n"
+          "chkWatsonIE\nchkWatsonXP\nchkPageFileDelete\nchkDatensicherheit(2)\n"
+          "chkEnableNetworkProcessor\nchkSACK\nchkAutoMTU\nchkNotifyDownloadReady\n");
 }

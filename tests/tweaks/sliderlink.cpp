@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "runtime/failure.h"
+#include "runtime/number.h"
 #include "tweaks/pagefixture.h"
 
 using namespace tweak_tests;
@@ -108,8 +109,8 @@ TEST_CASE_FIXTURE(LinkedControls, "a number that does not fit fails to whoever s
         CHECK(box.Text() == text);
         CHECK(slider.Value() == 120);
     }
-    slider.SetValue(121);
-    CHECK(box.Text() == "121");
+    slider.SetValue(slider.Range().maximum);
+    CHECK(box.Text() == runtime::ToText(slider.Range().maximum));
 }
 
 TEST_CASE_FIXTURE(LinkedControls, "the two stop each other") {
@@ -123,4 +124,28 @@ TEST_CASE_FIXTURE(LinkedControls, "the two stop each other") {
     slider.SetValue(55);
     box.SetText("55");
     CHECK(answers == 1);
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "an effect comes with each move, before the box follows") {
+    std::vector<std::string> seen;
+    tweaks::LinkSliderWithBox(slider, box, machine.locale, [&](std::int32_t value) {
+        seen.push_back(std::to_string(value) + " while the box says " + box.Text());
+    });
+    slider.SetValue(17);
+    box.SetText("120");
+    box.SetText("0");
+    slider.SetValue(1);
+    CHECK(seen == std::vector<std::string>{"17 while the box says ", "120 while the box says 120",
+                                           "1 while the box says 0"});
+    CHECK(box.Text() == "0");
+}
+
+TEST_CASE_FIXTURE(LinkedControls, "an effect that fails leaves the box behind") {
+    slider.SetValue(17);
+    tweaks::LinkSliderWithBox(slider, box, machine.locale, [](std::int32_t) {
+        throw runtime::Failure(runtime::InvalidProcedureCall);
+    });
+    CHECK_THROWS_AS(slider.SetValue(18), runtime::Failure);
+    CHECK(slider.Value() == 18);
+    CHECK(box.Text() == "17");
 }

@@ -4,34 +4,20 @@
 
 #include "controls/chameleonbutton.h"
 #include "tweaks/pagefixture.h"
+#include "tweaks/pagelook.h"
 
 using namespace tweak_tests;
-using toolkit::ControlKind;
 
 namespace {
 
-// Tahoma 8 at 96 dots per inch, a little wider than it is.
-struct WideText : toolkit::TextMeasure {
-    toolkit::Size SizeOf(std::string_view text, bool bold) const override {
-        const int perTen = bold ? 75 : 58;
-        return {static_cast<int>(text.size()) * perTen / 10, bold ? 16 : 13};
-    }
-    int Scale(int pixels) const override { return pixels; }
+struct SystemPage : OnePage {
+    SystemPage() : OnePage(tweaks::AddSystemPage) {}
 };
-
-constexpr toolkit::Rect PageArea{0, 0, 630, 390};
-
-bool Overlap(toolkit::Rect a, toolkit::Rect b) {
-    return a.left < b.Right() && b.left < a.Right() && a.top < b.Bottom() && b.top < a.Bottom();
-}
-
-bool IsFrame(const toolkit::Placement& placement) {
-    return placement.control->Kind() == ControlKind::Frame;
-}
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Options, "the page has all controls in the order in which one reads them") {
+TEST_CASE_FIXTURE(SystemPage,
+                  "the page System has all controls in the order in which one reads them") {
     std::string names;
     for (const auto& control : form.Controls()) names += control->Name() + ' ';
     CHECK(names ==
@@ -47,7 +33,7 @@ TEST_CASE_FIXTURE(Options, "the page has all controls in the order in which one 
           "cmdFreeMemory cmdNormal cmdOptimal ");
 }
 
-TEST_CASE_FIXTURE(Options, "the headings, groups, labels and buttons carry their captions") {
+TEST_CASE_FIXTURE(SystemPage, "the headings, groups, labels and buttons carry their captions") {
     const std::pair<const char*, const char*> captions[] = {
         {"lblTuning", "Windows Tuning #1"},
         {"fraMemory", "System Boosts"},
@@ -71,13 +57,14 @@ TEST_CASE_FIXTURE(Options, "the headings, groups, labels and buttons carry their
     CHECK(form.Find<toolkit::Label>("lblTuning").Style() == toolkit::LabelStyle::Heading);
 }
 
-TEST_CASE_FIXTURE(Options, "the buttons whose tools are not there are disabled") {
-    for (const char* name : {"cmdFreeMemory", "cmdNormal", "cmdOptimal"}) {
+TEST_CASE_FIXTURE(SystemPage, "the buttons whose tools are not there are disabled") {
+    CHECK(form.Find<controls::chameleonButton>("cmdFreeMemory").Enabled());
+    for (const char* name : {"cmdNormal", "cmdOptimal"}) {
         CHECK_FALSE(form.Find<controls::chameleonButton>(name).Enabled());
     }
 }
 
-TEST_CASE_FIXTURE(Options, "the sliders have their ranges and steps") {
+TEST_CASE_FIXTURE(SystemPage, "the sliders have their ranges and steps") {
     const auto& menu = form.Find<toolkit::Slider>("sldStartmenu").Range();
     CHECK(menu.minimum == 1);
     CHECK(menu.maximum == 400);
@@ -92,70 +79,43 @@ TEST_CASE_FIXTURE(Options, "the sliders have their ranges and steps") {
     CHECK(level.tick == 25);
 }
 
-TEST_CASE_FIXTURE(Options, "the opacity starts at 255 in slider and box, the menu delay unsaid") {
+TEST_CASE_FIXTURE(SystemPage,
+                  "the opacity starts at 255 in slider and box, the menu delay unsaid") {
     CHECK(form.Find<toolkit::Slider>("Level").Value() == 255);
-    CHECK(Text("txtLevelValue") == "255");
-    CHECK(Text("txtStartmenu") == "");
+    CHECK(Box("txtLevelValue").Text() == "255");
+    CHECK(Box("txtStartmenu").Text() == "");
 }
 
-TEST_CASE_FIXTURE(Options, "each slider follows its own box and none the other's") {
-    form.Box("txtStartmenu").SetText("60");
-    form.Box("txtLevelValue").SetText("100");
+TEST_CASE_FIXTURE(SystemPage, "each slider follows its own box and none the other's") {
+    Box("txtStartmenu").SetText("60");
+    Box("txtLevelValue").SetText("100");
     CHECK(form.Find<toolkit::Slider>("sldStartmenu").Value() == 60);
     CHECK(form.Find<toolkit::Slider>("Level").Value() == 100);
     form.Find<toolkit::Slider>("Level").SetValue(200);
-    CHECK(Text("txtLevelValue") == "200");
-    CHECK(Text("txtStartmenu") == "60");
-    form.Box("txtLevelValue").SetText("");
+    CHECK(Box("txtLevelValue").Text() == "200");
+    CHECK(Box("txtStartmenu").Text() == "60");
+    Box("txtLevelValue").SetText("");
     CHECK(form.Find<toolkit::Slider>("Level").Value() == 200);
 }
 
-TEST_CASE_FIXTURE(Options, "the password is masked and the version boxes have limits") {
-    CHECK(form.Box("txtALPassword").Style().password);
-    CHECK_FALSE(form.Box("txtALUserName").Style().password);
-    CHECK(form.Box("txtWindowsVersion").Style().maxLength == 3);
-    CHECK(form.Box("txtOSBuild").Style().maxLength == 4);
+TEST_CASE_FIXTURE(SystemPage, "the password is masked and the version boxes have limits") {
+    CHECK(Box("txtALPassword").Style().password);
+    CHECK_FALSE(Box("txtALUserName").Style().password);
+    CHECK(Box("txtWindowsVersion").Style().maxLength == 3);
+    CHECK(Box("txtOSBuild").Style().maxLength == 4);
     for (const char* name : {"txtOSVersion", "txtUserName", "txtCompanyName", "txtStartmenu"}) {
-        CHECK(form.Box(name).Style().maxLength == 0);
+        CHECK(Box(name).Style().maxLength == 0);
     }
 }
 
-TEST_CASE_FIXTURE(Options, "the page fits its area and no two controls overlap") {
-    const auto placed = toolkit::Arrange(form.Layout(), PageArea, WideText());
-    CHECK(placed.size() == form.Controls().size());
-    for (const toolkit::Placement& one : placed) {
-        CAPTURE(one.control->Name());
-        CHECK(one.area.left >= 0);
-        CHECK(one.area.top >= 0);
-        CHECK(one.area.Right() <= PageArea.width);
-        CHECK(one.area.Bottom() <= PageArea.height);
-        CHECK(one.area.width > 0);
-        CHECK(one.area.height > 0);
-        for (const toolkit::Placement& other : placed) {
-            // A frame lies around its own controls.
-            if (one.control == other.control || IsFrame(one) || IsFrame(other)) continue;
-            CAPTURE(other.control->Name());
-            CHECK_FALSE(Overlap(one.area, other.area));
-        }
-    }
+TEST_CASE_FIXTURE(SystemPage, "the page System fits its area and no two controls overlap") {
+    CheckFits(form);
 }
 
-TEST_CASE_FIXTURE(Options, "every caption of the page has room for its text") {
-    const WideText measure;
-    for (const toolkit::Placement& one : toolkit::Arrange(form.Layout(), PageArea, measure)) {
-        if (one.control->Caption().empty()) continue;
-        CAPTURE(one.control->Name());
-        const bool isBox = one.control->Kind() == ControlKind::CheckBox;
-        CHECK(one.area.width >=
-              measure.SizeOf(one.control->Caption(), false).width + (isBox ? 16 : 0));
-    }
+TEST_CASE_FIXTURE(SystemPage, "every caption of the page System has room for its text") {
+    CheckCaptionsHaveRoom(form);
 }
 
-TEST_CASE_FIXTURE(Options, "the page's own buttons stand at its bottom right") {
-    for (const toolkit::Placement& one : toolkit::Arrange(form.Layout(), PageArea, WideText())) {
-        if (one.control->Name() == "cmdOptimal") {
-            CHECK(one.area.Right() == PageArea.width);
-            CHECK(one.area.Bottom() == PageArea.height);
-        }
-    }
+TEST_CASE_FIXTURE(SystemPage, "the page System's own buttons stand at its bottom right") {
+    CheckAtBottomRight(form, "cmdOptimal");
 }

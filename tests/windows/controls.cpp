@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <doctest/doctest.h>
 
+#include "platform/win32/windows/controlwindow.h"
 #include "runtime/failure.h"
 #include "windows/desk.h"
 
@@ -114,6 +115,26 @@ TEST_CASE("a field without a limit takes a long text") {
     CHECK(box.Text() == longText);
 }
 
+TEST_CASE("64 KiB of any characters go through a field of several lines unchanged") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& box = form.Add<toolkit::TextBox>("txt", toolkit::TextBoxStyle{.multiLine = true});
+    form.SetLayout(Leaf(box));
+    form.Show();
+    std::string longText;
+    while (longText.size() < 65536) longText += "Größe Ω Ж 漢 😀\r\n";
+    const HWND window = desk.Find(form, "txt");
+    SUBCASE("set by the program") {
+        box.SetText(longText);
+        CHECK(platform::win32::TextOf(window) == longText);
+    }
+    SUBCASE("pasted") {
+        SendMessageW(window, EM_REPLACESEL, FALSE,
+                     reinterpret_cast<LPARAM>(platform::win32::ToWide(longText).c_str()));
+        CHECK(box.Text() == longText);
+    }
+}
+
 TEST_CASE("the slider's thumb and its control go together") {
     Desk desk;
     TestForm form(desk.host, "frmMain");
@@ -161,4 +182,21 @@ TEST_CASE("a control that loses its use hands the focus on") {
     SetFocus(desk.Find(form, "txtOne"));
     first.SetEnabled(false);
     CHECK(GetFocus() == desk.Find(form, "txtTwo"));
+}
+
+TEST_CASE("a path is shown in one line without access keys, and its window holds all of it") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    const std::string longPath = "C:\\Tom & Jerry\\" + std::string(300, 'x') + "\\Letzter";
+    auto& path = form.Add<toolkit::Label>("lblPath", "", toolkit::LabelStyle::Path);
+    auto& plain = form.Add<toolkit::Label>("lblPlain", "Text");
+    form.SetLayout(toolkit::Column({Leaf(path), Leaf(plain)}));
+    form.Show();
+    path.SetCaption(longPath);
+    const auto style = [&](const char* name) {
+        return GetWindowLongW(desk.Find(form, name), GWL_STYLE) & (SS_ELLIPSISMASK | SS_NOPREFIX);
+    };
+    CHECK(style("lblPath") == (SS_PATHELLIPSIS | SS_NOPREFIX));
+    CHECK(style("lblPlain") == 0);
+    CHECK(platform::win32::TextOf(desk.Find(form, "lblPath")) == longPath);
 }

@@ -62,9 +62,13 @@ class TestForm final : public toolkit::Form {
 
     std::function<bool(int)> keyDown;
     std::function<void()> resized;
+    std::function<void()> mouseMoved;
 
   protected:
     bool OnKeyDown(int key) override { return keyDown && keyDown(key); }
+    void OnMouseMove() override {
+        if (mouseMoved) mouseMoved();
+    }
     void OnResize() override {
         if (resized) resized();
     }

@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "toolkit/combobox.h"
 #include "windows/desk.h"
 
 using namespace windows;
@@ -40,6 +41,7 @@ void OpenAndClose(Desk& desk) {
     TestForm form(desk.host, "frmLeak");
     form.Add<toolkit::Label>("lblLeak", "Text", toolkit::LabelStyle::Heading);
     form.Add<toolkit::TextBox>("txtLeak");
+    form.Add<toolkit::ComboBox>("cboLeak").AddItem("552");
     form.Add<toolkit::OptionButton>("optLeak", "Wahl", 1);
     auto& button = form.Add<PlainButton>("cmdLeak", "Knopf");
     form.SetLayout(Leaf(button));

@@ -2,6 +2,8 @@
 
 #include <deque>
 #include <functional>
+#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,10 +13,12 @@ namespace platform::simulated {
 
 class Journal;
 
-// Windows without a screen. A modal form is answered from a script.
+// Windows without a screen. A modal form is answered from a script. Of what a form shows only its
+// transparency is journalled, since that is asked of the system call by call.
 class Forms final : public toolkit::FormHost {
   public:
-    explicit Forms(Journal& journal) : journal_(journal) {}
+    explicit Forms(Journal& journal);
+    ~Forms() override;
 
     void Open(toolkit::Form& form) override;
     void RunModal(toolkit::Form& form) override;
@@ -31,7 +35,10 @@ class Forms final : public toolkit::FormHost {
     toolkit::Bounds workArea{0, 0, 15360, 11100};
 
   private:
+    class View;
+
     Journal& journal_;
+    std::map<toolkit::Form*, std::unique_ptr<View>> views_;
     std::vector<toolkit::Form*> open_;
     std::deque<std::pair<std::string, std::function<void(toolkit::Form&)>>> scripts_;
 };

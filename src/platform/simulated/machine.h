@@ -2,19 +2,28 @@
 
 #include "platform/machine.h"
 #include "platform/simulated/autostart.h"
+#include "platform/simulated/beeper.h"
+#include "platform/simulated/browser.h"
+#include "platform/simulated/clipboard.h"
 #include "platform/simulated/clock.h"
+#include "platform/simulated/display.h"
 #include "platform/simulated/faults.h"
 #include "platform/simulated/files.h"
 #include "platform/simulated/forms.h"
 #include "platform/simulated/journal.h"
 #include "platform/simulated/locale.h"
+#include "platform/simulated/memory.h"
+#include "platform/simulated/menus.h"
 #include "platform/simulated/messages.h"
+#include "platform/simulated/otherwindows.h"
 #include "platform/simulated/processes.h"
 #include "platform/simulated/program.h"
 #include "platform/simulated/registry.h"
 #include "platform/simulated/session.h"
 #include "platform/simulated/settingsstore.h"
+#include "platform/simulated/shell.h"
 #include "platform/simulated/system.h"
+#include "platform/simulated/systeminformation.h"
 #include "platform/simulated/tray.h"
 
 namespace platform::simulated {
@@ -36,14 +45,22 @@ class Machine {
     SettingsStore settings;
     Files files;
     Processes processes;
+    Shell shell;
     Session session;
     AutoStart autostart;
     OperatingSystem system;
     SystemFacts facts;
+    SystemInformation information;
     Memory memory;
+    OtherWindows windows;
+    Display display;
     Clock clock;
     Locale locale;
+    Clipboard clipboard;
+    Beeper beeper;
+    Browser browser;
     Messages messages;
+    Menus menus;
     Tray tray;
     Program program;
 

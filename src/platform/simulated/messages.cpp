@@ -38,6 +38,10 @@ int Messages::Show(std::string_view text, int style, std::string_view title) {
     shown_.push_back({std::string(title), std::string(text), style});
     if (auto action = TakeFirst(actions_, title); action && *action) (*action)();
     std::optional<int> answer = TakeFirst(answers_, title);
+    if (!answer) {
+        const auto standing = standingAnswers_.find(title);
+        if (standing != standingAnswers_.end()) answer = standing->second;
+    }
     if (!answer && IsQuestion(style)) {
         throw std::logic_error("nobody answers the message box \"" + std::string(title) +
                                "\": " + std::string(text));
@@ -49,6 +53,10 @@ int Messages::Show(std::string_view text, int style, std::string_view title) {
 
 void Messages::Answer(std::string title, int answer) {
     answers_.emplace_back(std::move(title), answer);
+}
+
+void Messages::AnswerAll(std::string title, int answer) {
+    standingAnswers_.insert_or_assign(std::move(title), answer);
 }
 
 void Messages::WhileOpen(std::string title, std::function<void()> action) {

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,6 +33,8 @@ class Messages final : public platform::Messages {
     // A box with only OK needs no answer; a question without one is a mistake in the test
     // (std::logic_error).
     void Answer(std::string title, int answer);
+    // Every box with that title is answered so when no single answer waits for it.
+    void AnswerAll(std::string title, int answer);
     // Runs while the next box with that title is open, before it is answered.
     void WhileOpen(std::string title, std::function<void()> action);
 
@@ -41,6 +44,7 @@ class Messages final : public platform::Messages {
     Journal& journal_;
     Faults& faults_;
     std::deque<std::pair<std::string, int>> answers_;
+    std::map<std::string, int, std::less<>> standingAnswers_;
     std::deque<std::pair<std::string, std::function<void()>>> actions_;
     std::vector<ShownMessage> shown_;
 };

@@ -20,6 +20,13 @@ Processes::Handle Processes::Create(std::string_view commandLine, std::uint32_t 
     return handle;
 }
 
+void Processes::Start(std::string_view commandLine, std::int32_t windowStyle) {
+    auto line = journal_.Note(
+        [&] { return "Start " + Quoted(commandLine) + " " + std::to_string(windowStyle); });
+    PassOrThrow(journal_, faults_, line, "Start", commandLine);
+    launched.push_back({std::string(commandLine), windowStyle});
+}
+
 void Processes::WaitForEnd(Handle process) {
     journal_.Note([&] { return "WaitForSingleObject #" + std::to_string(process); });
     Started* open = Find(process);

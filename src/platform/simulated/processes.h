@@ -19,6 +19,7 @@ class Processes final : public platform::Processes {
 
     Handle Create(std::string_view commandLine, std::uint32_t creationFlags,
                   const StartupInfo& startup) override;
+    void Start(std::string_view commandLine, std::int32_t windowStyle) override;
     void WaitForEnd(Handle process) override;
     bool Close(Handle process) override;
 
@@ -29,7 +30,16 @@ class Processes final : public platform::Processes {
         bool waitedFor = false;
         bool closed = false;
     };
+    // What was made by Create.
     const std::vector<Started>& All() const { return started_; }
+
+    struct Launched {
+        std::string commandLine;
+        std::int32_t windowStyle = 0;
+        bool operator==(const Launched&) const = default;
+    };
+    // What was started by Start. Every program is there unless Faults::FailOn says otherwise.
+    std::vector<Launched> launched;
 
   private:
     // nullptr for a handle that is not open.

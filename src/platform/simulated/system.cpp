@@ -1,16 +1,21 @@
 #include "platform/simulated/system.h"
 
 #include "platform/simulated/faults.h"
+#include "platform/simulated/locale.h"
 #include "platform/simulated/wording.h"
+#include "runtime/text.h"
 
 namespace platform::simulated {
 
 namespace {
 
-// A directory that the system does not tell is "".
-std::string Directory(Journal& journal, Faults& faults, const char* call,
-                      const std::string& directory) {
-    std::string told = faults.Check(call, "") ? "" : directory;
+// The buffers hold that many bytes, the terminating NUL among them.
+constexpr std::size_t BufferSize = 255;
+
+// A text that the system does not tell, or that does not fit, is "".
+std::string Told(Journal& journal, Faults& faults, const char* call, const std::string& text) {
+    bool fits = ToWesternBytes(text).size() < BufferSize;
+    std::string told = faults.Check(call, "") || !fits ? "" : text;
     journal.Note([&] { return call + (" -> " + Quoted(told)); });
     return told;
 }
@@ -28,18 +33,37 @@ OperatingSystemFacts OperatingSystem::Facts() const {
 }
 
 std::string SystemFacts::WindowsDirectory() const {
-    return Directory(journal_, faults_, "GetWindowsDirectoryA", windowsDirectory);
+    return Told(journal_, faults_, "GetWindowsDirectoryA", windowsDirectory);
 }
 
 std::string SystemFacts::SystemDirectory() const {
-    return Directory(journal_, faults_, "GetSystemDirectoryA", systemDirectory);
+    return Told(journal_, faults_, "GetSystemDirectoryA", systemDirectory);
 }
 
-std::string Memory::TotalPhysical() const {
-    auto line = journal_.Note([] { return std::string("Memory.TotalPhysical"); });
-    PassOrThrow(journal_, faults_, line, "Memory.TotalPhysical", "");
-    journal_.Finish(line, [&] { return Quoted(totalPhysical); });
-    return totalPhysical;
+std::string SystemFacts::TempPath() const {
+    return Told(journal_, faults_, "GetTempPathA", tempPath);
+}
+
+std::string SystemFacts::UserName() const {
+    return Told(journal_, faults_, "GetUserNameA", userName);
+}
+
+DiskSpace SystemFacts::Space(std::string_view directory) const {
+    bool fails = faults_.Check("GetDiskFreeSpaceExA", directory).has_value();
+    std::string drive = runtime::ToUpper(directory.substr(0, 1));
+    bool isPath = directory.size() > 1 && directory[1] == ':';
+    auto found = isPath ? spaces_.find(drive[0]) : spaces_.end();
+    DiskSpace space = fails || found == spaces_.end() ? DiskSpace{} : found->second;
+    journal_.Note([&] {
+        return "GetDiskFreeSpaceExA " + Quoted(directory) + " -> " +
+               std::to_string(space.freeToUser) + " " + std::to_string(space.total) + " " +
+               std::to_string(space.free);
+    });
+    return space;
+}
+
+void SystemFacts::SetSpace(char drive, DiskSpace space) {
+    spaces_[drive] = space;
 }
 
 }  // namespace platform::simulated

@@ -1,6 +1,9 @@
 #pragma once
 
-#include "platform/memory.h"
+#include <map>
+#include <string>
+#include <string_view>
+
 #include "platform/operatingsystem.h"
 #include "platform/systemfacts.h"
 
@@ -28,26 +31,22 @@ class SystemFacts final : public platform::SystemFacts {
 
     std::string WindowsDirectory() const override;
     std::string SystemDirectory() const override;
+    std::string TempPath() const override;
+    std::string UserName() const override;
+    DiskSpace Space(std::string_view directory) const override;
+
+    // The space of the drive of that capital letter. A drive without has no medium.
+    void SetSpace(char drive, DiskSpace space);
 
     std::string windowsDirectory = "C:\\WINDOWS";
     std::string systemDirectory = "C:\\WINDOWS\\system32";
+    std::string tempPath = "C:\\DOKUME~1\\Besitzer\\LOKALE~1\\Temp\\";
+    std::string userName = "Besitzer";
 
   private:
     Journal& journal_;
     Faults& faults_;
-};
-
-class Memory final : public platform::Memory {
-  public:
-    Memory(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
-
-    std::string TotalPhysical() const override;
-
-    std::string totalPhysical = "536330240";
-
-  private:
-    Journal& journal_;
-    Faults& faults_;
+    std::map<char, DiskSpace> spaces_{{'C', {10485760000, 20003880960, 10485760000}}};
 };
 
 }  // namespace platform::simulated

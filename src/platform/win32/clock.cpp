@@ -1,6 +1,7 @@
 #include "platform/win32/clock.h"
 
 #include "platform/win32/eventguard.h"
+#include "runtime/failure.h"
 
 namespace platform::win32 {
 
@@ -17,8 +18,10 @@ LocalTime Clock::Now() const {
 
 Clock::Timer Clock::StartTimer(int milliseconds, std::function<void()> tick) {
     const Timer timer = next_++;
+    if (!SetTimer(window_.Get(), timer, static_cast<UINT>(milliseconds), nullptr)) {
+        throw runtime::Failure(runtime::OutOfMemory);
+    }
     timers_[timer] = std::make_shared<Running>(Running{std::move(tick)});
-    SetTimer(window_.Get(), timer, static_cast<UINT>(milliseconds), nullptr);
     return timer;
 }
 

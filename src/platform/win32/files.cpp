@@ -9,8 +9,8 @@ namespace {
 
 runtime::Failure FailureOf(DWORD error) {
     switch (error) {
-        // A file that is not there is made, so what is missing is a directory or the drive.
         case ERROR_FILE_NOT_FOUND:
+            return runtime::Failure(runtime::FileNotFound);
         case ERROR_PATH_NOT_FOUND:
         case ERROR_BAD_NETPATH:
             return runtime::Failure(runtime::PathNotFound);
@@ -24,28 +24,86 @@ runtime::Failure FailureOf(DWORD error) {
     }
 }
 
+// Others may read the file meanwhile. It is made when it is not there.
+FileHandle OpenOutput(std::string_view path, DWORD access, DWORD disposition) {
+    FileHandle file(CreateFileW(ToWide(path).c_str(), access, FILE_SHARE_READ, nullptr, disposition,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (file) return file;
+    const DWORD error = GetLastError();
+    // So what is missing is a directory or the drive.
+    throw FailureOf(error == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : error);
+}
+
+// Others may write the file meanwhile, but not read it.
+FileHandle OpenInput(std::string_view path) {
+    FileHandle file(CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_WRITE, nullptr,
+                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (file) return file;
+    const DWORD error = GetLastError();
+    // Only here is a missing right told apart from a file that is in use.
+    throw error == ERROR_ACCESS_DENIED ? runtime::Failure(runtime::PathFileAccess)
+                                       : FailureOf(error);
+}
+
+void WriteAll(const FileHandle& file, std::string_view bytes) {
+    DWORD written = 0;
+    if (!WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) {
+        throw FailureOf(GetLastError());
+    }
+}
+
 }  // namespace
 
 Files::Handle Files::OpenForAppend(std::string_view path) {
-    FileHandle file(CreateFileW(ToWide(path).c_str(), FILE_APPEND_DATA, FILE_SHARE_READ, nullptr,
-                                OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) throw FailureOf(GetLastError());
-    open_.emplace(next_, std::move(file));
+    open_.emplace(next_, OpenOutput(path, FILE_APPEND_DATA, OPEN_ALWAYS));
+    return next_++;
+}
+
+Files::Handle Files::OpenForReading(std::string_view path) {
+    open_.emplace(next_, OpenInput(path));
     return next_++;
 }
 
 void Files::Write(Handle file, std::string_view bytes) {
     const auto found = open_.find(file);
     if (found == open_.end()) throw runtime::Failure(runtime::BadFileNumber);
-    DWORD written = 0;
-    if (!WriteFile(found->second.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
-                   nullptr)) {
-        throw FailureOf(GetLastError());
-    }
+    WriteAll(found->second, bytes);
 }
 
 void Files::Close(Handle file) {
     open_.erase(file);
+}
+
+std::string Files::Read(std::string_view path) {
+    const FileHandle file = OpenInput(path);
+    std::string content;
+    char piece[16 * 1024];
+    DWORD length = 0;
+    do {
+        if (!ReadFile(file.Get(), piece, sizeof piece, &length, nullptr)) {
+            throw FailureOf(GetLastError());
+        }
+        content.append(piece, length);
+    } while (length > 0);
+    return content;
+}
+
+void Files::Remove(std::string_view path, bool force) {
+    const std::wstring wide = ToWide(path);
+    const DWORD attributes = GetFileAttributesW(wide.c_str());
+    const bool isProtected =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    if (force && isProtected) {
+        SetFileAttributesW(wide.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+    }
+    if (DeleteFileW(wide.c_str())) return;
+    const DWORD error = GetLastError();
+    if (force && isProtected) SetFileAttributesW(wide.c_str(), attributes);
+    throw FailureOf(error);
+}
+
+void Files::WriteText(std::string_view path, std::string_view bytes) {
+    WriteAll(OpenOutput(path, GENERIC_WRITE, CREATE_ALWAYS), bytes);
 }
 
 }  // namespace platform::win32

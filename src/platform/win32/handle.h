@@ -82,6 +82,12 @@ struct MemoryContextTraits {
     static bool Close(Type context) { return DeleteDC(context) != FALSE; }
 };
 
+struct MenuTraits {
+    using Type = HMENU;
+    static Type None() { return nullptr; }
+    static bool Close(Type menu) { return DestroyMenu(menu) != FALSE; }
+};
+
 template <typename Object>
 struct DrawingTraits {
     using Type = Object;
@@ -94,6 +100,7 @@ using KernelHandle = Owned<KernelTraits>;
 using FileHandle = Owned<FileTraits>;
 using RegistryKey = Owned<RegistryKeyTraits>;
 using WindowHandle = Owned<WindowTraits>;
+using MenuHandle = Owned<MenuTraits>;
 using MemoryContext = Owned<MemoryContextTraits>;
 using FontHandle = Owned<DrawingTraits<HFONT>>;
 using BrushHandle = Owned<DrawingTraits<HBRUSH>>;

@@ -1,22 +1,33 @@
 #include "platform/win32/machine.h"
 
+#include "platform/win32/formhandles.h"
+
 namespace platform::win32 {
 
-Machine::Machine(toolkit::FormHost& forms)
-    : services{
+Machine::Machine(FormHandles& forms)
+    : shell_(forms, messages_),
+      services{
           .forms = forms,
           .registry = registry_,
           .settings = settings_,
           .files = files_,
           .processes = processes_,
+          .shell = shell_,
           .session = session_,
           .autostart = autostart_,
           .system = system_,
           .facts = facts_,
+          .information = information_,
           .memory = memory_,
+          .windows = windows_,
+          .display = display_,
           .clock = clock_,
           .locale = locale_,
+          .clipboard = clipboard_,
+          .beeper = beeper_,
+          .browser = browser_,
           .messages = messages_,
+          .menus = menus_,
           .tray = tray_,
           .program = program_,
       } {}

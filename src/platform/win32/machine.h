@@ -2,27 +2,37 @@
 
 #include "platform/machine.h"
 #include "platform/win32/autostart.h"
+#include "platform/win32/beeper.h"
+#include "platform/win32/browser.h"
+#include "platform/win32/clipboard.h"
 #include "platform/win32/clock.h"
+#include "platform/win32/display.h"
 #include "platform/win32/files.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/memory.h"
+#include "platform/win32/menus.h"
 #include "platform/win32/messages.h"
 #include "platform/win32/operatingsystem.h"
+#include "platform/win32/otherwindows.h"
 #include "platform/win32/processes.h"
 #include "platform/win32/program.h"
 #include "platform/win32/registry.h"
 #include "platform/win32/session.h"
 #include "platform/win32/settingsstore.h"
+#include "platform/win32/shell.h"
 #include "platform/win32/systemfacts.h"
+#include "platform/win32/systeminformation.h"
 #include "platform/win32/tray.h"
 
 namespace platform::win32 {
+
+class FormHandles;
 
 // The Windows on which the program runs.
 class Machine {
   public:
     // `forms` makes the native windows and lives as long as the machine.
-    explicit Machine(toolkit::FormHost& forms);
+    explicit Machine(FormHandles& forms);
     Machine(const Machine&) = delete;
     Machine& operator=(const Machine&) = delete;
 
@@ -35,9 +45,17 @@ class Machine {
     AutoStart autostart_;
     OperatingSystem system_;
     SystemFacts facts_;
+    SystemInformation information_;
     Memory memory_;
+    OtherWindows windows_;
+    Display display_;
     Locale locale_;
+    Clipboard clipboard_;
+    Beeper beeper_;
+    Browser browser_;
     Messages messages_;
+    Shell shell_;
+    Menus menus_;
     Clock clock_{messages_};
     Tray tray_{messages_};
     Program program_;

@@ -2,15 +2,39 @@
 
 #include <windows.h>
 
+#include <new>
+#include <stdexcept>
+#include <string>
+
 #include "runtime/failure.h"
 
 namespace platform::win32 {
+
+namespace {
+
+// A block as large as this comes from the system itself and goes back to it at once.
+struct BlankText final : MemoryBlock {
+    explicit BlankText(std::size_t characters) : text(characters, u' ') {}
+    std::u16string text;
+};
+
+}  // namespace
 
 std::string Memory::TotalPhysical() const {
     MEMORYSTATUSEX status = {};
     status.dwLength = sizeof status;
     if (!GlobalMemoryStatusEx(&status)) throw runtime::Failure(runtime::CannotCreateObject);
     return std::to_string(status.ullTotalPhys);
+}
+
+std::unique_ptr<MemoryBlock> Memory::Blanks(std::size_t characters) {
+    try {
+        return std::make_unique<BlankText>(characters);
+    } catch (const std::bad_alloc&) {
+        throw runtime::Failure(runtime::OutOfMemory);
+    } catch (const std::length_error&) {
+        throw runtime::Failure(runtime::OutOfMemory);
+    }
 }
 
 }  // namespace platform::win32

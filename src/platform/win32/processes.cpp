@@ -2,8 +2,26 @@
 
 #include "platform/win32/handle.h"
 #include "platform/win32/text.h"
+#include "runtime/failure.h"
 
 namespace platform::win32 {
+
+namespace {
+
+int FailureNumberOf(DWORD error) {
+    switch (error) {
+        case ERROR_FILE_NOT_FOUND:
+            return runtime::FileNotFound;
+        case ERROR_PATH_NOT_FOUND:
+            return runtime::PathNotFound;
+        case ERROR_ACCESS_DENIED:
+            return runtime::PermissionDenied;
+        default:
+            return runtime::InvalidProcedureCall;
+    }
+}
+
+}  // namespace
 
 Processes::Handle Processes::Create(std::string_view commandLine, std::uint32_t creationFlags,
                                     const StartupInfo& startup) {
@@ -21,6 +39,21 @@ Processes::Handle Processes::Create(std::string_view commandLine, std::uint32_t 
     // The handle of the thread stays open, on purpose: the program starts a handful of processes in
     // its life, and the handles go with it.
     return reinterpret_cast<Handle>(started.hProcess);
+}
+
+void Processes::Start(std::string_view commandLine, std::int32_t windowStyle) {
+    std::string line = ToAnsi(commandLine);
+    STARTUPINFOA record = {};
+    record.cb = sizeof record;
+    record.dwFlags = STARTF_USESHOWWINDOW;
+    record.wShowWindow = static_cast<WORD>(windowStyle);
+    PROCESS_INFORMATION started = {};
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &record,
+                        &started)) {
+        throw runtime::Failure(FailureNumberOf(GetLastError()));
+    }
+    KernelHandle(started.hThread).Close();
+    KernelHandle(started.hProcess).Close();
 }
 
 void Processes::WaitForEnd(Handle process) {

@@ -8,6 +8,7 @@ class Processes final : public platform::Processes {
   public:
     Handle Create(std::string_view commandLine, std::uint32_t creationFlags,
                   const StartupInfo& startup) override;
+    void Start(std::string_view commandLine, std::int32_t windowStyle) override;
     void WaitForEnd(Handle process) override;
     bool Close(Handle process) override;
 };

@@ -8,8 +8,10 @@ namespace platform::win32 {
 
 namespace {
 
+constexpr DWORD BufferSize = 255;
+
 std::string Directory(UINT(WINAPI* ask)(LPSTR, UINT)) {
-    char buffer[255];
+    char buffer[BufferSize];
     const UINT length = ask(buffer, sizeof buffer);
     // A path that does not fit is answered with the size that it needs.
     if (length >= sizeof buffer) return "";
@@ -19,6 +21,19 @@ std::string Directory(UINT(WINAPI* ask)(LPSTR, UINT)) {
     return FromAnsi(path);
 }
 
+// Keeps the system from asking for a medium in a box of its own.
+class NoMediumBox {
+  public:
+    NoMediumBox() { SetErrorMode(before_ | SEM_FAILCRITICALERRORS); }
+    ~NoMediumBox() { SetErrorMode(before_); }
+    NoMediumBox(const NoMediumBox&) = delete;
+    NoMediumBox& operator=(const NoMediumBox&) = delete;
+
+  private:
+    // XP tells the mode only to those who set one.
+    const UINT before_ = SetErrorMode(SEM_FAILCRITICALERRORS);
+};
+
 }  // namespace
 
 std::string SystemFacts::WindowsDirectory() const {
@@ -27,6 +42,27 @@ std::string SystemFacts::WindowsDirectory() const {
 
 std::string SystemFacts::SystemDirectory() const {
     return Directory(GetSystemDirectoryA);
+}
+
+std::string SystemFacts::TempPath() const {
+    char buffer[BufferSize];
+    const DWORD length = GetTempPathA(BufferSize, buffer);
+    return length >= BufferSize ? "" : FromAnsi({buffer, length});
+}
+
+std::string SystemFacts::UserName() const {
+    char buffer[BufferSize];
+    // In: what there is room for. Out: what was used, with the NUL.
+    DWORD length = BufferSize;
+    if (!GetUserNameA(buffer, &length) || length == 0) return "";
+    return FromAnsi({buffer, length - 1});
+}
+
+DiskSpace SystemFacts::Space(std::string_view directory) const {
+    const NoMediumBox quiet;
+    ULARGE_INTEGER freeToUser = {}, total = {}, free = {};
+    if (!GetDiskFreeSpaceExA(ToAnsi(directory).c_str(), &freeToUser, &total, &free)) return {};
+    return {freeToUser.QuadPart, total.QuadPart, free.QuadPart};
 }
 
 }  // namespace platform::win32

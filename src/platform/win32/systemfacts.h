@@ -8,6 +8,9 @@ class SystemFacts final : public platform::SystemFacts {
   public:
     std::string WindowsDirectory() const override;
     std::string SystemDirectory() const override;
+    std::string TempPath() const override;
+    std::string UserName() const override;
+    DiskSpace Space(std::string_view directory) const override;
 };
 
 }  // namespace platform::win32

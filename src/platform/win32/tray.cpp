@@ -4,6 +4,8 @@
 
 #include <shellapi.h>
 
+#include <utility>
+
 #include "platform/win32/eventguard.h"
 #include "platform/win32/text.h"
 
@@ -49,13 +51,18 @@ void Tray::SetTip(std::string_view text) {
 }
 
 void Tray::SetShown(bool shown) {
-    wanted_ = shown;
-    if (shown && !shown_) {
-        shown_ = Notify(NIM_ADD);
-    } else if (!shown && shown_) {
+    const bool before = std::exchange(wanted_, shown);
+    if (shown && !shown_) Put();
+    if (!shown && before) {
         Notify(NIM_DELETE);
         shown_ = false;
     }
+}
+
+// A shell that is busy reports a failure and takes the icon nevertheless; it then refuses a second
+// one of the same number, but not its change.
+void Tray::Put() {
+    shown_ = Notify(NIM_ADD) || Notify(NIM_MODIFY);
 }
 
 bool Tray::Notify(DWORD action) {
@@ -75,17 +82,17 @@ void Tray::Receive(UINT message, LPARAM lParam) {
     if (message == TrayMessage) {
         Mouse(static_cast<UINT>(lParam));
     } else if (message == shellStarted_ && wanted_) {
-        shown_ = Notify(NIM_ADD);
+        Put();
     }
 }
 
 void Tray::Mouse(UINT message) {
     switch (message) {
-        case WM_LBUTTONDOWN:
-            if (onMouseDown) GuardEvent(messages_, [this] { onMouseDown(1); });
+        case WM_LBUTTONUP:
+            if (onMouseUp) GuardEvent(messages_, [this] { onMouseUp(LeftButton); });
             break;
-        case WM_RBUTTONDOWN:
-            if (onMouseDown) GuardEvent(messages_, [this] { onMouseDown(2); });
+        case WM_RBUTTONUP:
+            if (onMouseUp) GuardEvent(messages_, [this] { onMouseUp(RightButton); });
             break;
         case WM_LBUTTONDBLCLK:
             if (onRestore) GuardEvent(messages_, onRestore);

@@ -24,6 +24,7 @@ class Tray final : public platform::Tray {
   private:
     void Receive(UINT message, LPARAM lParam);
     void Mouse(UINT message);
+    void Put();
     bool Notify(DWORD action);
 
     platform::Messages& messages_;

@@ -27,6 +27,11 @@ int main() {
         Sleep(static_cast<DWORD>(std::atoi(first.c_str())));
     } else if (verb == "line") {
         Append(first, line);
+    } else if (verb == "style") {
+        STARTUPINFOW startup;
+        GetStartupInfoW(&startup);
+        Append(first, "flags " + std::to_string(startup.dwFlags) + " show " +
+                          std::to_string(startup.wShowWindow));
     } else if (verb == "end") {
         program.End();
         Append(first, "lived on");

@@ -6,6 +6,8 @@
 
 #include "contract/machine.h"
 #include "contract/win32/child.h"
+#include "platform/files.h"
+#include "runtime/failure.h"
 
 namespace {
 
@@ -50,4 +52,49 @@ TEST_CASE("inheritable handles go to the process") {
     processes.WaitForEnd(process);
     processes.Close(process);
     CHECK(OpenMutexW(SYNCHRONIZE, FALSE, L"QuillmoreContractInherited") == nullptr);
+}
+
+TEST_CASE("a program started by command line gets its window style and is not waited for") {
+    contract::TestMachine machine;
+    auto& processes = machine.Services().processes;
+    const std::string report = machine.FilePath("style.txt");
+    const DWORD before = GetTickCount();
+    processes.Start(contract::ChildCommand("sleep 3000"), 0);
+    CHECK(GetTickCount() - before < 3000);
+    processes.Start(contract::ChildCommand("style " + report), 6);
+    REQUIRE(
+        machine.PassTime(10000, [&] { return machine.FileContent(report).value_or("") != ""; }));
+    CHECK(machine.FileContent(report) == "flags 1 show 6");
+}
+
+TEST_CASE("a program started by command line inherits no handle") {
+    contract::TestMachine machine;
+    SECURITY_ATTRIBUTES inheritable = {sizeof inheritable, nullptr, TRUE};
+    const HANDLE mutex = CreateMutexW(&inheritable, FALSE, L"QuillmoreContractKept");
+    REQUIRE(mutex);
+    machine.Services().processes.Start(contract::ChildCommand("sleep 1500"), 0);
+    CloseHandle(mutex);
+    CHECK(OpenMutexW(SYNCHRONIZE, FALSE, L"QuillmoreContractKept") == nullptr);
+}
+
+TEST_CASE("a start fails by the number that fits: no file, no path, no program") {
+    contract::TestMachine machine;
+    auto& files = machine.Services().files;
+    const auto numberOf = [&](const std::string& commandLine) {
+        try {
+            machine.Services().processes.Start('"' + commandLine + '"', 1);
+        } catch (const runtime::Failure& failure) {
+            return failure.number;
+        }
+        return 0;
+    };
+    CHECK(numberOf(machine.FilePath("absent.exe")) == runtime::FileNotFound);
+    // Which one of the two it is differs between systems.
+    const int noPath = numberOf(machine.FilePath("absent\\absent.exe"));
+    CHECK((noPath == runtime::PathNotFound || noPath == runtime::FileNotFound));
+    const std::string text = machine.FilePath("text.exe");
+    const auto file = files.OpenForAppend(text);
+    files.Write(file, "this is no program");
+    files.Close(file);
+    CHECK(numberOf(text) == runtime::InvalidProcedureCall);
 }

@@ -24,6 +24,11 @@ TEST_CASE("the facts are those of the system itself") {
     CHECK(machine.Services().facts.WindowsDirectory() == platform::win32::FromWide(path));
     GetSystemDirectoryW(path, MAX_PATH);
     CHECK(machine.Services().facts.SystemDirectory() == platform::win32::FromWide(path));
+    GetTempPathW(MAX_PATH, path);
+    CHECK(machine.Services().facts.TempPath() == platform::win32::FromWide(path));
+    DWORD length = MAX_PATH;
+    GetUserNameW(path, &length);
+    CHECK(machine.Services().facts.UserName() == platform::win32::FromWide(path));
     MEMORYSTATUSEX status = {};
     status.dwLength = sizeof status;
     GlobalMemoryStatusEx(&status);
@@ -47,4 +52,37 @@ TEST_CASE("now is the local time") {
     CHECK(now.hour == before.wHour);
     CHECK(now.minute == before.wMinute);
     CHECK(now.second == before.wSecond);
+}
+
+TEST_CASE("the drives' space is the system's, free to the user, in all and free") {
+    contract::TestMachine machine;
+    ULARGE_INTEGER freeToUser, total, free;
+    REQUIRE(GetDiskFreeSpaceExW(L"C:\\", &freeToUser, &total, &free));
+    const auto space = machine.Services().facts.Space("C:\\");
+    CHECK(space.total == total.QuadPart);
+    // Somebody else may be writing meanwhile.
+    constexpr std::uint64_t tolerance = 1 << 30;
+    CHECK(space.freeToUser + tolerance > freeToUser.QuadPart);
+    CHECK(space.freeToUser < freeToUser.QuadPart + tolerance);
+    CHECK(space.free + tolerance > free.QuadPart);
+    CHECK(space.free < free.QuadPart + tolerance);
+}
+
+TEST_CASE("asking for a drive leaves the system's error boxes as they were") {
+    contract::TestMachine machine;
+    const UINT before = SetErrorMode(SEM_NOGPFAULTERRORBOX);
+    machine.Services().facts.Space("A:\\");
+    CHECK(SetErrorMode(before) == SEM_NOGPFAULTERRORBOX);
+}
+
+TEST_CASE("a directory for temporary files longer than the buffer is not told") {
+    contract::TestMachine machine;
+    wchar_t before[MAX_PATH];
+    REQUIRE(GetEnvironmentVariableW(L"TMP", before, MAX_PATH) > 0);
+    std::wstring longPath = L"C:\\";
+    longPath.append(253, L't');
+    SetEnvironmentVariableW(L"TMP", longPath.c_str());
+    CHECK(machine.Services().facts.TempPath() == "");
+    SetEnvironmentVariableW(L"TMP", before);
+    CHECK(machine.Services().facts.TempPath() != "");
 }

@@ -25,7 +25,7 @@ class ShellStandIn {
         window_.Reset(CreateWindowExW(WS_EX_TOPMOST, L"Shell_TrayWnd", L"", WS_POPUP, 0, 0, 0, 0,
                                       nullptr, nullptr, nullptr, nullptr));
         calls = 0;
-        refuses = false;
+        refusals = 0;
     }
     ~ShellStandIn() {
         window_.Close();
@@ -33,13 +33,14 @@ class ShellStandIn {
     }
 
     static inline int calls;
-    static inline bool refuses;
+    // How many of the next calls are refused.
+    static inline int refusals;
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         if (message == WM_COPYDATA) {
             ++calls;
-            return refuses ? FALSE : TRUE;
+            return refusals == 0 || refusals-- == 0;
         }
         return DefWindowProcW(window, message, wParam, lParam);
     }
@@ -60,7 +61,11 @@ struct Fixture {
             SendMessageW(window, message, 0, lParam);
         }
     }
-    void RestartShell() { Send(RegisterWindowMessageW(L"TaskbarCreated"), 0); }
+    // The broadcast of a shell that starts. It reaches the top-level windows of the whole desktop.
+    void RestartShell() {
+        SendMessageTimeoutW(HWND_BROADCAST, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0,
+                            SMTO_ABORTIFHUNG, 2000, nullptr);
+    }
     void Mouse(UINT message) { Send(WM_APP + 1, static_cast<LPARAM>(message)); }
 };
 
@@ -101,24 +106,47 @@ TEST_CASE_FIXTURE(Fixture, "when the shell starts anew a wanted icon comes back,
 }
 
 TEST_CASE_FIXTURE(Fixture, "an icon that the shell refused is tried again when it starts") {
-    shell.refuses = true;
+    shell.refusals = 2;
     tray.SetShown(true);
-    CHECK(shell.calls == 1);
-    shell.refuses = false;
-    RestartShell();
     CHECK(shell.calls == 2);
+    tray.SetTip("Quillmore");
+    CHECK(shell.calls == 2);
+    RestartShell();
+    CHECK(shell.calls == 3);
+    tray.SetTip("anders");
+    CHECK(shell.calls == 4);
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a busy shell that takes the icon and says no is believed the second time") {
+    shell.refusals = 1;
+    tray.SetShown(true);
+    CHECK(shell.calls == 2);
+    tray.SetTip("Quillmore");
+    CHECK(shell.calls == 3);
     tray.SetShown(false);
+    CHECK(shell.calls == 4);
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a wanted icon is taken away even from a shell that seemed to refuse it") {
+    shell.refusals = 2;
+    tray.SetShown(true);
+    tray.SetShown(false);
+    CHECK(shell.calls == 3);
+    RestartShell();
     CHECK(shell.calls == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the mouse on the icon is told by its button, a double click restores") {
+TEST_CASE_FIXTURE(Fixture, "a released button on the icon is told, a double click restores") {
     std::vector<int> buttons;
     int restores = 0;
     tray.SetShown(true);
-    Mouse(WM_LBUTTONDOWN);  // nobody listens yet
-    tray.onMouseDown = [&](int button) { buttons.push_back(button); };
+    Mouse(WM_LBUTTONUP);  // nobody listens yet
+    tray.onMouseUp = [&](int button) { buttons.push_back(button); };
     tray.onRestore = [&] { ++restores; };
     Mouse(WM_LBUTTONDOWN);
+    Mouse(WM_LBUTTONUP);
     Mouse(WM_RBUTTONDOWN);
     Mouse(WM_RBUTTONUP);
     Mouse(WM_MOUSEMOVE);

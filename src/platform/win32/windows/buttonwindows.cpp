@@ -60,4 +60,10 @@ ControlWindow::Recipe FrameWindow::Describe() const {
     return {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT};
 }
 
+// A group box takes a press for that of a button, and the focus along with it.
+bool FrameWindow::Hear(UINT message) {
+    if (message == WM_MOUSEMOVE) Guard([this] { control_.MouseMoved(); });
+    return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
+}
+
 }  // namespace platform::win32

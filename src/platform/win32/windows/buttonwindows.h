@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/windows/controlwindow.h"
+#include "platform/win32/windows/listeningwindow.h"
 #include "toolkit/controls.h"
 
 // The standard window class BUTTON in its three roles.
@@ -39,13 +40,18 @@ class OptionButtonWindow final : public ControlWindow {
     toolkit::OptionButton& control_;
 };
 
-class FrameWindow final : public ControlWindow {
+class FrameWindow final : public ListeningWindow {
   public:
     FrameWindow(toolkit::Frame& control, const Surroundings& surroundings)
-        : ControlWindow(control, surroundings) {}
+        : ListeningWindow(control, surroundings), control_(control) {}
 
   protected:
     Recipe Describe() const override;
+    bool IsHeard() const override { return control_.onMouseMove != nullptr; }
+    bool Hear(UINT message) override;
+
+  private:
+    toolkit::Frame& control_;
 };
 
 }  // namespace platform::win32

@@ -49,16 +49,19 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
         case toolkit::Aspect::Value:
             ShowValue();
             break;
+        case toolkit::Aspect::Items:
+            ShowItems();
+            break;
         case toolkit::Aspect::Caption:
             SetWindowTextW(window_, ToWide(control_.Caption()).c_str());
             break;
         case toolkit::Aspect::Enabled:
             // A disabled window that keeps the focus would leave the keyboard dead.
-            if (!control_.Enabled() && GetFocus() == window_) MoveFocus(true);
+            if (!control_.Enabled() && HasFocus()) MoveFocus(true);
             EnableWindow(window_, control_.Enabled());
             break;
         case toolkit::Aspect::Visible:
-            if (!control_.Visible() && GetFocus() == window_) MoveFocus(true);
+            if (!control_.Visible() && HasFocus()) MoveFocus(true);
             ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
             break;
         case toolkit::Aspect::Limits:
@@ -68,6 +71,11 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
             Repaint();
             break;
     }
+}
+
+bool ControlWindow::HasFocus() const {
+    const HWND focus = GetFocus();
+    return focus == window_ || IsChild(window_, focus);
 }
 
 void ControlWindow::Repaint() {
@@ -103,6 +111,14 @@ std::string TextOf(HWND window) {
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
     const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
     return FromWide({text.data(), static_cast<std::size_t>(length)});
+}
+
+void ShowText(HWND field, std::string_view text) {
+    if (TextOf(field) == text) return;
+    DWORD caret = 0;
+    SendMessageW(field, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
+    SetWindowTextW(field, ToWide(text).c_str());
+    SendMessageW(field, EM_SETSEL, caret, static_cast<LPARAM>(caret));
 }
 
 }  // namespace platform::win32

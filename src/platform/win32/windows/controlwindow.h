@@ -33,7 +33,7 @@ class ControlWindow : public toolkit::ControlView,
     // Puts the native window there, in its parent's pixels. A layout mostly leaves a window where
     // it is, and to say that again costs as much as to move it: then nothing happens, and the
     // answer is false.
-    bool PlaceAt(const toolkit::Rect& area);
+    virtual bool PlaceAt(const toolkit::Rect& area);
 
     // Whether the keyboard can go there now.
     bool TakesFocus() const;
@@ -41,6 +41,9 @@ class ControlWindow : public toolkit::ControlView,
     // The native window has told its parent that the user did something: the code of the
     // notification in WM_COMMAND, WM_NOTIFY or WM_HSCROLL.
     virtual void Notified(UINT) {}
+
+    // The native window is about to paint; the system's own colours are set.
+    virtual void SetColours(HDC) const {}
 
     void Refresh(toolkit::Aspect what) override;
     void Repaint() override;
@@ -62,12 +65,15 @@ class ControlWindow : public toolkit::ControlView,
     virtual Recipe Describe() const = 0;
     // What the native window must be told once, before it shows the control's value.
     virtual void Prepare() {}
+    virtual void ShowItems() {}
     virtual void ShowValue() {}
     virtual HFONT Font() const { return surroundings_.screen.Plain(); }
 
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(window_, message, wParam, lParam);
     }
+    // Also when it is in a window inside, as in a combo box's field.
+    bool HasFocus() const;
     void Guard(const std::function<void()>& event) const { surroundings_.Guard(event); }
 
     const Surroundings surroundings_;
@@ -84,5 +90,9 @@ void FocusLikeDialog(HWND window);
 
 // The text of a native window.
 std::string TextOf(HWND window);
+
+// Gives an edit field its text unless it has it, and leaves the caret where it is: setting a text
+// takes it to the start, where nobody goes on typing.
+void ShowText(HWND field, std::string_view text);
 
 }  // namespace platform::win32

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "platform/win32/windows/buttonwindows.h"
+#include "platform/win32/windows/comboboxwindow.h"
 #include "platform/win32/windows/drawnwindow.h"
 #include "platform/win32/windows/labelwindow.h"
 #include "platform/win32/windows/sliderwindow.h"
@@ -31,6 +32,8 @@ std::shared_ptr<ControlWindow> WindowFor(toolkit::Control& control,
             return Make<OptionButtonWindow, toolkit::OptionButton>(control, surroundings);
         case toolkit::ControlKind::TextBox:
             return Make<TextBoxWindow, toolkit::TextBox>(control, surroundings);
+        case toolkit::ControlKind::ComboBox:
+            return Make<ComboBoxWindow, toolkit::ComboBox>(control, surroundings);
         case toolkit::ControlKind::Frame:
             return Make<FrameWindow, toolkit::Frame>(control, surroundings);
         case toolkit::ControlKind::Slider:

@@ -52,6 +52,20 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
                 control->Notified(LOWORD(wParam));
             }
             return 0;
+        case WM_MOUSEMOVE:
+            surroundings_.Guard([this] { form_.MouseMoved(); });
+            return 0;
+        case WM_CTLCOLORSTATIC: {
+            const LRESULT brush = DefWindowProcW(window, message, wParam, lParam);
+            if (const auto control = controls_.Find(reinterpret_cast<HWND>(lParam))) {
+                control->SetColours(reinterpret_cast<HDC>(wParam));
+            }
+            return brush;
+        }
+        // A field of several lines handles the tabulator itself, by asking for this.
+        case WM_NEXTDLGCTL:
+            if (const auto focused = controls_.Find(GetFocus())) focused->MoveFocus(wParam == 0);
+            return 0;
         case DM_GETDEFID:
             return MAKELRESULT(IDOK, DC_HASDEFID);
         case WM_SIZE:
@@ -132,7 +146,9 @@ void FormWindow::ReportPlace() {
 
 void FormWindow::RememberFocus() {
     const HWND focus = GetFocus();
-    if (IsChild(window_, focus)) lastFocus_ = focus;
+    if (!IsChild(window_, focus)) return;
+    // A combo box gives the focus to the field inside it.
+    lastFocus_ = controls_.Find(focus) ? focus : GetParent(focus);
 }
 
 void FormWindow::FocusSomething() {

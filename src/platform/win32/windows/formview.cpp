@@ -24,6 +24,14 @@ void FormWindow::Refresh(toolkit::FormAspect what) {
         case toolkit::FormAspect::Pointer:
             ShowPointer();
             break;
+        case toolkit::FormAspect::Layered:
+            SetWindowLongA(window_, GWL_EXSTYLE,
+                           GetWindowLongA(window_, GWL_EXSTYLE) | WS_EX_LAYERED);
+            break;
+        case toolkit::FormAspect::LayerAttributes:
+            SetLayeredWindowAttributes(window_, 0, static_cast<BYTE>(form_.Layer().alpha),
+                                       static_cast<DWORD>(form_.Layer().flags));
+            break;
     }
 }
 

@@ -1,24 +1,28 @@
 #pragma once
 
-#include "platform/win32/windows/controlwindow.h"
+#include "platform/win32/windows/listeningwindow.h"
 #include "toolkit/controls.h"
 
 namespace platform::win32 {
 
 // The standard window class STATIC.
-class LabelWindow final : public ControlWindow {
+class LabelWindow final : public ListeningWindow {
   public:
     LabelWindow(toolkit::Label& control, const Surroundings& surroundings)
-        : ControlWindow(control, surroundings), control_(control) {}
+        : ListeningWindow(control, surroundings), control_(control) {}
+
+    void Notified(UINT code) override;
+    void SetColours(HDC dc) const override;
 
   protected:
-    Recipe Describe() const override { return {L"STATIC", SS_LEFT}; }
-    HFONT Font() const override {
-        const bool heading = control_.Style() == toolkit::LabelStyle::Heading;
-        return heading ? surroundings_.screen.Heading() : surroundings_.screen.Plain();
-    }
+    Recipe Describe() const override;
+    HFONT Font() const override;
+    bool IsHeard() const override { return control_.onClick || control_.onMouseMove; }
+    bool Hear(UINT message) override;
 
   private:
+    void Click();
+
     toolkit::Label& control_;
 };
 

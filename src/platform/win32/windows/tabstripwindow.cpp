@@ -11,13 +11,16 @@ namespace {
 
 constexpr wchar_t PageClass[] = L"QuillmorePage";
 
-// A page passes on to the form what its controls tell it.
+// A page passes on to the form what its controls tell and ask it, and what the mouse does over it.
 LRESULT CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND:
         case WM_NOTIFY:
         case WM_HSCROLL:
         case WM_VSCROLL:
+        case WM_CTLCOLORSTATIC:
+        case WM_MOUSEMOVE:
+        case WM_NEXTDLGCTL:
             return SendMessageW(GetParent(window), message, wParam, lParam);
         default:
             return DefWindowProcW(window, message, wParam, lParam);

@@ -1,7 +1,5 @@
 #include "platform/win32/windows/textboxwindow.h"
 
-#include "platform/win32/text.h"
-
 namespace platform::win32 {
 namespace {
 
@@ -15,23 +13,23 @@ ControlWindow::Recipe TextBoxWindow::Describe() const {
     DWORD bits = style.multiLine ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL
                                  : ES_AUTOHSCROLL;
     if (style.password) bits |= ES_PASSWORD;
+    if (style.readOnly) bits = (bits | ES_READONLY) & ~static_cast<DWORD>(ES_WANTRETURN);
     return {L"EDIT", bits, WS_EX_CLIENTEDGE};
 }
 
 void TextBoxWindow::Prepare() {
     const int limit = control_.Style().maxLength;
+    // Counted in quarters of an average character.
+    const UINT distance = static_cast<UINT>(control_.Style().tabWidth) * 4;
+    if (distance > 0) Send(EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&distance));
     Send(EM_SETLIMITTEXT, limit > 0 ? static_cast<WPARAM>(limit) : NoLimit);
+    WatchTyping(Window(), control_.onKeyPress);
 }
 
-// Setting a text takes the caret to its start, where nobody goes on typing.
 void TextBoxWindow::ShowValue() {
-    if (TextOf(Window()) == control_.Text()) return;
-    DWORD caret = 0;
-    Send(EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
     showing_ = true;
-    SetWindowTextW(Window(), ToWide(control_.Text()).c_str());
+    ShowText(Window(), control_.Text());
     showing_ = false;
-    Send(EM_SETSEL, caret, static_cast<LPARAM>(caret));
 }
 
 // What the user types reaches the control at once; the field then shows what the control holds,

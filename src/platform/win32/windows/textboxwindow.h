@@ -1,15 +1,14 @@
 #pragma once
 
-#include "platform/win32/windows/controlwindow.h"
-#include "toolkit/controls.h"
+#include "platform/win32/windows/typingwindow.h"
 
 namespace platform::win32 {
 
 // The standard window class EDIT.
-class TextBoxWindow final : public ControlWindow {
+class TextBoxWindow final : public TypingWindow {
   public:
     TextBoxWindow(toolkit::TextBox& control, const Surroundings& surroundings)
-        : ControlWindow(control, surroundings), control_(control) {}
+        : TypingWindow(control, surroundings), control_(control) {}
 
     void Notified(UINT code) override;
 

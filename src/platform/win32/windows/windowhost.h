@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/win32/formhandles.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/windows/screen.h"
 #include "toolkit/form.h"
@@ -19,7 +20,7 @@ class FormWindow;
 
 // The native windows behind the toolkit's forms, and the loop that serves them. Failures that an
 // event lets through are shown by `messages`.
-class WindowHost final : public toolkit::FormHost {
+class WindowHost final : public FormHandles {
   public:
     explicit WindowHost(platform::Messages& messages);
     ~WindowHost() override;
@@ -33,8 +34,7 @@ class WindowHost final : public toolkit::FormHost {
     // Serves the windows until the last form is unloaded.
     void Run();
 
-    // nullptr for a form that is not loaded.
-    HWND WindowOf(const toolkit::Form& form) const;
+    HWND WindowOf(const toolkit::Form& form) const override;
 
   private:
     std::shared_ptr<FormWindow> Find(const toolkit::Form& form) const;

@@ -1,0 +1,21 @@
+#pragma once
+
+namespace toolkit {
+struct MenuItem;
+struct PopupMenu;
+}  // namespace toolkit
+
+namespace platform {
+
+// Pop-up menus.
+class Menus {
+  public:
+    virtual ~Menus() = default;
+
+    // Shows the menu at the mouse position, whatever program is in front, and blocks until it is
+    // gone; events go on meanwhile. Returns the item that the user chose, whose event is the
+    // caller's to raise, or nullptr: nothing chosen, no menu possible, or one is open already.
+    virtual const toolkit::MenuItem* Choose(const toolkit::PopupMenu& menu) = 0;
+};
+
+}  // namespace platform

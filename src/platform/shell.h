@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace toolkit {
+class Form;
+}
+
+namespace platform {
+
+// The folder dialog while it is open.
+class FolderDialog {
+  public:
+    virtual ~FolderDialog() = default;
+
+    // SendMessageA with the text as its last argument.
+    virtual void Send(std::uint32_t message, std::string_view text) = 0;
+
+    // SHGetPathFromIDList of what is selected, in a buffer of 260 characters; nothing when that is
+    // no place in the file system, or nothing is selected.
+    virtual std::optional<std::string> SelectedPath() const = 0;
+};
+
+// The shell of Windows, shell32. What belongs to a window belongs to the program's main one, or to
+// no window before there is one.
+class Shell {
+  public:
+    // Gets the dialog's own messages: 1 when it has been initialised, 2 when the selection changed.
+    using FolderCallback = std::function<void(FolderDialog& dialog, std::uint32_t message)>;
+
+    virtual ~Shell() = default;
+
+    // ShellExecuteA. Its answer is not looked at, so a file that is not there is passed over.
+    virtual void Execute(std::string_view verb, std::string_view file, std::string_view parameters,
+                         std::string_view directory, std::int32_t show) = 0;
+
+    // The sheet of an object's properties, the export of ordinal 178, with two empty texts. Throws
+    // Failure DllFunctionNotFound where there is no such export.
+    virtual void ObjectProperties(std::int32_t kind) = 0;
+
+    // SHFileOperationA on one path, which may hold wildcards; what it asks belongs to no window.
+    // Returns 0 or the shell's error code.
+    virtual std::int32_t OperateOnFiles(std::uint32_t function, std::string_view path,
+                                        std::uint16_t flags) = 0;
+
+    // SHBrowseForFolderA over `owner`: blocks until the dialog is closed and serves the other
+    // windows meanwhile. Returns the path that was chosen; "" when cancelled, or when the choice
+    // is no place in the file system. A failure in the callback ends in the platform's default
+    // message, and the dialog stays.
+    virtual std::string BrowseForFolder(const toolkit::Form& owner, std::string_view title,
+                                        std::uint32_t flags, const FolderCallback& callback) = 0;
+
+    // SHGetSpecialFolderLocation and SHGetPathFromIDListA: the path of a folder by its CSIDL
+    // number; "" for an unknown number and for a folder without a place in the file system.
+    virtual std::string SpecialFolder(std::int32_t csidl) const = 0;
+};
+
+}  // namespace platform

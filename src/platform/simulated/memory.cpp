@@ -1,0 +1,48 @@
+#include "platform/simulated/memory.h"
+
+#include <algorithm>
+
+#include "platform/simulated/faults.h"
+#include "platform/simulated/wording.h"
+#include "runtime/failure.h"
+
+namespace platform::simulated {
+
+namespace {
+
+// Two gigabytes: more than a program has room for.
+constexpr std::size_t MostCharacters = 1000000000;
+
+}  // namespace
+
+class Memory::Block final : public MemoryBlock {
+  public:
+    Block(Memory& memory, std::size_t characters) : memory_(memory), bytes_(2 * characters) {
+        memory_.held_ += bytes_;
+        memory_.peak_ = std::max(memory_.peak_, memory_.held_);
+    }
+    ~Block() override {
+        memory_.held_ -= bytes_;
+        memory_.journal_.Note([] { return std::string("Memory.GiveBack"); });
+    }
+
+  private:
+    Memory& memory_;
+    std::size_t bytes_;
+};
+
+std::string Memory::TotalPhysical() const {
+    auto line = journal_.Note([] { return std::string("Memory.TotalPhysical"); });
+    PassOrThrow(journal_, faults_, line, "Memory.TotalPhysical", "");
+    journal_.Finish(line, [&] { return Quoted(totalPhysical); });
+    return totalPhysical;
+}
+
+std::unique_ptr<MemoryBlock> Memory::Blanks(std::size_t characters) {
+    auto line = journal_.Note([&] { return "Memory.Blanks " + std::to_string(characters); });
+    PassOrThrow(journal_, faults_, line, "Memory.Blanks", "");
+    if (characters > MostCharacters) ThrowFault(journal_, line, runtime::OutOfMemory);
+    return std::make_unique<Block>(*this, characters);
+}
+
+}  // namespace platform::simulated

@@ -1,0 +1,58 @@
+#include "platform/simulated/systeminformation.h"
+
+#include "platform/simulated/faults.h"
+#include "platform/simulated/wording.h"
+
+namespace platform::simulated {
+namespace {
+
+// What the system does not tell is no value.
+template <typename Fact>
+std::optional<Fact> Told(Journal& journal, Faults& faults, std::string call, const Fact& fact,
+                         std::string_view subject = "") {
+    journal.Note([&] { return subject.empty() ? call : call + ' ' + Quoted(subject); });
+    if (faults.Check(call, subject)) return std::nullopt;
+    return fact;
+}
+
+}  // namespace
+
+std::optional<std::string> SystemInformation::ServicePack() const {
+    return Told(journal_, faults_, "GetVersionExA", servicePack);
+}
+
+std::optional<int> SystemInformation::ProcessorCount() const {
+    return Told(journal_, faults_, "GetSystemInfo", processorCount);
+}
+
+std::optional<PhysicalMemory> SystemInformation::Memory() const {
+    return Told(journal_, faults_, "GlobalMemoryStatusEx", memory);
+}
+
+std::vector<Drive> SystemInformation::Drives() const {
+    return Told(journal_, faults_, "GetLogicalDrives", drives).value_or(std::vector<Drive>{});
+}
+
+Volume SystemInformation::VolumeOn(std::string_view root) const {
+    const auto found = volumes.find(root);
+    const Volume volume = found == volumes.end() ? Volume{} : found->second;
+    const auto fileSystem =
+        Told(journal_, faults_, "GetVolumeInformationA", volume.fileSystem, root);
+    const auto space = Told(journal_, faults_, "GetDiskFreeSpaceExA", volume, root);
+    return {fileSystem.value_or(std::nullopt), space.value_or(Volume{}).size,
+            space.value_or(Volume{}).free};
+}
+
+std::optional<ScreenFormat> SystemInformation::MainScreen() const {
+    return Told(journal_, faults_, "GetDeviceCaps", screen);
+}
+
+std::optional<std::string> SystemInformation::UserName() const {
+    return Told(journal_, faults_, "GetUserNameA", userName);
+}
+
+std::optional<std::string> SystemInformation::ComputerName() const {
+    return Told(journal_, faults_, "GetComputerNameA", computerName);
+}
+
+}  // namespace platform::simulated

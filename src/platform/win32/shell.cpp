@@ -1,0 +1,58 @@
+#include "platform/win32/shell.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shellapi.h>
+
+#include "platform/win32/formhandles.h"
+#include "platform/win32/idlist.h"
+#include "platform/win32/text.h"
+#include "runtime/failure.h"
+
+namespace platform::win32 {
+
+ComApartment::ComApartment() : entered_(SUCCEEDED(CoInitialize(nullptr))) {}
+
+ComApartment::~ComApartment() {
+    if (entered_) CoUninitialize();
+}
+
+void Shell::Execute(std::string_view verb, std::string_view file, std::string_view parameters,
+                    std::string_view directory, std::int32_t show) {
+    ShellExecuteA(forms_.MainWindow(), ToAnsi(verb).c_str(), ToAnsi(file).c_str(),
+                  ToAnsi(parameters).c_str(), ToAnsi(directory).c_str(), show);
+}
+
+void Shell::ObjectProperties(std::int32_t kind) {
+    // XP exports it by this number alone; the texts are wide there.
+    using Function = BOOL(WINAPI*)(HWND, DWORD, LPCWSTR, LPCWSTR);
+    constexpr WORD ordinal = 178;
+    const HMODULE shell = GetModuleHandleW(L"shell32.dll");
+    const auto function = reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(shell, MAKEINTRESOURCEA(ordinal))));
+    if (!function) throw runtime::Failure(runtime::DllFunctionNotFound);
+    function(forms_.MainWindow(), static_cast<DWORD>(kind), L"", L"");
+}
+
+std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path,
+                                   std::uint16_t flags) {
+    // A NUL inside would make two paths of one, and both would be gone.
+    path = path.substr(0, path.find('\0'));
+    if (path.empty()) return ERROR_FILE_NOT_FOUND;
+    // A list of paths ends with an empty one: the second NUL is the text's own.
+    const std::string paths = ToAnsi(path) + '\0';
+    SHFILEOPSTRUCTA operation = {};
+    operation.wFunc = function;
+    operation.pFrom = paths.c_str();
+    operation.fFlags = flags;
+    return SHFileOperationA(&operation);
+}
+
+std::string Shell::SpecialFolder(std::int32_t csidl) const {
+    IdList folder;
+    if (SHGetSpecialFolderLocation(forms_.MainWindow(), csidl, folder.Out()) != S_OK) return "";
+    return PathOf(folder.Get()).value_or("");
+}
+
+}  // namespace platform::win32

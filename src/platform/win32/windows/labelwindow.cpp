@@ -1,0 +1,44 @@
+#include "platform/win32/windows/labelwindow.h"
+
+namespace platform::win32 {
+
+ControlWindow::Recipe LabelWindow::Describe() const {
+    DWORD style = SS_LEFT;
+    if (IsHeard()) style |= SS_NOTIFY;
+    if (control_.Style() == toolkit::LabelStyle::Path) style |= SS_PATHELLIPSIS | SS_NOPREFIX;
+    return {L"STATIC", style};
+}
+
+HFONT LabelWindow::Font() const {
+    const bool heading = control_.Style() == toolkit::LabelStyle::Heading;
+    return heading ? surroundings_.screen.Heading() : surroundings_.screen.Plain();
+}
+
+// The second press of a double click comes as another code, so it is no second click.
+void LabelWindow::Notified(UINT code) {
+    if (code == STN_CLICKED) Click();
+}
+
+// BM_CLICK is how a script presses whatever can be pressed; labels do not know it by themselves.
+bool LabelWindow::Hear(UINT message) {
+    switch (message) {
+        case WM_MOUSEMOVE:
+            Guard([this] { control_.MouseMoved(); });
+            return true;
+        case BM_CLICK:
+            Click();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void LabelWindow::Click() {
+    Guard([this] { control_.Click(); });
+}
+
+void LabelWindow::SetColours(HDC dc) const {
+    if (const auto colour = control_.TextColour()) SetTextColor(dc, *colour);
+}
+
+}  // namespace platform::win32

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/win32/windows/controlwindow.h"
+#include "platform/win32/windows/messagehook.h"
+
+namespace platform::win32 {
+
+// A standard window that hears the mouse, which its class passes on to what lies behind it, if
+// somebody listens when it is made.
+class ListeningWindow : public ControlWindow {
+  public:
+    void Detach() override;
+
+  protected:
+    using ControlWindow::ControlWindow;
+
+    virtual bool IsHeard() const = 0;
+    // True when the message ends here; the class does not get it then.
+    virtual bool Hear(UINT message) = 0;
+
+    void Prepare() override;
+
+  private:
+    MessageHook hook_;
+};
+
+}  // namespace platform::win32

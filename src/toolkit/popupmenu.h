@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/controls.h"
+
+namespace toolkit {
+
+// One line of a pop-up menu. Without a caption it is a separator. In the caption a doubled
+// ampersand stands for one, a single one marks the access key.
+struct MenuItem {
+    std::string name;
+    std::string caption;
+    Handler onClick;
+
+    bool IsSeparator() const { return caption.empty(); }
+};
+
+// A menu that opens at the mouse and stands in no menu bar. Its form keeps it.
+struct PopupMenu {
+    std::string name;
+    std::vector<MenuItem> items;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "toolkit/layout.h"
+
+namespace platform {
+struct Machine;
+}
+namespace toolkit {
+class Form;
+}
+
+namespace tweaks {
+
+// Makes the controls of the page "DFÜ Einstellungen", in the order in which one reads them. The
+// machine's services are used for as long as the form lives.
+toolkit::Box AddNetworkPage(toolkit::Form& form, const platform::Machine& machine);
+
+}  // namespace tweaks

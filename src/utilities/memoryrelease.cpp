@@ -1,0 +1,52 @@
+#include "utilities/memoryrelease.h"
+
+#include <memory>
+#include <string>
+
+#include "platform/locale.h"
+#include "platform/memory.h"
+#include "runtime/failure.h"
+#include "runtime/number.h"
+#include "toolkit/form.h"
+
+namespace utilities {
+namespace {
+
+using runtime::Skip;
+
+// Half of the physical memory, in bytes, that must be exceeded for a block of that size. The limits
+// are decimal: about 512, 256 and 128 MB of memory in round figures.
+struct Step {
+    double halfAbove;
+    std::size_t characters;
+};
+
+constexpr Step Steps[] = {
+    {256000000, 120000000},
+    {128000000, 90000000},
+    {64000000, 48000000},
+};
+constexpr std::size_t SmallestBlock = 20000000;
+
+}  // namespace
+
+std::size_t BlockSizeFor(std::string_view totalPhysical, const runtime::NumberSigns& signs) {
+    const double half = runtime::ParseNumber(totalPhysical, signs).value_or(0) / 2;
+    for (const Step& step : Steps) {
+        if (half > step.halfAbove) return step.characters;
+    }
+    return SmallestBlock;
+}
+
+void ReleaseMemory(toolkit::Form& form, platform::Memory& memory, const platform::Locale& locale) {
+    // What a failed pass left standing stays standing.
+    const int before = form.Pointer();
+    form.SetPointer(toolkit::Hourglass);
+    std::string total;
+    Skip([&] { total = memory.TotalPhysical(); });
+    std::unique_ptr<platform::MemoryBlock> block;
+    Skip([&] { block = memory.Blanks(BlockSizeFor(total, locale.Signs())); });
+    form.SetPointer(before);
+}
+
+}  // namespace utilities

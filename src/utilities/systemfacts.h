@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace platform {
+class Shell;
+class SystemFacts;
+}  // namespace platform
+
+namespace utilities {
+
+// The name of the user who is logged on; "" when the system does not tell.
+std::string GetCurrentUserName(const platform::SystemFacts& facts);
+
+// The path of a shell folder by its CSIDL number, "" on failure.
+std::string GetSpecialFolderPath(const platform::Shell& shell, std::int32_t csidl);
+
+// The directory for temporary files, ending in a backslash; "" when the system does not tell.
+std::string GetTempDirectory(const platform::SystemFacts& facts);
+
+}  // namespace utilities

@@ -1,0 +1,69 @@
+// The dialogs behind the buttons of the window.
+#include <doctest/doctest.h>
+
+#include <functional>
+
+#include "app/program.h"
+
+using namespace app_test;
+
+namespace {
+
+struct Dialogs : Program {
+    Dialogs() { REQUIRE(Start()); }
+
+    // Presses a button of the window and lets `user` see the dialog that it shows.
+    void Open(const char* button, const char* dialog, std::function<void(toolkit::Form&)> user) {
+        int shown = 0;
+        machine.forms.WhenModal(dialog, [&](toolkit::Form& form) {
+            ++shown;
+            user(form);
+            form.Unload();
+        });
+        Press(button);
+        CHECK(shown == 1);
+    }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Dialogs,
+                  "Info shows the about dialog with the version, over the window's middle") {
+    Open("cmdAbout", "frmAbout", [&](toolkit::Form& about) {
+        CHECK(about.Find<toolkit::Label>("lblVersion").Caption() == "v2.38");
+        const toolkit::Bounds& place = about.Place();
+        const toolkit::Bounds& window = form->Place();
+        CHECK(place.left + place.width / 2 == window.left + window.width / 2);
+        CHECK(place.top + place.height / 2 == window.top + window.height / 2);
+        machine.clock.Advance(127);
+        CHECK(about.Layer().alpha == 255);
+    });
+}
+
+TEST_CASE_FIXTURE(Dialogs, "the about dialog fades anew each time it is shown") {
+    for (int time = 0; time < 2; ++time) {
+        Open("cmdAbout", "frmAbout", [&](toolkit::Form& about) {
+            CHECK(about.Layer().alpha == 0);
+            machine.clock.Advance(1);
+            CHECK(about.Layer().alpha == 3);
+        });
+    }
+}
+
+TEST_CASE_FIXTURE(Dialogs, "SysInfo shows the system information over the window's middle") {
+    Open("cmdSysInfo", "frmSystemInformation", [&](toolkit::Form& information) {
+        CHECK(
+            information.Find<toolkit::TextBox>("txtReport").Text().starts_with("Betriebssystem:"));
+        const toolkit::Bounds& place = information.Place();
+        CHECK(place.left == form->Place().left + (form->Place().width - place.width) / 2);
+    });
+}
+
+TEST_CASE_FIXTURE(Dialogs, "both dialogs are there when nothing can be read") {
+    for (const char* call : {"GetVersionExA", "GetSystemInfo", "GlobalMemoryStatusEx",
+                             "GetLogicalDrives", "GetDeviceCaps", "RegOpenKeyExA"}) {
+        machine.faults.FailAll(call, 5);
+    }
+    Open("cmdAbout", "frmAbout", [](toolkit::Form&) {});
+    Open("cmdSysInfo", "frmSystemInformation", [](toolkit::Form&) {});
+}

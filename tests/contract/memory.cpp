@@ -1,0 +1,67 @@
+#include "platform/memory.h"
+
+#include <doctest/doctest.h>
+
+#include "contract/machine.h"
+#include "platform/display.h"
+#include "runtime/failure.h"
+
+namespace {
+
+// 40 MB, as the program's smallest block.
+constexpr std::size_t Characters = 20000000;
+constexpr double Bytes = 2.0 * Characters;
+
+struct Fixture {
+    contract::TestMachine machine;
+    platform::Memory& memory = machine.Services().memory;
+
+    // What the process holds in memory, in parts of the block.
+    double Resident() { return static_cast<double>(machine.ResidentBytes()) / Bytes; }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "a block is really written, and goes back to the system at its end") {
+    const double before = Resident();
+    auto block = memory.Blanks(Characters);
+    CHECK(Resident() - before > 0.98);
+    CHECK(Resident() - before < 1.1);
+    block.reset();
+    CHECK(Resident() - before < 0.02);
+}
+
+TEST_CASE_FIXTURE(Fixture, "two blocks are held side by side") {
+    const double before = Resident();
+    auto first = memory.Blanks(Characters / 2);
+    auto second = memory.Blanks(Characters / 2);
+    CHECK(Resident() - before > 0.98);
+    first.reset();
+    CHECK(Resident() - before < 0.6);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a block of no characters is one all the same") {
+    CHECK(memory.Blanks(0) != nullptr);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a block that no program has room for is refused") {
+    // The last one is more characters than a text can count, the first more than fit beside it.
+    for (const std::size_t characters : {0x3FFFFF00u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
+        CAPTURE(characters);
+        const double before = Resident();
+        int number = 0;
+        try {
+            memory.Blanks(characters);
+        } catch (const runtime::Failure& failure) {
+            number = failure.number;
+        }
+        CHECK(number == runtime::OutOfMemory);
+        CHECK(Resident() - before < 0.02);
+    }
+}
+
+TEST_CASE_FIXTURE(Fixture, "the screen is no smaller than 640 by 480") {
+    const toolkit::Size size = machine.Services().display.Size();
+    CHECK(size.width >= 640);
+    CHECK(size.height >= 480);
+}

@@ -1,0 +1,81 @@
+// The services behind the dialogs about the machine and about the program.
+#include <doctest/doctest.h>
+
+#include "platform/simulated/machine.h"
+#include "runtime/failure.h"
+
+using Lines = std::vector<std::string>;
+
+namespace {
+
+struct Information {
+    platform::simulated::Machine machine;
+    platform::SystemInformation& information = machine.services.information;
+    const Lines& lines = machine.journal.Lines();
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Information, "what a call does not tell is no value, and the others still tell") {
+    machine.faults.FailAll("GetUserNameA", 5);
+    CHECK_FALSE(information.UserName());
+    CHECK(information.ComputerName() == "QUILLMORE-PC");
+    CHECK(lines == Lines{"GetUserNameA", "GetComputerNameA"});
+}
+
+TEST_CASE_FIXTURE(Information, "the two questions about a volume fail each by itself") {
+    SUBCASE("the file system") {
+        machine.faults.FailAll("GetVolumeInformationA", 5);
+        CHECK_FALSE(information.VolumeOn("C:\\").fileSystem);
+        CHECK(information.VolumeOn("C:\\").size == 40007729152);
+    }
+    SUBCASE("the space") {
+        machine.faults.FailAll("GetDiskFreeSpaceExA", 5);
+        CHECK(information.VolumeOn("C:\\").fileSystem == "NTFS");
+        CHECK_FALSE(information.VolumeOn("C:\\").size);
+        CHECK_FALSE(information.VolumeOn("C:\\").free);
+    }
+    SUBCASE("both, on one drive") {
+        machine.faults.FailOn("C:\\", 21);
+        CHECK_FALSE(information.VolumeOn("C:\\").fileSystem);
+        CHECK_FALSE(information.VolumeOn("C:\\").size);
+    }
+}
+
+TEST_CASE_FIXTURE(Information, "drives that are not told are none") {
+    CHECK(information.Drives().size() == 3);
+    machine.faults.FailAll("GetLogicalDrives", 5);
+    CHECK(information.Drives().empty());
+}
+
+TEST_CASE_FIXTURE(Information, "the clipboard keeps what it held when it is refused") {
+    CHECK(machine.services.clipboard.SetText("eins"));
+    machine.faults.FailAll("SetClipboardData", 5);
+    CHECK_FALSE(machine.services.clipboard.SetText("zwei"));
+    CHECK(machine.clipboard.text == "eins");
+    CHECK(lines == Lines{"SetClipboardData \"eins\" -> 1", "SetClipboardData \"zwei\" -> 0"});
+}
+
+TEST_CASE_FIXTURE(Information,
+                  "a browser that cannot be created fails with the platform's number") {
+    machine.faults.FailOn("InternetExplorer", 5);
+    int number = 0;
+    try {
+        machine.services.browser.CreateInternetExplorer();
+    } catch (const runtime::Failure& failure) {
+        number = failure.number;
+    }
+    CHECK(number == runtime::CannotCreateObject);
+    CHECK(lines == Lines{"CreateObject InternetExplorer -> failure 429"});
+}
+
+TEST_CASE_FIXTURE(Information, "a form's transparency is journalled, its caption is not") {
+    toolkit::Form form(machine.forms, "frmAbout", "", {});
+    form.SetLayerAttributes({7, 2});
+    form.Load();
+    form.SetCaption("Info");
+    form.MakeLayered();
+    form.SetLayerAttributes({9, 2});
+    CHECK(lines == Lines{"OpenForm frmAbout", "SetWindowLongA frmAbout -20 +0x80000",
+                         "SetLayeredWindowAttributes frmAbout 0 9 2"});
+}

@@ -1,0 +1,95 @@
+#include <doctest/doctest.h>
+
+#include "controls/chameleonbutton.h"
+#include "platform/simulated/machine.h"
+#include "toolkit/controls.h"
+#include "toolkit/form.h"
+#include "tweaks/systempage.h"
+
+// What the page System does at once, without Apply.
+
+namespace {
+
+struct SystemPage {
+    platform::simulated::Machine machine;
+    toolkit::Form form{machine.forms, "frmMain", "", {}};
+    platform::OtherWindows::Handle taskbar = machine.windows.Open("Shell_TrayWnd");
+
+    SystemPage() { form.SetLayout(tweaks::AddSystemPage(form, machine.services)); }
+
+    toolkit::Slider& Level() { return form.Find<toolkit::Slider>("Level"); }
+    toolkit::TextBox& Box() { return form.Find<toolkit::TextBox>("txtLevelValue"); }
+    int Alpha() { return machine.windows.At(taskbar).alpha; }
+    std::string Luminance() {
+        return machine.settings.Stored("TaskBar", "Luminance").value_or("absent");
+    }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(SystemPage, "a page that has just been made has touched nothing") {
+    CHECK(machine.journal.Count() == 0);
+    CHECK(Box().Text() == "255");
+    CHECK(Level().Value() == 255);
+}
+
+TEST_CASE_FIXTURE(SystemPage, "a level that is typed is shown, stored and applied") {
+    Box().SetText("100");
+    CHECK(Level().Value() == 100);
+    CHECK(Luminance() == "100");
+    CHECK(Alpha() == 100);
+}
+
+TEST_CASE_FIXTURE(SystemPage, "a level that is dragged is applied once and goes to the box") {
+    Level().SetValue(77);
+    CHECK(Box().Text() == "77");
+    CHECK(Alpha() == 77);
+    CHECK(machine.journal.Calls("SetLayeredWindowAttributes").size() == 1);
+    CHECK(machine.journal.Calls("SaveSetting").size() == 1);
+}
+
+TEST_CASE_FIXTURE(SystemPage, "a box without a number keeps the level") {
+    Box().SetText("100");
+    machine.journal.Clear();
+    Box().SetText("");
+    Box().SetText("hell");
+    CHECK(Level().Value() == 100);
+    CHECK(machine.journal.Count() == 0);
+}
+
+TEST_CASE_FIXTURE(SystemPage, "a level below 55 becomes 55 and one above 255 becomes 255") {
+    Box().SetText("0");
+    CHECK(Luminance() == "55");
+    CHECK(Alpha() == 55);
+    Box().SetText("1000");
+    CHECK(Luminance() == "255");
+    CHECK(Alpha() == 255);
+}
+
+TEST_CASE_FIXTURE(SystemPage, "the designed level given once more does nothing") {
+    Box().SetText("255");
+    Level().SetValue(255);
+    CHECK(machine.journal.Count() == 0);
+}
+
+TEST_CASE_FIXTURE(SystemPage, "the icons' box acts when its value changes, and only then") {
+    auto& icons = form.Find<toolkit::CheckBox>("chkIcons");
+    icons.SetValue(1);
+    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "1");
+    CHECK(machine.journal.Calls("FindWindowA").size() == 1);
+    machine.journal.Clear();
+    icons.SetValue(1);
+    CHECK(machine.journal.Count() == 0);
+    icons.SetValue(0);
+    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "0");
+}
+
+TEST_CASE_FIXTURE(SystemPage, "the button takes the block and gives it back with each press") {
+    auto& button = form.Find<controls::chameleonButton>("cmdFreeMemory");
+    button.Press();
+    button.Press();
+    CHECK(machine.journal.Calls("Memory.Blanks").size() == 2);
+    CHECK(machine.memory.Peak() == 240000000);
+    CHECK(machine.memory.Held() == 0);
+    CHECK(form.Pointer() == toolkit::DefaultPointer);
+}
