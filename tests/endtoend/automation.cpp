@@ -238,8 +238,9 @@ MessageBox Application::Box() const {
         try {
             return Describe(window);
         } catch (const Failed&) {
-            // A box that goes while it is being looked at is no box any more.
-            if (IsWindow(window)) throw;
+            // A box that goes while it is being looked at is no box any more. It is hidden before its
+            // buttons go, and they go before it does.
+            if (IsWindowVisible(window)) throw;
         }
     }
     return {};

@@ -141,6 +141,14 @@ TEST_CASE_FIXTURE(Security, "a report setting of 1, 2 or no number reads as not 
     }
 }
 
+TEST_CASE_FIXTURE(Security, "a number below 0 deactivates the reports, but not the updates") {
+    PutMachine(ReportKey, "DoReport", DwordValue(0xFFFFFFFF));
+    PutMachine(UpdateKey, "UpdateMode", DwordValue(0xFFFFFFFF));
+    passes.Read();
+    CHECK(State("chkErrorReporting") == 1);
+    CHECK(State("chkWindowsUpdate") == 0);
+}
+
 TEST_CASE_FIXTURE(Security, "whether a report is shown is written along and never read") {
     PutMachine(ReportKey, "DoReport", DwordValue(0));
     PutMachine(ReportKey, "ShowUI", DwordValue(1));
