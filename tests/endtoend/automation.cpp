@@ -238,8 +238,8 @@ MessageBox Application::Box() const {
         try {
             return Describe(window);
         } catch (const Failed&) {
-            // A box that goes while it is being looked at is no box any more. It is hidden before its
-            // buttons go, and they go before it does.
+            // A box that goes while it is being looked at is no box any more. It is hidden before
+            // its buttons go, and they go before it does.
             if (IsWindowVisible(window)) throw;
         }
     }
