@@ -8,16 +8,17 @@ namespace platform::win32 {
 
 ControlWindow::~ControlWindow() = default;
 
-void ControlWindow::Create(HWND parent, int id) {
+void ControlWindow::Create(HWND parent, int id, const toolkit::Rect& area) {
     const Recipe recipe = Describe();
     DWORD style = WS_CHILD | WS_CLIPSIBLINGS | recipe.style;
     if (control_.IsTabStop()) style |= WS_TABSTOP;
     if (control_.Visible()) style |= WS_VISIBLE;
     if (!control_.Enabled()) style |= WS_DISABLED;
-    window_ = CreateWindowExW(recipe.extendedStyle, recipe.windowClass,
-                              ToWide(control_.Caption()).c_str(), style, 0, 0, 0, 0, parent,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                              GetModuleHandleW(nullptr), this);
+    area_ = area;
+    window_ = CreateWindowExW(
+        recipe.extendedStyle, recipe.windowClass, ToWide(control_.Caption()).c_str(), style,
+        area.left, area.top, area.width, area.height, parent,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), this);
     name_.emplace(window_, control_.Name());
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
     control_.SetView(this);

@@ -21,8 +21,8 @@ class ControlWindow : public toolkit::ControlView,
     ControlWindow(const ControlWindow&) = delete;
     ControlWindow& operator=(const ControlWindow&) = delete;
 
-    // Makes the native window and becomes the control's view.
-    void Create(HWND parent, int id);
+    // Makes the native window there, in its parent's pixels, and becomes the control's view.
+    void Create(HWND parent, int id, const toolkit::Rect& area);
     // The control gets no view and no event any more; the native window is the form's to destroy.
     virtual void Detach();
 

@@ -52,6 +52,12 @@ toolkit::Rect ClientArea(HWND window) {
     return {0, 0, client.right, client.bottom};
 }
 
+toolkit::Rect InParent(HWND parent, HWND formWindow, const toolkit::Rect& area) {
+    POINT corner{area.left, area.top};
+    MapWindowPoints(formWindow, parent, &corner, 1);
+    return {corner.x, corner.y, area.width, area.height};
+}
+
 using PagesOfControls = std::map<const toolkit::Control*, int>;
 
 // The page on which each control of the layout stands, or -1.
@@ -75,18 +81,25 @@ void MarkGroupStart(HWND window) {
 
 }  // namespace
 
+// Every window comes into being at its place: to move it there afterwards costs about as much
+// again, and most of the time until the form is there goes into making its windows.
 void ControlWindows::Create(const toolkit::Form& form, HWND formWindow) {
     PagesOfControls pages;
     FindPages(form.Layout(), -1, pages);
+    std::map<const toolkit::Control*, toolkit::Rect> areas;
+    for (const toolkit::Placement& placement : Arranged(form, formWindow)) {
+        areas[placement.control] = placement.area;
+    }
     for (const auto& control : form.Controls()) {
         if (auto* strip = dynamic_cast<toolkit::TabStrip*>(control.get())) {
-            tabs_ = std::make_shared<TabStripWindow>(*strip, surroundings_);
+            CreateTabs(*strip, formWindow, areas[strip]);
         }
     }
     int groupBefore = -1;
     for (const auto& control : form.Controls()) {
         const auto page = pages.find(control.get());
-        CreateOne(*control, formWindow, page == pages.end() ? -1 : page->second);
+        CreateOne(*control, formWindow, page == pages.end() ? -1 : page->second,
+                  areas[control.get()]);
         const int group = GroupOf(*control);
         if (group != groupBefore) MarkGroupStart(windows_.back()->Window());
         groupBefore = group;
@@ -95,14 +108,26 @@ void ControlWindows::Create(const toolkit::Form& form, HWND formWindow) {
     PutBehind(toolkit::ControlKind::TabStrip);
 }
 
-void ControlWindows::CreateOne(toolkit::Control& control, HWND formWindow, int page) {
-    const bool isTabs = tabs_ && &tabs_->Control() == &control;
-    windows_.push_back(isTabs ? tabs_ : WindowFor(control, surroundings_));
-    // The pages come into being at the latest with their strip, just before it in the order.
-    const HWND parent =
-        tabs_ && (page >= 0 || isTabs) ? tabs_->Page(formWindow, std::max(page, 0)) : formWindow;
-    windows_.back()->Create(isTabs ? formWindow : parent,
-                            FirstId + static_cast<int>(windows_.size()));
+// First of all, since the strip tells where the pages lie; PutBehind gives it its place in the
+// order.
+void ControlWindows::CreateTabs(toolkit::TabStrip& strip, HWND formWindow,
+                                const toolkit::Rect& area) {
+    tabs_ = std::make_shared<TabStripWindow>(strip, surroundings_);
+    tabs_->Create(formWindow, FirstId, area);
+    tabs_->PlacePages(area);
+}
+
+void ControlWindows::CreateOne(toolkit::Control& control, HWND formWindow, int page,
+                               const toolkit::Rect& area) {
+    if (tabs_ && &tabs_->Control() == &control) {
+        windows_.push_back(tabs_);
+        return;
+    }
+    const bool isOnPage = tabs_ && page >= 0;
+    const HWND parent = isOnPage ? tabs_->Page(formWindow, page) : formWindow;
+    windows_.push_back(WindowFor(control, surroundings_));
+    windows_.back()->Create(parent, FirstId + static_cast<int>(windows_.size()),
+                            InParent(parent, formWindow, area));
 }
 
 // What surrounds other controls lies behind them. For the tabulator the strip then comes last,
@@ -116,20 +141,19 @@ void ControlWindows::PutBehind(toolkit::ControlKind kind) const {
 }
 
 void ControlWindows::Place(const toolkit::Form& form, HWND formWindow) {
-    const auto placements =
-        toolkit::Arrange(form.Layout(), ClientArea(formWindow), surroundings_.screen);
-    for (const toolkit::Placement& placement : placements) {
+    for (const toolkit::Placement& placement : Arranged(form, formWindow)) {
         const auto window = Find(placement.control);
         if (!window) continue;
-        const toolkit::Rect& area = placement.area;
-        POINT corner{area.left, area.top};
-        MapWindowPoints(formWindow, GetParent(window->Window()), &corner, 1);
-        const bool moved = window->PlaceAt({corner.x, corner.y, area.width, area.height});
+        const bool moved =
+            window->PlaceAt(InParent(GetParent(window->Window()), formWindow, placement.area));
         // A strip stands before the controls of its pages, which are placed within them.
-        if (moved && window == tabs_) {
-            tabs_->PlacePages({area.left, area.top, area.Right(), area.Bottom()});
-        }
+        if (moved && window == tabs_) tabs_->PlacePages(placement.area);
     }
+}
+
+std::vector<toolkit::Placement> ControlWindows::Arranged(const toolkit::Form& form,
+                                                         HWND formWindow) const {
+    return toolkit::Arrange(form.Layout(), ClientArea(formWindow), surroundings_.screen);
 }
 
 void ControlWindows::Detach() {

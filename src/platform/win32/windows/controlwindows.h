@@ -33,7 +33,9 @@ class ControlWindows {
     void Broadcast(UINT message, WPARAM wParam, LPARAM lParam) const;
 
   private:
-    void CreateOne(toolkit::Control& control, HWND formWindow, int page);
+    void CreateTabs(toolkit::TabStrip& strip, HWND formWindow, const toolkit::Rect& area);
+    void CreateOne(toolkit::Control& control, HWND formWindow, int page, const toolkit::Rect& area);
+    std::vector<toolkit::Placement> Arranged(const toolkit::Form& form, HWND formWindow) const;
     void PutBehind(toolkit::ControlKind kind) const;
 
     const Surroundings surroundings_;

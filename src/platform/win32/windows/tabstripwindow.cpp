@@ -45,20 +45,24 @@ HWND TabStripWindow::Page(HWND parent, int page) {
     if (pages_.empty()) {
         RegisterPages();
         for (std::size_t index = 0; index < control_.Captions().size(); ++index) {
-            pages_.push_back(CreateWindowExW(WS_EX_CONTROLPARENT, PageClass, nullptr,
-                                             WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0, 0, 0,
-                                             0, parent, nullptr, GetModuleHandleW(nullptr),
-                                             nullptr));
+            const bool current = static_cast<int>(index) == control_.Tab();
+            pages_.push_back(CreateWindowExW(
+                WS_EX_CONTROLPARENT, PageClass, nullptr,
+                WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | (current ? WS_VISIBLE : 0),
+                pageArea_.left, pageArea_.top, pageArea_.right - pageArea_.left,
+                pageArea_.bottom - pageArea_.top, parent, nullptr, GetModuleHandleW(nullptr),
+                nullptr));
         }
     }
     return pages_.at(static_cast<std::size_t>(page));
 }
 
-void TabStripWindow::PlacePages(RECT area) {
-    Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
+void TabStripWindow::PlacePages(const toolkit::Rect& strip) {
+    pageArea_ = {strip.left, strip.top, strip.Right(), strip.Bottom()};
+    Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&pageArea_));
     for (const HWND page : pages_) {
-        SetWindowPos(page, nullptr, area.left, area.top, area.right - area.left,
-                     area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(page, nullptr, pageArea_.left, pageArea_.top, pageArea_.right - pageArea_.left,
+                     pageArea_.bottom - pageArea_.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 

@@ -14,10 +14,10 @@ class TabStripWindow final : public ControlWindow {
     TabStripWindow(toolkit::TabStrip& control, const Surroundings& surroundings)
         : ControlWindow(control, surroundings), control_(control) {}
 
-    // The parent of a page's controls, which must be placed on the form's window `parent`.
+    // The parent of a page's controls, a child of the form's window `parent`.
     HWND Page(HWND parent, int page);
-    // Where the pages lie when the strip takes `area` of the form.
-    void PlacePages(RECT area);
+    // Puts the pages where they lie when the strip takes `strip` of the form; those to come too.
+    void PlacePages(const toolkit::Rect& strip);
 
     void Notified(UINT code) override;
 
@@ -28,6 +28,7 @@ class TabStripWindow final : public ControlWindow {
 
   private:
     toolkit::TabStrip& control_;
+    RECT pageArea_{};
     std::vector<HWND> pages_;
 };
 
