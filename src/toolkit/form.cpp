@@ -1,6 +1,6 @@
 #include "toolkit/form.h"
 
-#include <stdexcept>
+#include "runtime/mistake.h"
 
 namespace toolkit {
 
@@ -18,13 +18,13 @@ Control* Form::FindControl(std::string_view name) const {
 
 void Form::Keep(std::unique_ptr<Control> control) {
     if (!byName_.emplace(control->Name(), control.get()).second) {
-        throw std::logic_error("two controls named " + control->Name() + " on " + name_);
+        throw runtime::Mistake("two controls named " + control->Name() + " on " + name_);
     }
     controls_.push_back(std::move(control));
 }
 
 void Form::ThrowMissing(std::string_view name) const {
-    throw std::logic_error("no such control on " + name_ + ": " + std::string(name));
+    throw runtime::Mistake("no such control on " + name_ + ": " + std::string(name));
 }
 
 void Form::SetCaption(std::string caption) {

@@ -84,7 +84,7 @@ class Form {
     Control* FindControl(std::string_view name) const;
 
     // The control of that name as a T. Asking for a name or a class that is not there is a mistake
-    // in the program and ends it (std::logic_error).
+    // in the program and ends it (runtime::Mistake).
     template <typename T>
     T& Find(std::string_view name) const {
         T* control = dynamic_cast<T*>(FindControl(name));

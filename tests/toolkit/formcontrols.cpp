@@ -1,7 +1,6 @@
 #include <doctest/doctest.h>
 
-#include <stdexcept>
-
+#include "runtime/mistake.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "toolkit/journal.h"
@@ -31,17 +30,17 @@ TEST_CASE_FIXTURE(Fixture, "a name is found exactly as it is written") {
 }
 
 TEST_CASE_FIXTURE(Fixture, "asking for a control that is not there is a mistake in the program") {
-    CHECK_THROWS_AS(form.Find<CheckBox>("chkAutoLogin"), std::logic_error);
+    CHECK_THROWS_AS(form.Find<CheckBox>("chkAutoLogin"), runtime::Mistake);
 }
 
 TEST_CASE_FIXTURE(Fixture, "asking for a control of another class is a mistake in the program") {
     form.Add<Label>("chkAutoLogin", "");
-    CHECK_THROWS_AS(form.Find<CheckBox>("chkAutoLogin"), std::logic_error);
+    CHECK_THROWS_AS(form.Find<CheckBox>("chkAutoLogin"), runtime::Mistake);
 }
 
 TEST_CASE_FIXTURE(Fixture, "a second control of the same name is refused") {
     auto& first = form.Add<Label>("Label1", "");
-    CHECK_THROWS_AS(form.Add<Label>("Label1", ""), std::logic_error);
+    CHECK_THROWS_AS(form.Add<Label>("Label1", ""), runtime::Mistake);
     CHECK(form.Controls().size() == 1);
     CHECK(form.FindControl("Label1") == &first);
 }

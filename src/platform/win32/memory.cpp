@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <new>
-#include <stdexcept>
 #include <string>
 
 #include "runtime/failure.h"
@@ -29,10 +28,9 @@ std::string Memory::TotalPhysical() const {
 
 std::unique_ptr<MemoryBlock> Memory::Blanks(std::size_t characters) {
     try {
+        if (characters > std::u16string().max_size()) throw std::bad_alloc();
         return std::make_unique<BlankText>(characters);
     } catch (const std::bad_alloc&) {
-        throw runtime::Failure(runtime::OutOfMemory);
-    } catch (const std::length_error&) {
         throw runtime::Failure(runtime::OutOfMemory);
     }
 }
