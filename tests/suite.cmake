@@ -1,9 +1,15 @@
-# One test program a room: add_suite(registry SOURCES a.cpp b.cpp USES registry simulated).
+# One test program a room: add_suite(registry SOURCES a.cpp b.cpp USES registry simulated). Cases
+# that take long can be a test of their own: LONG "their names*".
 function(add_suite name)
-  cmake_parse_arguments(SUITE "" "" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(SUITE "" "" "SOURCES;USES;LONG" ${ARGN})
   add_executable(test_${name} ${SUITE_SOURCES})
   target_link_libraries(test_${name} PRIVATE test_support ${SUITE_USES})
   # doctest's macros shadow and convert in ways that the program's own code may not.
   target_compile_options(test_${name} PRIVATE -Wno-shadow -Wno-conversion)
-  add_test(NAME ${name} COMMAND test_${name})
+  if(SUITE_LONG)
+    add_test(NAME ${name} COMMAND test_${name} --test-case-exclude=${SUITE_LONG})
+    add_test(NAME ${name}_long COMMAND test_${name} --test-case=${SUITE_LONG})
+  else()
+    add_test(NAME ${name} COMMAND test_${name})
+  endif()
 endfunction()

@@ -13,8 +13,12 @@
 #include "platform/program.h"
 #include "platform/settings.h"
 #include "platform/tray.h"
+#include "runtime/failure.h"
 #include "toolkit/controls.h"
+#include "tweaks/autotuning.h"
+#include "tweaks/networksets.h"
 #include "tweaks/pathspage.h"
+#include "tweaks/presets.h"
 #include "utilities/helpfile.h"
 #include "utilities/launcherlabels.h"
 
@@ -41,9 +45,11 @@ frmMain::frmMain(const platform::Machine& machine)
       launchers_(machine_, [this](std::string_view procedure,
                                   const auto& body) { log_.Report(procedure, body); }),
       passes_(*this, machine_),
+      synchronization_(*this, machine_),
       password_(machine_),
       about_(machine_, version_),
       systemInformation_(machine_),
+      loggedInUsers_(machine_),
       apply_(*this, password_, machine_,
              {.saveProgramOptions = [this] { SaveProgramOptions(*this, machine_); },
               .writeRegistry = [this] { WriteRegistry(); }}),
@@ -91,6 +97,7 @@ void frmMain::LockStation() {
 }
 
 void frmMain::OnLoad() {
+    runtime::Skip([&] { synchronization_.Start_tmrUhrzeit(); });
     StartUp(*this, machine_);
 }
 
@@ -122,6 +129,7 @@ void frmMain::OnMouseMove() {
 
 // A session that ends while the warning is still open leaves as little trace as a refusal.
 void frmMain::OnQueryUnload() {
+    synchronization_.Stop_tmrUhrzeit();
     if (!warningAccepted_) machine_.program.End();
     log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_); });
 }
@@ -139,12 +147,21 @@ void frmMain::Connect() {
     Find<controls::chameleonButton>("cmdSysInfo").onClick = [this] {
         ShowDialog(systemInformation_);
     };
+    Find<controls::chameleonButton>("cmdShowAllLoggedOnUsers").onClick = [this] {
+        ShowDialog(loggedInUsers_);
+    };
+    Find<controls::chameleonButton>("cmdSynchronizeDateTime").onClick = [this] {
+        synchronization_.cmdSynchronizeDateTime_Click();
+    };
     Find<controls::chameleonButton>("cmdEnd").onClick = [this] { Unload(); };
-    auto& defaultPaths = Find<controls::chameleonButton>("cmdPathDefault");
-    defaultPaths.SetEnabled(true);
-    defaultPaths.onClick = [this] {
+    Find<controls::chameleonButton>("cmdSetAllOptimal").onClick = [this] {
+        tweaks::AutoTuning(*this, machine_);
+    };
+    Find<controls::chameleonButton>("cmdPathDefault").onClick = [this] {
         log_.Report("cmdPathDefault", [&] { tweaks::SetDefaultPaths(*this, machine_.facts); });
     };
+    tweaks::ConnectPresets(*this, machine_.memory);
+    tweaks::ConnectNetworkSets(*this);
     machine_.tray.onRestore = [this] { ComeBackFromTray(); };
     machine_.tray.onMouseUp = [this](int button) {
         if (button == platform::Tray::RightButton) OpenTrayMenu();
@@ -157,9 +174,15 @@ void frmMain::OpenTrayMenu() {
 }
 
 void frmMain::ShowDialog(Form& dialog) {
-    dialog.Load();
-    controls::fFormInFormZentrieren(dialog, *this, machine_.forms.WorkArea());
-    dialog.ShowModal();
+    try {
+        dialog.Load();
+        controls::fFormInFormZentrieren(dialog, *this, machine_.forms.WorkArea());
+        dialog.ShowModal();
+    } catch (...) {
+        // Else it would stay loaded and unseen, and could not be opened again.
+        dialog.Unload();
+        throw;
+    }
 }
 
 void frmMain::ComeBackFromTray() {

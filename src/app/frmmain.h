@@ -6,10 +6,12 @@
 #include "controls/frmabout.h"
 #include "controls/frmpassword.h"
 #include "platform/machine.h"
+#include "timesync/synchronization.h"
 #include "toolkit/form.h"
 #include "toolkit/popupmenu.h"
 #include "tweaks/apply.h"
 #include "tweaks/passes.h"
+#include "utilities/frmshowallloggedinusers.h"
 #include "utilities/frmsysteminformation.h"
 #include "utilities/launchers.h"
 
@@ -65,9 +67,11 @@ class frmMain final : public toolkit::Form {
     ErrorLog log_;
     utilities::Launchers launchers_;
     tweaks::Passes passes_;
+    timesync::Synchronization synchronization_;
     controls::frmPassword password_;
     controls::frmAbout about_;
     utilities::frmSystemInformation systemInformation_;
+    utilities::frmShowAllLoggedInUsers loggedInUsers_;
     tweaks::Apply apply_;
     toolkit::PopupMenu mnuPopUpTray_;
 };

@@ -50,19 +50,17 @@ Box AddPages(frmMain& form, const platform::Machine& machine,
 }
 
 Box AddWindowButtons(frmMain& form, const platform::Machine& machine) {
-    const auto button = [&](const char* name, const char* caption, bool enabled) {
-        auto& made = form.Add<controls::chameleonButton>(name, caption, machine.clock);
-        made.SetEnabled(enabled);
-        return toolkit::Leaf(made);
+    const auto button = [&](const char* name, const char* caption) {
+        return toolkit::Leaf(form.Add<controls::chameleonButton>(name, caption, machine.clock));
     };
     std::vector<Box> row;
-    row.push_back(button("cmdSetAllOptimal", "AutoTuning", false));
-    row.push_back(button("cmdSysInfo", "SysInfo", true));
-    row.push_back(button("cmdHilfe", "Hilfe", true));
-    row.push_back(button("cmdAbout", "Info", true));
+    row.push_back(button("cmdSetAllOptimal", "AutoTuning"));
+    row.push_back(button("cmdSysInfo", "SysInfo"));
+    row.push_back(button("cmdHilfe", "Hilfe"));
+    row.push_back(button("cmdAbout", "Info"));
     row.push_back(toolkit::Filler());
-    row.push_back(button("cmdApply", "Übernehmen", true));
-    row.push_back(button("cmdEnd", "Beenden", true));
+    row.push_back(button("cmdApply", "Übernehmen"));
+    row.push_back(button("cmdEnd", "Beenden"));
     return toolkit::Gap(toolkit::Row(std::move(row)), 8);
 }
 

@@ -16,7 +16,7 @@ class frmMain;
 toolkit::Box AddPages(frmMain& form, const platform::Machine& machine,
                       const utilities::Launchers& launchers);
 
-// Makes the row of buttons below the pages. A button whose tool is not there yet is disabled.
+// Makes the row of buttons below the pages.
 toolkit::Box AddWindowButtons(frmMain& form, const platform::Machine& machine);
 
 }  // namespace app

@@ -4,6 +4,7 @@
 #include "app/sessionactions.h"
 #include "controls/chameleonbutton.h"
 #include "controls/pageheading.h"
+#include "timesync/synchronizeframe.h"
 #include "toolkit/controls.h"
 #include "utilities/launcherlabels.h"
 
@@ -12,8 +13,6 @@ namespace {
 
 using toolkit::Box;
 using toolkit::Leaf;
-
-constexpr int TimeSourceGroup = 1;
 
 Box AddOptions(frmMain& form) {
     auto& frame = form.Add<toolkit::Frame>("Frame4", "Optionen");
@@ -29,36 +28,18 @@ Box AddOptions(frmMain& form) {
     return toolkit::InFrame(frame, toolkit::Column(std::move(column)));
 }
 
-Box AddTimeSource(frmMain& form, platform::Clock& clock) {
-    auto& frame =
-        form.Add<toolkit::Frame>("fraSynchronize", "Uhrzeit und Kalender synchronisieren");
-    const auto option = [&](const char* name, const char* caption) {
-        return Leaf(form.Add<toolkit::OptionButton>(name, caption, TimeSourceGroup));
-    };
-    std::vector<Box> column;
-    column.push_back(option("optAtomUhr", "Mit Atomuhr synchronisieren"));
-    column.push_back(option("optSynServer", "Mit diesem Server synchronisieren:"));
-    column.push_back(
-        Leaf(form.Add<toolkit::TextBox>("txtSyncServer", toolkit::TextBoxStyle{.columns = 30})));
-    auto& synchronise =
-        form.Add<controls::chameleonButton>("cmdSynchronizeDateTime", "Synchronisieren", clock);
-    synchronise.SetEnabled(false);
-    column.push_back(toolkit::Row({toolkit::Filler(), Leaf(synchronise)}));
-    return toolkit::InFrame(frame, toolkit::Column(std::move(column)));
-}
-
-// Each of them opens a dialog, none of which is there yet.
+// Each of them opens a dialog; a button whose dialog is not there yet is disabled.
 Box AddDialogButtons(frmMain& form, platform::Clock& clock) {
-    const auto button = [&](const char* name, const char* caption) {
+    const auto button = [&](const char* name, const char* caption, bool enabled) {
         auto& made = form.Add<controls::chameleonButton>(name, caption, clock);
-        made.SetEnabled(false);
+        made.SetEnabled(enabled);
         return Leaf(made);
     };
     std::vector<Box> column;
-    column.push_back(
-        button("cmdShowAllLoggedOnUsers", "Alle gerade am System angemeldeten Benutzer anzeigen"));
-    column.push_back(button("cmdInstalledSoftware", "Installierte Software"));
-    column.push_back(button("cmdVirtualDrive", "Virtuelle Laufwerke verwalten"));
+    column.push_back(button("cmdShowAllLoggedOnUsers",
+                            "Alle gerade am System angemeldeten Benutzer anzeigen", true));
+    column.push_back(button("cmdInstalledSoftware", "Installierte Software", false));
+    column.push_back(button("cmdVirtualDrive", "Virtuelle Laufwerke verwalten", false));
     return toolkit::Column(std::move(column));
 }
 
@@ -77,7 +58,7 @@ Box AddUtilitiesPage(frmMain& form, platform::Clock& clock, const utilities::Lau
     Box heading = AddHeading(form);
     Box programs = utilities::AddLauncherLabels(form, launchers);
     std::vector<Box> cells;
-    cells.push_back(toolkit::Stretch(AddTimeSource(form, clock)));
+    cells.push_back(toolkit::Stretch(timesync::AddSynchronizeFrame(form, clock)));
     cells.push_back(toolkit::Stretch(AddOptions(form)));
     cells.push_back(AddSessionButtons(form, clock));
     cells.push_back(AddDialogButtons(form, clock));

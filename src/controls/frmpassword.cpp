@@ -24,7 +24,6 @@ frmPassword::frmPassword(const platform::Machine& machine)
     };
 
     defaultButton = &cmdOK;
-    cmdOK.MarkDefault(true);
     cancelButton = &cmdCancel;
     firstFocus = &txtPasswort;
     sizeToContent = true;

@@ -13,6 +13,8 @@ struct LocalTime {
     int hour = 0;
     int minute = 0;
     int second = 0;
+
+    bool operator==(const LocalTime&) const = default;
 };
 
 // The time of day, and timers whose ticks arrive on the user-interface thread.
@@ -23,6 +25,8 @@ class Clock {
     virtual ~Clock() = default;
 
     virtual LocalTime Now() const = 0;
+    // Of the same local day, with their fraction.
+    virtual float SecondsSinceMidnight() const = 0;
 
     // Calls `tick` every `milliseconds` until StopTimer, but not while the tick before still runs.
     // Never 0.

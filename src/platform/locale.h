@@ -18,6 +18,12 @@ class Locale {
     // The default short date ("21.11.2026" on a German system) and long time ("16:05:09") forms.
     virtual std::string ShortDate(const LocalTime& time) const = 0;
     virtual std::string LongTime(const LocalTime& time) const = 0;
+    // The time of day without seconds ("16:05").
+    virtual std::string ShortTime(const LocalTime& time) const = 0;
+
+    // Weekday, day and month in words ("Montag, 05. Januar 2004"). The names are German on every
+    // system: a German user's own ("Jänner"), otherwise those of Germany.
+    virtual std::string GermanDate(const LocalTime& time) const = 0;
 
     // From and to the ANSI code page. A character that it lacks becomes a question mark, or the
     // platform's nearest letter; a character outside the 16-bit plane becomes two.

@@ -13,10 +13,14 @@ class Clipboard;
 class Clock;
 class Display;
 class Files;
+class Folders;
+class InternetCache;
+class Keyboard;
 class Locale;
 class Memory;
 class Menus;
 class Messages;
+class Network;
 class OperatingSystem;
 class OtherWindows;
 class Processes;
@@ -25,9 +29,12 @@ class Registry;
 class Session;
 class SettingsStore;
 class Shell;
+class Socket;
+class SystemClock;
 class SystemFacts;
 class SystemInformation;
 class Tray;
+class Workstation;
 
 // Everything the program asks of Windows, handed to it through constructors.
 struct Machine {
@@ -35,6 +42,7 @@ struct Machine {
     Registry& registry;
     SettingsStore& settings;
     Files& files;
+    Folders& folders;
     Processes& processes;
     Shell& shell;
     Session& session;
@@ -43,9 +51,15 @@ struct Machine {
     SystemFacts& facts;
     SystemInformation& information;
     Memory& memory;
+    InternetCache& internetCache;
     OtherWindows& windows;
     Display& display;
+    Keyboard& keyboard;
     Clock& clock;
+    SystemClock& systemClock;
+    Network& network;
+    Workstation& workstation;
+    Socket& socket;
     Locale& locale;
     Clipboard& clipboard;
     Beeper& beeper;

@@ -47,6 +47,14 @@ class Shell {
     virtual std::int32_t OperateOnFiles(std::uint32_t function, std::string_view path,
                                         std::uint16_t flags) = 0;
 
+    // SHEmptyRecycleBinA without a window and a root: the bins of all drives. Its answer is not
+    // looked at, so a bin that is empty already is passed over.
+    virtual void EmptyRecycleBin(std::uint32_t flags) = 0;
+
+    // SHGetFileInfoW: what the shell calls such a file or folder, in the system's language. Nothing
+    // need be at the path: the attributes tell folders, the extension tells files apart.
+    virtual std::string TypeName(std::string_view path, std::uint32_t attributes) const = 0;
+
     // SHBrowseForFolderA over `owner`: blocks until the dialog is closed and serves the other
     // windows meanwhile. Returns the path that was chosen; "" when cancelled, or when the choice
     // is no place in the file system. A failure in the callback ends in the platform's default

@@ -22,6 +22,8 @@ struct Volume {
     // Bytes. What is free is what the user may fill.
     std::optional<std::uint64_t> size;
     std::optional<std::uint64_t> free;
+    // What the user has called it; "" for a volume without a name.
+    std::optional<std::string> label = std::nullopt;
 };
 
 // Bytes.

@@ -26,18 +26,24 @@ std::string DescriptionOf(int failureNumber) {
             return "Dateiname oder -nummer falsch";
         case FileNotFound:
             return "Datei nicht gefunden";
+        case DeviceUnavailable:
+            return "Gerät nicht verfügbar";
         case PermissionDenied:
             return "Zugriff verweigert";
         case PathFileAccess:
             return "Fehler beim Zugriff auf Pfad/Datei";
         case PathNotFound:
             return "Pfad nicht gefunden";
+        case ObjectNotSet:
+            return "Objektvariable oder With-Blockvariable nicht festgelegt";
         case InvalidPropertyValue:
             return "Ungültiger Eigenschaftswert";
         case CannotCreateObject:
             return "Objekterstellung durch ActiveX-Komponente nicht möglich";
         case DllFunctionNotFound:
             return "Angegebene DLL-Funktion nicht gefunden";
+        case IndexOutOfBounds:
+            return "Index außerhalb des gültigen Bereichs";
         default:
             return "Anwendungs- oder objektdefinierter Fehler";
     }

@@ -15,12 +15,15 @@ enum FailureNumber : int {
     UserInterrupt = 18,
     BadFileNumber = 52,
     FileNotFound = 53,
+    DeviceUnavailable = 68,
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
+    ObjectNotSet = 91,
     InvalidPropertyValue = 380,
     CannotCreateObject = 429,
     DllFunctionNotFound = 453,
+    IndexOutOfBounds = 35600,
 };
 
 // The one exception of the program. A procedure that meets it takes one of three policies at its

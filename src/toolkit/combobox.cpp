@@ -8,7 +8,10 @@
 namespace toolkit {
 
 ComboBox::ComboBox(Form& form, std::string name, ComboBoxStyle style)
-    : Control(form, ControlKind::ComboBox, std::move(name), "", true), style_(style) {}
+    : ComboBox(form, ControlKind::ComboBox, std::move(name), style) {}
+
+ComboBox::ComboBox(Form& form, ControlKind kind, std::string name, ComboBoxStyle style)
+    : Control(form, kind, std::move(name), "", true), style_(style) {}
 
 void ComboBox::AddItem(std::string item) {
     items_.push_back(std::move(item));

@@ -53,6 +53,9 @@ class ComboBox : public Control {
     Handler onClick;
     KeyHandler onKeyPress;
 
+  protected:
+    ComboBox(Form& form, ControlKind kind, std::string name, ComboBoxStyle style);
+
   private:
     ComboBoxStyle style_;
     std::vector<std::string> items_;

@@ -17,6 +17,10 @@ enum class ControlKind {
     Frame,
     Slider,
     TabStrip,
+    ListView,
+    ListBox,
+    DriveListBox,
+    ProgressBar,
     Drawn,
 };
 

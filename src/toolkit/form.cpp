@@ -1,6 +1,8 @@
 #include "toolkit/form.h"
 
 #include "runtime/mistake.h"
+#include "runtime/text.h"
+#include "toolkit/drawncontrol.h"
 
 namespace toolkit {
 
@@ -87,6 +89,7 @@ void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
     host_.Open(*this);
+    if (defaultButton) defaultButton->MarkDefault(true);
     OnLoad();
 }
 
@@ -143,6 +146,10 @@ void Form::Changed(FormAspect what) {
 // Before a window is seen the first time its size is the program's own affair.
 void Form::SizeChanged() {
     if (everShown_) OnResize();
+}
+
+std::string FormHost::SortKey(std::string_view text) const {
+    return runtime::ToUpper(text);
 }
 
 }  // namespace toolkit

@@ -159,6 +159,8 @@ class Form {
     void SetView(FormView* view) { view_ = view; }
     FormView* View() const { return view_; }
 
+    const FormHost& Host() const { return host_; }
+
   protected:
     virtual void OnLoad() {}
     virtual void OnResize() {}
@@ -208,6 +210,11 @@ class FormHost {
     virtual Bounds WorkArea() const = 0;
     // The program's loaded forms, in the order of their loading.
     virtual std::vector<Form*> OpenForms() const = 0;
+    // Serves the events that are waiting, those of all forms, and returns when none waits any more.
+    virtual void DoEvents() {}
+    // Bytes that compare as the texts do in the order of the user's language, in which letters'
+    // case plays no part. Here the order of the alphabet, without any language's.
+    virtual std::string SortKey(std::string_view text) const;
 };
 
 }  // namespace toolkit

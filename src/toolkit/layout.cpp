@@ -166,6 +166,8 @@ class Sizer {
 // A control that looks wrong when it is drawn higher than its text or mark is.
 bool HasOneHeight(const Box& box) {
     if (box.kind != BoxKind::Leaf) return false;
+    const ControlKind kind = box.control->Kind();
+    if (kind == ControlKind::ListView || kind == ControlKind::ListBox) return false;
     const auto* textBox = dynamic_cast<const TextBox*>(box.control);
     return !textBox || !textBox->Style().multiLine;
 }

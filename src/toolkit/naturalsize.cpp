@@ -7,6 +7,8 @@
 #include "toolkit/controls.h"
 #include "toolkit/drawncontrol.h"
 #include "toolkit/layout.h"
+#include "toolkit/listbox.h"
+#include "toolkit/listview.h"
 
 namespace toolkit {
 namespace {
@@ -22,6 +24,12 @@ constexpr Size SliderSize{120, 28};
 constexpr int FrameCaptionEdges = 18;
 constexpr int TabEdges = 16;
 constexpr int TabStripEdges = 10;
+constexpr Size ProgressBarSize{120, 16};
+constexpr int ListEdges = 4;
+constexpr int ScrollBar = 17;
+// What a row and a header are higher than their text.
+constexpr int RowEdges = 2;
+constexpr int HeaderEdges = 6;
 
 Size OfLabel(const Label& label, const TextMeasure& measure) {
     if (label.Style() == LabelStyle::Path) return {0, LineHeight(measure)};
@@ -60,6 +68,21 @@ Size OfComboBox(const ComboBox& box, const TextMeasure& measure) {
             LineHeight(measure) + edges};
 }
 
+Size OfListBox(const ListBox& list, const TextMeasure& measure) {
+    const int edges = measure.Scale(ListEdges);
+    return {
+        list.LeastColumns() * measure.SizeOf("0", false).width + edges + measure.Scale(ScrollBar),
+        list.LeastLines() * LineHeight(measure) + edges};
+}
+
+Size OfListView(const ListView& list, const TextMeasure& measure) {
+    const int edges = measure.Scale(ListEdges);
+    const int row = LineHeight(measure) + measure.Scale(RowEdges);
+    return {
+        list.Style().columns * measure.SizeOf("0", false).width + edges + measure.Scale(ScrollBar),
+        LineHeight(measure) + measure.Scale(HeaderEdges) + list.Style().lines * row + edges};
+}
+
 Size OfTabStrip(const TabStrip& tabs, const TextMeasure& measure) {
     Size size{0, LineHeight(measure) + measure.Scale(TabStripEdges)};
     for (const std::string& caption : tabs.Captions()) {
@@ -84,6 +107,7 @@ Size NaturalSize(const Control& control, const TextMeasure& measure) {
         case ControlKind::TextBox:
             return OfTextBox(dynamic_cast<const TextBox&>(control), measure);
         case ControlKind::ComboBox:
+        case ControlKind::DriveListBox:
             return OfComboBox(dynamic_cast<const ComboBox&>(control), measure);
         case ControlKind::Frame:
             return {
@@ -93,6 +117,12 @@ Size NaturalSize(const Control& control, const TextMeasure& measure) {
             return {measure.Scale(SliderSize.width), measure.Scale(SliderSize.height)};
         case ControlKind::TabStrip:
             return OfTabStrip(dynamic_cast<const TabStrip&>(control), measure);
+        case ControlKind::ListView:
+            return OfListView(dynamic_cast<const ListView&>(control), measure);
+        case ControlKind::ListBox:
+            return OfListBox(dynamic_cast<const ListBox&>(control), measure);
+        case ControlKind::ProgressBar:
+            return {measure.Scale(ProgressBarSize.width), measure.Scale(ProgressBarSize.height)};
         case ControlKind::Drawn:
             return dynamic_cast<const DrawnControl&>(control).NaturalSize(
                 measure.SizeOf(control.Caption(), false));

@@ -19,6 +19,9 @@ class ControlView {
     // Draw the control anew, soon.
     virtual void Repaint() = 0;
 
+    // Draw what is still to be drawn before anything else happens.
+    virtual void PaintNow() {}
+
     // Whether the mouse stands over this very control: cursor position, then window from point.
     virtual bool PointerIsOver() const = 0;
 
@@ -29,6 +32,11 @@ class ControlView {
 
     // Moves the focus to the next control, or to the previous one.
     virtual void MoveFocus(bool forward) = 0;
+
+    // What only a list view is asked; its contract says what that does.
+    virtual void FitColumn(int, bool) {}
+    virtual void EnsureVisible(int) {}
+    virtual void LockWindow(bool) {}
 };
 
 }  // namespace toolkit

@@ -92,7 +92,6 @@ Box OutlookGroup(Form& form, platform::Clock& clock) {
         CheckBoxOn(form, {"chkIEExtensions", "Folgende Dateierweiterungen bei Anhängen zulassen:"});
     Box list = Stretch(TextBoxOn(form, "txtExtensions"));
     auto& button = form.Add<controls::chameleonButton>("cmdExtensionDefault", "Standard", clock);
-    button.SetEnabled(false);
     Box tray = CheckBoxOn(
         form, {"chkOutlookTray", "Outlook nach minimieren in die Tray Notification Area legen"});
     return InFrame(group,

@@ -35,6 +35,24 @@ constexpr NetworkSet Sets[] = {
      .cboHTTP11 = 8},
 };
 
+// The packet size takes the window size along, so the window size of the set comes behind it.
+void LoadNetworkSet(toolkit::Form& form, const NetworkSet& set) {
+    const auto show = [&](std::string_view name, std::int32_t number) {
+        SetTextOfControl(form, name, runtime::ToText(number));
+    };
+    const auto put = [&](std::string_view name, int value) {
+        form.Find<toolkit::CheckBox>(name).SetValue(value);
+    };
+    show("cboMTU", set.cboMTU);
+    show("txtRWIN", set.txtRWIN);
+    show("txtTTL", set.txtTTL);
+    show("cboHTTP10", set.cboHTTP10);
+    show("cboHTTP11", set.cboHTTP11);
+    put("chkMUTBH", set.chkMUTBH);
+    put("chkAutoMTU", set.chkAutoMTU);
+    put("chkSACK", set.chkSACK);
+}
+
 }  // namespace
 
 std::span<const NetworkSet> NetworkSets() {
@@ -63,6 +81,14 @@ void MarkNetworkSet(toolkit::Form& form, const runtime::NumberSigns& signs) {
             if (!HoldsNetworkSet(form, set, signs)) return;
             form.Find<toolkit::OptionButton>(set.option).SetValue(true);
         });
+    }
+}
+
+void ConnectNetworkSets(toolkit::Form& form) {
+    for (const NetworkSet& set : NetworkSets()) {
+        form.Find<toolkit::OptionButton>(set.option).onClick = [&form, &set] {
+            LoadNetworkSet(form, set);
+        };
     }
 }
 

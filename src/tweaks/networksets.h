@@ -25,7 +25,8 @@ struct NetworkSet {
     int chkSACK = 1;
 };
 
-// The four types with values, in the order of their buttons. The button "Manuell" has none.
+// The four types with values, in the order of their buttons. The button "Manuell" has none: it
+// keeps the values of the type chosen before.
 std::span<const NetworkSet> NetworkSets();
 
 // Whether all eight controls of the form hold the set's values, the texts compared as numbers.
@@ -36,5 +37,9 @@ bool HoldsNetworkSet(const toolkit::Form& form, const NetworkSet& set,
 // Selects the type whose values the form's controls hold, or leaves the group as it is when no type
 // fits. A comparison that fails is passed over, and the others run.
 void MarkNetworkSet(toolkit::Form& form, const runtime::NumberSigns& signs);
+
+// Lets each type, once it is selected, load its values into the form's controls. A failure of one
+// of them ends the loading and passes to whoever selected the type.
+void ConnectNetworkSets(toolkit::Form& form);
 
 }  // namespace tweaks

@@ -52,9 +52,8 @@ Box ButtonsOfPage(Form& form, platform::Clock& clock, std::initializer_list<Name
     std::vector<Box> row;
     row.push_back(toolkit::Filler());
     for (const Named& button : buttons) {
-        auto& made = form.Add<controls::chameleonButton>(button.name, button.caption, clock);
-        made.SetEnabled(false);
-        row.push_back(Leaf(made));
+        row.push_back(
+            Leaf(form.Add<controls::chameleonButton>(button.name, button.caption, clock)));
     }
     return Gap(toolkit::Row(std::move(row)), 8);
 }

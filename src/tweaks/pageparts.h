@@ -34,8 +34,7 @@ toolkit::Box CheckBoxPair(toolkit::Form& form, Named left, Named right);
 toolkit::Box CheckBoxColumn(toolkit::Form& form, std::initializer_list<Named> boxes);
 toolkit::Box CheckBoxGroup(toolkit::Form& form, Named frame, std::initializer_list<Named> boxes);
 
-// The row of a page's own buttons, at the right end of it. They are disabled until their tools
-// connect them.
+// The row of a page's own buttons, at the right end of it.
 toolkit::Box ButtonsOfPage(toolkit::Form& form, platform::Clock& clock,
                            std::initializer_list<Named> buttons);
 

@@ -127,9 +127,7 @@ Box SystemButtons(Form& form, const platform::Machine& machine) {
                                 {{"cmdFreeMemory", "Speicher aufräumen"},
                                  {"cmdNormal", "Standard"},
                                  {"cmdOptimal", "Empfohlen"}});
-    auto& freeMemory = form.Find<controls::chameleonButton>("cmdFreeMemory");
-    freeMemory.SetEnabled(true);
-    freeMemory.onClick = [&form, machine] {
+    form.Find<controls::chameleonButton>("cmdFreeMemory").onClick = [&form, machine] {
         utilities::ReleaseMemory(form, machine.memory, machine.locale);
     };
     return buttons;

@@ -41,6 +41,11 @@ std::string clsGetDriveSpace::TotalSize(std::string_view drive) const {
     return Formatted(Raw(facts_.Space(drive).total));
 }
 
+std::string clsGetDriveSpace::UsedSize(std::string_view drive) const {
+    const platform::DiskSpace space = facts_.Space(drive);
+    return Formatted(Raw(space.total - space.free));
+}
+
 std::string clsGetDriveSpace::SizeLeft(std::string_view drive) const {
     return Formatted(Raw(facts_.Space(drive).free));
 }

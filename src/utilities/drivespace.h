@@ -21,6 +21,8 @@ class clsGetDriveSpace {
     // What the user may still fill, with his quota.
     std::string UserFree(std::string_view drive) const;
     std::string TotalSize(std::string_view drive) const;
+    // What is not free.
+    std::string UsedSize(std::string_view drive) const;
     // What is free, whoever may fill it.
     std::string SizeLeft(std::string_view drive) const;
 

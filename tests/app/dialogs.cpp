@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/program.h"
+#include "toolkit/listbox.h"
 
 using namespace app_test;
 
@@ -59,11 +60,36 @@ TEST_CASE_FIXTURE(Dialogs, "SysInfo shows the system information over the window
     });
 }
 
-TEST_CASE_FIXTURE(Dialogs, "both dialogs are there when nothing can be read") {
+TEST_CASE_FIXTURE(Dialogs, "the logged-on users are shown over the window's middle, each time") {
+    for (const char* name : {"Besitzer", "Gast"}) {
+        machine.workstation.batches = {{{name, "PC-1", "", ""}}};
+        Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [&](toolkit::Form& users) {
+            CHECK(users.Find<toolkit::ListBox>("lstUsers").Items() ==
+                  std::vector<std::string>{std::string("PC-1\\") + name});
+            const toolkit::Bounds& place = users.Place();
+            CHECK(place.left == form->Place().left + (form->Place().width - place.width) / 2);
+        });
+        CHECK(form->Loaded());
+    }
+}
+
+TEST_CASE_FIXTURE(Dialogs, "a refused list of users is told before its dialog is shown, empty") {
+    machine.faults.FailAll("NetWkstaUserEnum", 5);
+    const std::size_t before = machine.messages.Shown().size();
+    Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [&](toolkit::Form& users) {
+        CHECK(machine.messages.Shown().size() == before + 1);
+        CHECK(users.Find<toolkit::ListBox>("lstUsers").Items().empty());
+    });
+    CHECK(form->Pointer() == 0);
+}
+
+TEST_CASE_FIXTURE(Dialogs, "the dialogs are there when nothing can be read") {
     for (const char* call : {"GetVersionExA", "GetSystemInfo", "GlobalMemoryStatusEx",
-                             "GetLogicalDrives", "GetDeviceCaps", "RegOpenKeyExA"}) {
+                             "GetLogicalDrives", "GetDeviceCaps", "RegOpenKeyExA",
+                             "GetComputerNameA", "NetWkstaUserEnum", "FormatMessageA"}) {
         machine.faults.FailAll(call, 5);
     }
     Open("cmdAbout", "frmAbout", [](toolkit::Form&) {});
     Open("cmdSysInfo", "frmSystemInformation", [](toolkit::Form&) {});
+    Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [](toolkit::Form&) {});
 }

@@ -83,6 +83,18 @@ TEST_CASE("values of the type text select the connection type too") {
     CHECK(program.Marked() == 4);
 }
 
+TEST_CASE("the type selected at the start puts its own texts in place of equal numbers") {
+    Connected program;
+    program.Put(Dsl);
+    program.Put(Interface1, "MTU", TextValue("1.492"));
+    program.Put(TcpKey, "TcpWindowSize", TextValue(" 32767 "));
+    const auto before = program.machine.registry.Dump();
+    CHECK(program.Marked() == 4);
+    CHECK(program.Combo("cboMTU").Text() == "1492");
+    CHECK(program.Text("txtRWIN").Text() == "32767");
+    CHECK(program.machine.registry.Dump() == before);
+}
+
 TEST_CASE("a single text that is no number selects no type and spoils no start") {
     for (const char* value : {"TcpWindowSize", "DefaultTTL"}) {
         Connected program;
@@ -140,7 +152,7 @@ TEST_CASE("the number fields swallow letters and let digits and Backspace pass")
     CHECK_FALSE(program.Text("txtIETitel").onKeyPress);
 }
 
-TEST_CASE("choosing a connection type changes no other control yet and no registry value") {
+TEST_CASE("choosing Manuell behind the start changes no number and no registry value") {
     Connected program;
     program.Put(Dsl);
     REQUIRE(program.Start());

@@ -339,7 +339,10 @@ TEST_CASE("failing any single call of start-up neither reports nor stops it") {
     Program count;
     REQUIRE(count.Start());
     const auto calls = static_cast<int>(count.machine.journal.Count());
-    for (int n = 2; n <= calls; ++n) {
+    // Whether the warning was accepted is a question of its own.
+    constexpr int AcceptedCall = 2;
+    for (int n = 1; n <= calls; ++n) {
+        if (n == AcceptedCall) continue;
         CAPTURE(n);
         Program program;
         program.machine.faults.FailNth(n, runtime::PermissionDenied);

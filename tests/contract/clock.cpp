@@ -32,6 +32,18 @@ TEST_CASE_FIXTURE(Fixture, "now is a moment of our days") {
     CHECK(now.second <= 59);
 }
 
+TEST_CASE_FIXTURE(Fixture, "the seconds since midnight are those of the time of day") {
+    const platform::LocalTime now = clock.Now();
+    const float seconds = clock.SecondsSinceMidnight();
+    const float whole = static_cast<float>((now.hour * 60 + now.minute) * 60 + now.second);
+    // Over midnight they begin anew.
+    if (seconds >= whole) {
+        CHECK(seconds - whole < 10);
+    } else {
+        CHECK(whole - seconds > 86380);
+    }
+}
+
 TEST_CASE_FIXTURE(Fixture, "a timer ticks again and again until it is stopped") {
     int ticks = 0;
     const auto timer = clock.StartTimer(20, [&] { ++ticks; });

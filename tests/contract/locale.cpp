@@ -65,6 +65,37 @@ TEST_CASE_FIXTURE(Fixture, "the signs of numbers are one character each and not 
     CHECK(signs.decimal != signs.grouping);
 }
 
+TEST_CASE_FIXTURE(Fixture, "the date in words has the German names of all days and months") {
+    constexpr const char* Days[] = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
+                                    "Donnerstag", "Freitag", "Samstag"};
+    constexpr const char* Months[] = {"Januar",    "Februar", "März",     "April",
+                                      "Mai",       "Juni",    "Juli",     "August",
+                                      "September", "Oktober", "November", "Dezember"};
+    // 2004-02-01, 2015-02-01 and 2026-02-01 are Sundays.
+    for (int year : {2004, 2015, 2026}) {
+        for (int day = 1; day <= 28; ++day) {
+            CAPTURE(day);
+            const std::string number = (day < 10 ? "0" : "") + std::to_string(day);
+            CHECK(locale.GermanDate({year, 2, day}) == std::string(Days[(day - 1) % 7]) + ", " +
+                                                           number + ". Februar " +
+                                                           std::to_string(year));
+        }
+    }
+    for (int month = 1; month <= 12; ++month) {
+        const std::string date = locale.GermanDate({2004, month, 5});
+        CHECK(date.ends_with(std::string(" 05. ") + Months[month - 1] + " 2004"));
+    }
+    CHECK(locale.GermanDate({2004, 1, 5}) == "Montag, 05. Januar 2004");
+    CHECK(locale.GermanDate({2000, 12, 31}) == "Sonntag, 31. Dezember 2000");
+    CHECK(locale.GermanDate({2004, 2, 29}) == "Sonntag, 29. Februar 2004");
+}
+
+TEST_CASE_FIXTURE(Fixture, "the short time is hours and minutes") {
+    const std::string time = locale.ShortTime({2004, 3, 5, 14, 7, 9});
+    CHECK(time.find("07") != std::string::npos);
+    CHECK(time.find("09") == std::string::npos);
+}
+
 TEST_CASE_FIXTURE(Fixture, "date and time hold the digits of their moment") {
     const platform::LocalTime moment{2026, 11, 21, 16, 5, 9};
     const std::string date = locale.ShortDate(moment);

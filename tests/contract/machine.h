@@ -6,7 +6,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "contract/serveranswer.h"
+#include "platform/clock.h"
 #include "platform/machine.h"
 #include "platform/otherwindows.h"
 #include "platform/registry.h"
@@ -44,6 +47,15 @@ struct WindowLook {
     bool operator==(const WindowLook&) const = default;
 };
 
+// What a clock was set to.
+struct ClockSetting {
+    // In UTC, or else in local time.
+    bool system = false;
+    platform::LocalTime moment;
+
+    bool operator==(const ClockSetting&) const = default;
+};
+
 class TestMachine {
   public:
     TestMachine();
@@ -61,6 +73,12 @@ class TestMachine {
     std::optional<std::string> FileContent(std::string_view path) const;
     // Gives the file the read-only attribute.
     void Protect(std::string_view path);
+    void MakeFolder(std::string_view path);
+    void SetAttributes(std::string_view path, std::uint32_t attributes);
+    // A junction or symbolic link at the path to that folder.
+    void MakeLink(std::string_view path, std::string_view target);
+    // While the action runs, nobody else may read the folder.
+    void WithUnreadable(std::string_view path, const std::function<void()>& action);
 
     // A window of that class, shown above its brothers; it goes with the machine at the latest.
     platform::OtherWindows::Handle OpenWindow(std::string_view className, std::string_view title,
@@ -71,8 +89,29 @@ class TestMachine {
     // What the program holds in memory.
     std::size_t ResidentBytes() const;
 
+    // Puts an entry into the Internet cache, `type` being its CacheEntryType; the first one finds
+    // the cache emptied of all that was there. They go with the machine.
+    void AddCacheEntry(std::string_view url, std::uint32_t type);
+    // Somebody uses the entry from now on.
+    void LockCacheEntry(std::string_view url);
+
     // The text in the clipboard; nothing when it holds none.
     std::optional<std::string> ClipboardText() const;
+
+    // A server at 127.0.0.1 that answers as many connections, one after the other; its port.
+    std::uint16_t Serve(std::vector<ServerAnswer> answers);
+    // A port of 127.0.0.1 at which nobody is.
+    std::uint16_t RefusingPort();
+
+    // Wine tells of a connection that broke off as of one that was closed.
+    bool HidesBreaks() const;
+
+    // Stands for the service of that kind, which no test may use: what comes out at its far end is
+    // noted, and no clock is set.
+    platform::SystemClock& NotingClock();
+    std::vector<ClockSetting> ClockSettings() const;
+    // The system says no to whoever wants to set its clock.
+    void RefuseClock();
 
     // Lets events through until `done`, at most for the given time. Returns `done`.
     bool PassTime(int milliseconds, const std::function<bool()>& done);

@@ -4,8 +4,38 @@
 
 namespace contract {
 
+namespace {
+
+// The simulated clock may be set; what it shows afterwards is what a setting comes to.
+class NotingSystemClock final : public platform::SystemClock {
+  public:
+    explicit NotingSystemClock(platform::simulated::Machine& machine) : machine_(machine) {}
+
+    void SetSystemTime(const platform::LocalTime& utc) override {
+        machine_.systemClock.SetSystemTime(utc);
+        settings.push_back({true, utc});
+    }
+    void SetLocalDate(const platform::LocalTime& date) override {
+        machine_.systemClock.SetLocalDate(date);
+        settings.push_back({false, machine_.clock.now});
+    }
+    void SetLocalTime(const platform::LocalTime& time) override {
+        machine_.systemClock.SetLocalTime(time);
+        settings.push_back({false, machine_.clock.now});
+    }
+
+    std::vector<ClockSetting> settings;
+
+  private:
+    platform::simulated::Machine& machine_;
+};
+
+}  // namespace
+
 struct TestMachine::Inside {
     platform::simulated::Machine machine;
+    NotingSystemClock clock{machine};
+    std::uint16_t lastPort = 4000;
 };
 
 TestMachine::TestMachine() : inside_(std::make_unique<Inside>()) {}
@@ -31,12 +61,41 @@ std::optional<std::string> TestMachine::FileContent(std::string_view path) const
     return inside_->machine.files.Content(path);
 }
 
+void TestMachine::AddCacheEntry(std::string_view url, std::uint32_t type) {
+    inside_->machine.internetCache.Add({.url = std::string(url), .type = type});
+}
+
+void TestMachine::LockCacheEntry(std::string_view url) {
+    for (auto& entry : inside_->machine.internetCache.entries) {
+        if (entry.url == url) entry.locked = true;
+    }
+}
+
 std::optional<std::string> TestMachine::ClipboardText() const {
     return inside_->machine.clipboard.text;
 }
 
 void TestMachine::Protect(std::string_view path) {
     inside_->machine.files.Protect(path);
+}
+
+void TestMachine::MakeFolder(std::string_view path) {
+    inside_->machine.disk.MakeFolder(path);
+}
+
+void TestMachine::SetAttributes(std::string_view path, std::uint32_t attributes) {
+    inside_->machine.disk.At(path).attributes = attributes;
+}
+
+void TestMachine::MakeLink(std::string_view path, std::string_view target) {
+    inside_->machine.disk.MakeLink(path, target);
+}
+
+void TestMachine::WithUnreadable(std::string_view path, const std::function<void()>& action) {
+    bool& unreadable = inside_->machine.disk.At(path).unreadable;
+    unreadable = true;
+    action();
+    unreadable = false;
 }
 
 platform::OtherWindows::Handle TestMachine::OpenWindow(std::string_view className,
@@ -59,8 +118,41 @@ std::size_t TestMachine::ResidentBytes() const {
     return inside_->machine.memory.Held();
 }
 
+std::uint16_t TestMachine::Serve(std::vector<ServerAnswer> answers) {
+    using End = platform::simulated::ServerAnswer::End;
+    const std::uint16_t port = ++inside_->lastPort;
+    for (ServerAnswer& answer : answers) {
+        inside_->machine.socket.Serve(port,
+                                      {std::move(answer.pieces), static_cast<End>(answer.end)});
+    }
+    return port;
+}
+
+std::uint16_t TestMachine::RefusingPort() {
+    return ++inside_->lastPort;
+}
+
+bool TestMachine::HidesBreaks() const {
+    return false;
+}
+
+platform::SystemClock& TestMachine::NotingClock() {
+    return inside_->clock;
+}
+
+std::vector<ClockSetting> TestMachine::ClockSettings() const {
+    return inside_->clock.settings;
+}
+
+void TestMachine::RefuseClock() {
+    for (const char* call : {"SetSystemTime", "SetLocalDate", "SetLocalTime"}) {
+        inside_->machine.faults.FailAll(call, runtime::PermissionDenied);
+    }
+}
+
 bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) {
     for (int passed = 0; passed < milliseconds && !done(); ++passed) {
+        inside_->machine.socket.RaiseNext();
         inside_->machine.clock.Advance(1);
     }
     return done();

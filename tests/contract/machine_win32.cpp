@@ -8,10 +8,12 @@
 #include <vector>
 
 #include "contract/machine.h"
+#include "contract/win32/cacheentries.h"
 #include "contract/win32/child.h"
 #include "contract/win32/folderuser.h"
 #include "contract/win32/menuuser.h"
 #include "contract/win32/standins.h"
+#include "contract/win32/timeserver.h"
 #include "platform/win32/formhandles.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/machine.h"
@@ -73,31 +75,99 @@ std::wstring ScratchDirectory() {
     return std::wstring(buffer, GetTempPathW(MAX_PATH, buffer)) + win32::ToWide(Title);
 }
 
-void RemoveScratchDirectory() {
-    const std::wstring directory = ScratchDirectory();
+// A program of the system around Wine; Windows itself has none by such a path. Nobody can wait for
+// it, so `done` tells when it has ended.
+void RunUnix(const wchar_t* program, std::wstring commandLine, const std::function<bool()>& done) {
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process)) {
+        throw std::logic_error("no program of the system around Wine");
+    }
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    for (int tries = 0; tries < 1000 && !done(); ++tries) Sleep(5);
+}
+
+std::wstring UnixPath(const std::wstring& path) {
+    using Function = char*(CDECL*)(LPCWSTR);
+    const auto function = reinterpret_cast<Function>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
+    char* name = function(path.c_str());
+    const std::wstring wide = win32::ToWide(name);
+    HeapFree(GetProcessHeap(), 0, name);
+    return wide;
+}
+
+DWORD AttributesOf(const std::wstring& path) {
+    return GetFileAttributesW(path.c_str());
+}
+
+void RemoveTree(const std::wstring& directory) {
     WIN32_FIND_DATAW found;
     const HANDLE search = FindFirstFileW((directory + L"\\*").c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) return;
     do {
-        const std::wstring path = directory + L'\\' + found.cFileName;
+        const std::wstring name = found.cFileName;
+        const std::wstring path = directory + L'\\' + name;
+        if (name == L"." || name == L"..") continue;
         SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-        DeleteFileW(path.c_str());
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
+            RemoveTree(path);
+        } else {
+            DeleteFileW(path.c_str());
+        }
     } while (FindNextFileW(search, &found));
     FindClose(search);
     RemoveDirectoryW(directory.c_str());
 }
 
+bool linksMade = false;
+
+void RemoveScratchDirectory() {
+    const std::wstring directory = ScratchDirectory();
+    // Wine follows links when it deletes, and does not see those that lead nowhere.
+    if (!linksMade) return RemoveTree(directory);
+    RunUnix(L"\\\\?\\unix\\bin\\rm", L"rm -rf \"" + UnixPath(directory) + L'"',
+            [&] { return AttributesOf(directory) == INVALID_FILE_ATTRIBUTES; });
+    linksMade = false;
+}
+
+std::vector<ClockSetting> clockSettings;
+bool clockRefuses = false;
+
+BOOL NoteSetting(const SYSTEMTIME* moment, bool system) {
+    clockSettings.push_back({system,
+                             {moment->wYear, moment->wMonth, moment->wDay, moment->wHour,
+                              moment->wMinute, moment->wSecond}});
+    return !clockRefuses;
+}
+
+BOOL WINAPI NoteLocal(const SYSTEMTIME* moment) {
+    return NoteSetting(moment, false);
+}
+
+BOOL WINAPI NoteSystem(const SYSTEMTIME* moment) {
+    return NoteSetting(moment, true);
+}
+
 }  // namespace
 
 struct TestMachine::Inside {
+    win32::SystemClock clock{NoteLocal, NoteSystem};
+    std::vector<std::unique_ptr<TimeServer>> servers;
     NoForms forms;
     win32::Machine machine{forms};
     StandIns windows;
+    CacheEntries cache;
     std::unique_ptr<MenuUser> menuUser;
     std::unique_ptr<FolderUser> folderUser;
 };
 
 TestMachine::TestMachine() : inside_(std::make_unique<Inside>()) {
+    clockSettings.clear();
+    clockRefuses = false;
     RemoveTraces();
     RemoveScratchDirectory();
     CreateDirectoryW(ScratchDirectory().c_str(), nullptr);
@@ -154,6 +224,14 @@ std::optional<std::string> TestMachine::FileContent(std::string_view path) const
     return content;
 }
 
+void TestMachine::AddCacheEntry(std::string_view url, std::uint32_t type) {
+    inside_->cache.Add(win32::ToAnsi(url), type);
+}
+
+void TestMachine::LockCacheEntry(std::string_view url) {
+    inside_->cache.Lock(win32::ToAnsi(url));
+}
+
 std::optional<std::string> TestMachine::ClipboardText() const {
     if (!OpenClipboard(nullptr)) return std::nullopt;
     std::optional<std::string> text;
@@ -167,6 +245,28 @@ std::optional<std::string> TestMachine::ClipboardText() const {
 
 void TestMachine::Protect(std::string_view path) {
     SetFileAttributesW(win32::ToWide(path).c_str(), FILE_ATTRIBUTE_READONLY);
+}
+
+void TestMachine::MakeFolder(std::string_view path) {
+    CreateDirectoryW(win32::ToWide(path).c_str(), nullptr);
+}
+
+void TestMachine::SetAttributes(std::string_view path, std::uint32_t attributes) {
+    SetFileAttributesW(win32::ToWide(path).c_str(), attributes);
+}
+
+void TestMachine::MakeLink(std::string_view path, std::string_view target) {
+    const std::wstring link = win32::ToWide(path);
+    linksMade = true;
+    RunUnix(L"\\\\?\\unix\\bin\\ln",
+            L"ln -s \"" + UnixPath(win32::ToWide(target)) + L"\" \"" + UnixPath(link) + L'"',
+            [&] { return AttributesOf(link) != INVALID_FILE_ATTRIBUTES; });
+}
+
+void TestMachine::WithUnreadable(std::string_view path, const std::function<void()>& action) {
+    const win32::FileHandle held(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ, 0, nullptr,
+                                             OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    action();
 }
 
 platform::OtherWindows::Handle TestMachine::OpenWindow(std::string_view className,
@@ -189,6 +289,31 @@ std::size_t TestMachine::ResidentBytes() const {
     counters.cb = sizeof counters;
     GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
     return counters.WorkingSetSize;
+}
+
+std::uint16_t TestMachine::Serve(std::vector<ServerAnswer> answers) {
+    inside_->servers.push_back(std::make_unique<TimeServer>(std::move(answers)));
+    return inside_->servers.back()->Port();
+}
+
+std::uint16_t TestMachine::RefusingPort() {
+    return TimeServer({}).Port();
+}
+
+bool TestMachine::HidesBreaks() const {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+platform::SystemClock& TestMachine::NotingClock() {
+    return inside_->clock;
+}
+
+std::vector<ClockSetting> TestMachine::ClockSettings() const {
+    return clockSettings;
+}
+
+void TestMachine::RefuseClock() {
+    clockRefuses = true;
 }
 
 bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) {

@@ -2,6 +2,10 @@
 
 #include <doctest/doctest.h>
 
+#include <cstdint>
+#include <limits>
+#include <string>
+
 #include "contract/machine.h"
 #include "platform/display.h"
 #include "runtime/failure.h"
@@ -57,6 +61,19 @@ TEST_CASE_FIXTURE(Fixture, "a block that no program has room for is refused") {
         }
         CHECK(number == runtime::OutOfMemory);
         CHECK(Resident() - before < 0.02);
+    }
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "the memory's bytes are the whole of it, or the most that 31 bits tell") {
+    constexpr std::uint64_t Most = std::numeric_limits<std::int32_t>::max();
+    const std::uint64_t total = std::stoull(memory.TotalPhysical());
+    const std::int32_t bytes = memory.PhysicalBytes();
+    if (total <= Most) {
+        CHECK(static_cast<std::uint64_t>(bytes) == total);
+    } else {
+        const bool beyond = bytes < 0 || static_cast<std::uint64_t>(bytes) == Most;
+        CHECK(beyond);
     }
 }
 

@@ -46,6 +46,7 @@ TEST_CASE_FIXTURE(Facts, "the disk has a file system, a size and no more free th
     REQUIRE(disk.free);
     CHECK(*disk.size > 0);
     CHECK(*disk.free <= *disk.size);
+    CHECK(disk.label);
 }
 
 TEST_CASE_FIXTURE(Facts, "of a drive that is not there nothing is told") {
@@ -53,6 +54,7 @@ TEST_CASE_FIXTURE(Facts, "of a drive that is not there nothing is told") {
     CHECK_FALSE(none.fileSystem);
     CHECK_FALSE(none.size);
     CHECK_FALSE(none.free);
+    CHECK_FALSE(none.label);
 }
 
 TEST_CASE_FIXTURE(Facts, "the screen has a size and at least 256 colours") {

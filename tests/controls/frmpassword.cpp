@@ -91,6 +91,7 @@ TEST_CASE("the password is typed hidden, with Return for OK and Escape for Cance
 
 TEST_CASE("the OK button of the password dialog wears the frame of the default button") {
     Asked test;
+    test.form.Load();
     const auto framed = [&](const char* name) {
         controls_test::RecordingCanvas canvas;
         test.Button(name).Paint(canvas, {0, 0, 75, 23});

@@ -32,11 +32,13 @@ std::vector<HWND> ChildrenOf(HWND window) {
     return children;
 }
 
-HWND FindBelow(HWND form, const std::string& name) {
-    for (HWND window : WindowsBelow(form)) {
-        if (NameOf(window) == name) return window;
-    }
-    return nullptr;
+// 0 where no window of any program has the name.
+ATOM AtomOf(const std::string& name) {
+    return GlobalFindAtomW(ToWide(name).c_str());
+}
+
+ATOM NameAtomOf(HWND window) {
+    return static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, PropertyName)) & 0xFFFF);
 }
 
 bool IsButtonOfBox(HWND window) {
@@ -69,8 +71,7 @@ HCURSOR PointerAt(HWND window, int hit) {
 }  // namespace
 
 std::string NameOf(HWND window) {
-    const auto atom =
-        static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, PropertyName)) & 0xFFFF);
+    const ATOM atom = NameAtomOf(window);
     wchar_t name[256];
     return atom ? FromWide({name, GlobalGetAtomNameW(atom, name, 256)}) : std::string();
 }
@@ -133,17 +134,33 @@ std::vector<HWND> Application::Forms() const {
     return forms;
 }
 
+// Each step of a walk is a question to Wine's server, which the program waits for as well: a
+// control once found is only looked at again.
+HWND Application::FindBelow(HWND form, ATOM name) const {
+    HWND& known = known_[{form, name}];
+    if (known && NameAtomOf(known) == name && GetAncestor(known, GA_ROOT) == form) return known;
+    known = nullptr;
+    for (HWND window : WindowsBelow(form)) {
+        if (NameAtomOf(window) != name) continue;
+        known = window;
+        break;
+    }
+    return known;
+}
+
 HWND Application::Find(const std::string& name) const {
+    const std::size_t point = name.find('.');
+    const bool isForm = point == std::string::npos && name.starts_with("frm");
+    const bool namesForm = isForm || point != std::string::npos;
+    const ATOM form = namesForm ? AtomOf(name.substr(0, point)) : 0;
+    const ATOM control = AtomOf(point == std::string::npos ? name : name.substr(point + 1));
+    if (!control) return nullptr;
     std::vector<HWND> windows = TopLevel();
     std::stable_partition(windows.begin(), windows.end(), IsWindowVisible);
-    const std::size_t point = name.find('.');
-    const std::string formName = point == std::string::npos ? "" : name.substr(0, point);
     for (HWND window : windows) {
-        if (NameOf(window) == name) return window;
-        if (!formName.empty() && NameOf(window) != formName) continue;
-        if (HWND found = FindBelow(window, formName.empty() ? name : name.substr(point + 1))) {
-            return found;
-        }
+        if (namesForm && NameAtomOf(window) != form) continue;
+        if (isForm) return window;
+        if (HWND found = FindBelow(window, control)) return found;
     }
     return nullptr;
 }

@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "endtoend/waiting.h"
@@ -48,7 +50,7 @@ class Application {
     std::vector<HWND> Forms() const;
 
     // The form or control of that name, or nullptr. Of several the one in the frontmost visible
-    // form; "frmPassword.cmdOK" names the form too.
+    // form; "frmPassword.cmdOK" names the form too. What begins with "frm" is a form.
     HWND Find(const std::string& name) const;
 
     // Waits until it is to be seen.
@@ -97,7 +99,11 @@ class Application {
     bool PointerIsChanged(const std::string& form) const;
 
   private:
+    HWND FindBelow(HWND form, ATOM name) const;
+
     DWORD process_;
+    // Where a name was last found below a form.
+    mutable std::map<std::pair<HWND, ATOM>, HWND> known_;
 };
 
 // Sends the message, waiting a bounded time. Throws Failed when the window does not answer.

@@ -7,6 +7,7 @@
 #include "endtoend/lines.h"
 #include "endtoend/optiontable.h"
 #include "endtoend/optiontablewords.h"
+#include "endtoend/registrydump.h"
 
 namespace endtoend {
 namespace {

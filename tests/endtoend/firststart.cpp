@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "endtoend/lines.h"
+#include "endtoend/registrydump.h"
 #include "endtoend/registrystate.h"
 #include "endtoend/workplace.h"
 

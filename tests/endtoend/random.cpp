@@ -5,6 +5,7 @@
 #include "endtoend/everyoptionrun.h"
 #include "endtoend/lines.h"
 #include "endtoend/randommachine.h"
+#include "endtoend/registrydump.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 

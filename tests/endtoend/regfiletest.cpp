@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "endtoend/lines.h"
+#include "endtoend/registrydump.h"
 #include "endtoend/registryfile.h"
 #include "endtoend/waiting.h"
 
@@ -57,6 +58,48 @@ TEST_CASE("a snapshot tells new keys, changed bytes and lost values apart") {
           "hkcu\\software\\quillmoreprobe\\new: absent -> a key\n"
           "hkcu\\software\\quillmoreprobe|kept: text \"ab\" 4 bytes -> text \"ab\" 6 bytes\n"
           "hkcu\\software\\quillmoreprobe|lost: type 4 01 00 00 00 -> absent\n");
+}
+
+TEST_CASE("a dump of the registry holds what its calls show, whatever lies in there") {
+    const std::string key = "Software\\QuillmoreProbe";
+    const std::string odd = key + "\\a\\B [ü] \"quoted\"\\\u20AC\\empty";
+    CreateKey("HKCU", odd);
+    std::string everyByte;
+    std::string everyCharacter;
+    for (int byte = 0; byte < 256; ++byte) {
+        everyByte += static_cast<char>(byte);
+        everyCharacter += {static_cast<char>(byte), '\0'};
+    }
+    everyCharacter += {'7', '\0', 'a', '\0', '\0', '\0'};
+    for (DWORD type = 0; type < 13; ++type) {
+        const std::string name = "of type " + std::to_string(type);
+        WriteValue({"HKCU", odd, name}, {type, everyCharacter});
+        WriteValue({"HKCU", odd, name + " without end"}, {type, everyByte});
+        WriteValue({"HKCU", odd, name + ", empty"}, {type, ""});
+        WriteValue({"HKCU", odd, name + ", odd"}, {type, "abc"});
+        WriteValue({"HKCU", odd, name + ", short"}, {type, std::string("\x01\x02\0\0", 4)});
+    }
+    WriteValue({"HKCU", odd, ""}, TerminatedText("\x01"
+                                                 "7\x02"
+                                                 "x \u20AC1 \\\"]"));
+    WriteValue({"HKCU", odd, "[ü]=\"\\\u20ACa"}, Dword(0xFFFFFFFF));
+    RegistryState dumped;
+    DumpTree("HKCU", key, dumped);
+    const RegistryState shown = Snapshot({"HKCU\\" + key});
+    DeleteTree("HKCU", key);
+    CHECK(shown.size() > 65);
+    CHECK(Joined(Differences(shown, dumped)) == "");
+}
+
+TEST_CASE("a dump of the registry that is cut off or not understood is refused") {
+    RegistryState state;
+    CHECK_THROWS_AS(ParseDump("REGEDIT4\n", "hkcu", state), Failed);
+    for (const char* rest : {"[a", "[a] 1\n\"b\"", "[a] 1\n\"b\"=\"c", "[a] 1\n\"b\"=hex:0,",
+                             "[a] 1\n\"b\"=dword:", "[a] 1\n\"b\"=word:1", "b=1\n"}) {
+        CAPTURE(rest);
+        CHECK_THROWS_AS(ParseDump(std::string("WINE REGISTRY Version 2\n") + rest, "hkcu", state),
+                        Failed);
+    }
 }
 
 }  // namespace

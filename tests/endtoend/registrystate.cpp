@@ -28,11 +28,6 @@ std::string Lower(std::wstring text) {
     return FromWide(text);
 }
 
-// The second branch of the machine's control set is the same one under another name.
-bool IsAlias(const std::string& path) {
-    return path == "hklm\\system\\controlset001";
-}
-
 void ReadValues(HKEY key, const std::string& path, RegistryState& state) {
     std::wstring name(16384, L'\0');
     std::string bytes(65536, '\0');
@@ -57,7 +52,7 @@ void ReadTree(HKEY parent, const std::wstring& child, const std::string& path,
               RegistryState& state) {
     RegistryKey key;
     RegOpenKeyExW(parent, child.c_str(), 0, KEY_READ, key.Out());
-    if (!key || IsAlias(path)) return;
+    if (!key) return;
     state[path] = std::nullopt;
     ReadValues(key.Get(), path, state);
     wchar_t name[256];
@@ -212,14 +207,6 @@ RegistryState Snapshot(const std::vector<std::string>& keys) {
         const std::string below = cut == std::string::npos ? "" : path.substr(cut + 1);
         ReadTree(RootOf(path.substr(0, cut)), ToWide(below), Lower(ToWide(path)), state);
     }
-    return state;
-}
-
-RegistryState SnapshotOfMachine() {
-    RegistryState state = Snapshot({"HKLM\\SOFTWARE", "HKLM\\SYSTEM", "HKCU"});
-    // Wine dates its display driver anew whenever a program is the first on its desktop.
-    std::erase_if(state,
-                  [](const auto& entry) { return entry.first.ends_with("|driverdatedata"); });
     return state;
 }
 

@@ -56,9 +56,6 @@ using RegistryState = std::map<std::string, std::optional<RegistryValue>>;
 // Everything below these keys ("HKCU\\Software", ...).
 RegistryState Snapshot(const std::vector<std::string>& keys);
 
-// What a program like ours could touch: the machine's software and system, the user's whole tree.
-RegistryState SnapshotOfMachine();
-
 // One line a difference, sorted: the path, then what was and what is.
 std::vector<std::string> Differences(const RegistryState& before, const RegistryState& after);
 

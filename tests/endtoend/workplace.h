@@ -2,15 +2,10 @@
 
 #include <string>
 
+#include "endtoend/files.h"
 #include "endtoend/program.h"
 
 namespace endtoend {
-
-// The bytes of a file; empty when there is none.
-std::string ReadFile(const std::string& path);
-
-// The folder of the running test program; programs and data files of the suite lie in it.
-std::string OwnFolder();
 
 // A machine in a known state and a folder of its own with the program in it: the registry is the
 // baseline's, the settings store holds nothing. The folder goes with this object, and the registry

@@ -27,6 +27,7 @@ TEST_CASE_FIXTURE(Information, "the two questions about a volume fail each by it
     SUBCASE("the file system") {
         machine.faults.FailAll("GetVolumeInformationA", 5);
         CHECK_FALSE(information.VolumeOn("C:\\").fileSystem);
+        CHECK_FALSE(information.VolumeOn("C:\\").label);
         CHECK(information.VolumeOn("C:\\").size == 40007729152);
     }
     SUBCASE("the space") {

@@ -27,3 +27,17 @@ TEST_CASE("a block that is refused is not counted") {
     CHECK_THROWS_AS(machine.memory.Blanks(100), runtime::Failure);
     CHECK(machine.memory.Peak() == 0);
 }
+
+TEST_CASE("the memory's bytes are told as they are seeded, also as a negative number") {
+    Machine machine;
+    CHECK(machine.memory.PhysicalBytes() == 536330240);
+    machine.memory.physicalBytes = -1;
+    CHECK(machine.memory.PhysicalBytes() == -1);
+    CHECK(machine.journal.Text() == "GlobalMemoryStatus -> 536330240\nGlobalMemoryStatus -> -1\n");
+}
+
+TEST_CASE("a system that does not tell its memory's bytes tells 0") {
+    Machine machine;
+    machine.faults.FailAll("GlobalMemoryStatus", runtime::InvalidProcedureCall);
+    CHECK(machine.memory.PhysicalBytes() == 0);
+}

@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include "controls/chameleonbutton.h"
 #include "runtime/failure.h"
 #include "toolkit/combobox.h"
 #include "tweaks/networksets.h"
@@ -105,12 +104,6 @@ TEST_CASE_FIXTURE(NetworkPage, "every caption of the page DFÜ has room for its 
 
 TEST_CASE_FIXTURE(NetworkPage, "the page DFÜ's own buttons stand where those of System do") {
     CheckAtBottomRight(form, "cmdOptimalDfue");
-}
-
-TEST_CASE_FIXTURE(NetworkPage, "the presets of the page DFÜ are disabled") {
-    for (const char* name : {"cmdStandardDfue", "cmdOptimalDfue", "cmdExtensionDefault"}) {
-        CHECK_FALSE(form.Find<controls::chameleonButton>(name).Enabled());
-    }
 }
 
 TEST_CASE_FIXTURE(NetworkPage,

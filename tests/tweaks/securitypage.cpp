@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include "controls/chameleonbutton.h"
 #include "tweaks/pagefixture.h"
 #include "tweaks/pagelook.h"
 #include "tweaks/sideeffects.h"
@@ -70,12 +69,6 @@ TEST_CASE_FIXTURE(SecurityPage, "every caption of the page Sicherheit has room f
 
 TEST_CASE_FIXTURE(SecurityPage, "the page Sicherheit's own buttons stand where System's do") {
     CheckAtBottomRight(form, "cmdOptimalMisc");
-}
-
-TEST_CASE_FIXTURE(SecurityPage, "the presets of the page Sicherheit are disabled") {
-    for (const char* name : {"cmdDefaultMisc", "cmdOptimalMisc"}) {
-        CHECK_FALSE(form.Find<controls::chameleonButton>(name).Enabled());
-    }
 }
 
 TEST_CASE_FIXTURE(SecurityPage, "the logon message takes several lines, its title one") {

@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include "controls/chameleonbutton.h"
 #include "tweaks/pagefixture.h"
 #include "tweaks/pagelook.h"
 
@@ -55,13 +54,6 @@ TEST_CASE_FIXTURE(SystemPage, "the headings, groups, labels and buttons carry th
         CHECK(form.FindControl(name)->Caption() == caption);
     }
     CHECK(form.Find<toolkit::Label>("lblTuning").Style() == toolkit::LabelStyle::Heading);
-}
-
-TEST_CASE_FIXTURE(SystemPage, "the buttons whose tools are not there are disabled") {
-    CHECK(form.Find<controls::chameleonButton>("cmdFreeMemory").Enabled());
-    for (const char* name : {"cmdNormal", "cmdOptimal"}) {
-        CHECK_FALSE(form.Find<controls::chameleonButton>(name).Enabled());
-    }
 }
 
 TEST_CASE_FIXTURE(SystemPage, "the sliders have their ranges and steps") {

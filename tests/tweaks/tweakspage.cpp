@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include "controls/chameleonbutton.h"
 #include "tweaks/pagefixture.h"
 #include "tweaks/pagelook.h"
 
@@ -56,12 +55,6 @@ TEST_CASE_FIXTURE(TweaksPage, "every caption of the page Tweaks has room for its
 
 TEST_CASE_FIXTURE(TweaksPage, "the page Tweaks' own buttons stand where those of System do") {
     CheckAtBottomRight(form, "cmdOptimalWindows2");
-}
-
-TEST_CASE_FIXTURE(TweaksPage, "the presets of the page Tweaks are disabled") {
-    for (const char* name : {"cmdNormalWindows2", "cmdOptimalWindows2"}) {
-        CHECK_FALSE(form.Find<controls::chameleonButton>(name).Enabled());
-    }
 }
 
 TEST_CASE_FIXTURE(TweaksPage, "the box for hanging programs takes no more than five characters") {

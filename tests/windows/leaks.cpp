@@ -1,6 +1,9 @@
 #include <doctest/doctest.h>
 
-#include "toolkit/combobox.h"
+#include "toolkit/drivelistbox.h"
+#include "toolkit/listbox.h"
+#include "toolkit/listview.h"
+#include "toolkit/progressbar.h"
 #include "windows/desk.h"
 
 using namespace windows;
@@ -37,11 +40,21 @@ int NextWindow() {
     return LOWORD(reinterpret_cast<ULONG_PTR>(window));
 }
 
+void FillLists(TestForm& form) {
+    auto& list = form.Add<toolkit::ListView>("lvwLeak", toolkit::ListViewStyle{.checkBoxes = true});
+    list.AddColumn("Name");
+    list.AddRow("Datei");
+    form.Add<toolkit::ListBox>("lstLeak").AddItem("Zeile");
+    form.Add<toolkit::DriveListBox>("drvLeak").SetDrives({"c:"});
+    form.Add<toolkit::ProgressBar>("prgLeak");
+}
+
 void OpenAndClose(Desk& desk) {
     TestForm form(desk.host, "frmLeak");
     form.Add<toolkit::Label>("lblLeak", "Text", toolkit::LabelStyle::Heading);
     form.Add<toolkit::TextBox>("txtLeak");
     form.Add<toolkit::ComboBox>("cboLeak").AddItem("552");
+    FillLists(form);
     form.Add<toolkit::OptionButton>("optLeak", "Wahl", 1);
     auto& button = form.Add<PlainButton>("cmdLeak", "Knopf");
     form.SetLayout(Leaf(button));
@@ -57,7 +70,7 @@ TEST_CASE("a dialog opened again and again leaves nothing behind") {
     for (int i = 0; i < 20; ++i) OpenAndClose(desk);
     const int objects = DrawingObjects();
     const int window = NextWindow();
-    for (int i = 0; i < 250; ++i) OpenAndClose(desk);
+    for (int i = 0; i < 1000; ++i) OpenAndClose(desk);
     CHECK(DrawingObjects() <= objects + 5);
     CHECK(NextWindow() <= window + 40);
     CHECK(GlobalFindAtomA("txtLeak") == 0);

@@ -22,7 +22,7 @@ void AddDay(LocalTime& time) {
     ++time.year;
 }
 
-void AddSeconds(LocalTime& time, long long seconds) {
+void MoveOn(LocalTime& time, long long seconds) {
     constexpr int Day = 24 * 60 * 60;
     seconds += time.hour * 3600 + time.minute * 60 + time.second;
     for (; seconds >= Day; seconds -= Day) AddDay(time);
@@ -37,6 +37,16 @@ void AddSeconds(LocalTime& time, long long seconds) {
 LocalTime Clock::Now() const {
     journal_.Note([] { return std::string("GetLocalTime"); });
     return now;
+}
+
+float Clock::SecondsSinceMidnight() const {
+    journal_.Note([] { return std::string("GetLocalTime"); });
+    const int seconds = now.hour * 3600 + now.minute * 60 + now.second;
+    return static_cast<float>(seconds) + static_cast<float>(elapsed_ % 1000) / 1000;
+}
+
+void Clock::AddSeconds(long long seconds) {
+    MoveOn(now, seconds);
 }
 
 Clock::Timer Clock::StartTimer(int milliseconds, std::function<void()> tick) {
@@ -90,7 +100,7 @@ void Clock::Tick(Timer timer) {
 
 void Clock::MoveTo(long long moment) {
     if (moment <= elapsed_) return;
-    AddSeconds(now, moment / 1000 - elapsed_ / 1000);
+    AddSeconds(moment / 1000 - elapsed_ / 1000);
     elapsed_ = moment;
 }
 

@@ -15,12 +15,15 @@ class Clock final : public platform::Clock {
     Clock(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
 
     LocalTime Now() const override;
+    float SecondsSinceMidnight() const override;
     Timer StartTimer(int milliseconds, std::function<void()> tick) override;
     void StopTimer(Timer timer) override;
 
     // Moves time on and raises the ticks that fall due, in their order. A tick may move time
     // itself, as a handler does that opens a message box: other ticks then come within it.
     void Advance(int milliseconds);
+    // Only the time told, without any tick.
+    void AddSeconds(long long seconds);
     int RunningTimers() const { return static_cast<int>(timers_.size()); }
 
     LocalTime now{2004, 3, 5, 14, 7, 9};

@@ -11,6 +11,9 @@ class Display final : public platform::Display {
     explicit Display(Journal& journal) : journal_(journal) {}
 
     toolkit::Size Size() const override;
+    // Each character is five pixels wide.
+    std::string CompactPath(const toolkit::Form& form, std::string_view path,
+                            int width) const override;
 
     toolkit::Size size{1024, 768};
 

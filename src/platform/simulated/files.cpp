@@ -12,13 +12,34 @@ namespace platform::simulated {
 
 namespace {
 
-// Paths are compared without regard to case.
-std::string Folded(std::string_view path) {
-    return runtime::ToLower(path);
+std::string_view DirectoryOf(std::string_view path) {
+    return path.substr(0, std::min(path.rfind('\\'), path.size()));
 }
 
-std::string DirectoryOf(const std::string& path) {
-    return path.substr(0, std::min(path.rfind('\\'), path.size()));
+bool IsFolder(const DiskNode* node) {
+    return node && node->IsFolder();
+}
+
+// As the command line's: ? is any one character, * any number of them.
+bool Fits(std::string_view pattern, std::string_view name) {
+    if (pattern.empty()) return name.empty();
+    if (pattern[0] == '*') {
+        return Fits(pattern.substr(1), name) || (!name.empty() && Fits(pattern, name.substr(1)));
+    }
+    return !name.empty() && (pattern[0] == '?' || pattern[0] == name[0]) &&
+           Fits(pattern.substr(1), name.substr(1));
+}
+
+// All files below the folder; the folders stay.
+void TakeFiles(DiskNode& folder) {
+    for (auto next = folder.children.begin(); next != folder.children.end();) {
+        DiskNode& node = **next++;
+        if (!node.IsFolder()) {
+            Disk::Erase(node);
+        } else if (!node.IsLink()) {
+            TakeFiles(node);
+        }
+    }
 }
 
 }  // namespace
@@ -26,13 +47,7 @@ std::string DirectoryOf(const std::string& path) {
 Files::Handle Files::OpenForAppend(std::string_view path) {
     auto line = journal_.Note([&] { return "OpenForAppend " + Quoted(path); });
     PassOrThrow(journal_, faults_, line, "OpenForAppend", path);
-    std::string folded = Folded(path);
-    if (folded.empty()) ThrowFault(journal_, line, runtime::PathNotFound);
-    if (IsHeld(folded)) {
-        ThrowFault(journal_, line, runtime::PermissionDenied);
-    }
-    contents_.try_emplace(folded);
-    open_[next_] = {folded, true};
+    open_[next_] = {Writable(line, path).Path(), true};
     journal_.Finish(line, [&] { return "#" + std::to_string(next_); });
     return next_++;
 }
@@ -40,8 +55,7 @@ Files::Handle Files::OpenForAppend(std::string_view path) {
 Files::Handle Files::OpenForReading(std::string_view path) {
     auto line = journal_.Note([&] { return "OpenForReading " + Quoted(path); });
     PassOrThrow(journal_, faults_, line, "OpenForReading", path);
-    const std::string folded = Readable(line, path);
-    open_[next_] = {folded, false};
+    open_[next_] = {Readable(line, path).Path(), false};
     journal_.Finish(line, [&] { return "#" + std::to_string(next_); });
     return next_++;
 }
@@ -55,7 +69,7 @@ void Files::Write(Handle file, std::string_view bytes) {
                 found == open_.end() ? "" : found->second.path);
     if (found == open_.end()) ThrowFault(journal_, line, runtime::BadFileNumber);
     if (!found->second.forWriting) ThrowFault(journal_, line, runtime::PermissionDenied);
-    contents_[found->second.path] += bytes;
+    disk_.At(found->second.path).content += bytes;
 }
 
 void Files::Close(Handle file) {
@@ -70,7 +84,7 @@ void Files::Close(Handle file) {
 std::string Files::Read(std::string_view path) {
     auto line = journal_.Note([&] { return "ReadFile " + Quoted(path); });
     PassOrThrow(journal_, faults_, line, "ReadFile", path);
-    const std::string& content = contents_.at(Readable(line, path));
+    const std::string& content = Readable(line, path).content;
     journal_.Finish(line, [&] { return std::to_string(content.size()) + " bytes"; });
     return content;
 }
@@ -79,14 +93,14 @@ void Files::Remove(std::string_view path, bool force) {
     auto line =
         journal_.Note([&] { return "DeleteFile " + Quoted(path) + (force ? " force" : ""); });
     PassOrThrow(journal_, faults_, line, "DeleteFile", path);
-    const std::string folded = Folded(path);
-    if (!IsDirectory(DirectoryOf(folded))) ThrowFault(journal_, line, runtime::PathNotFound);
-    if (!contents_.contains(folded)) ThrowFault(journal_, line, runtime::FileNotFound);
-    if (IsHeld(folded) || (protected_.contains(folded) && !force)) {
+    if (!IsFolder(disk_.Find(DirectoryOf(path)))) ThrowFault(journal_, line, runtime::PathNotFound);
+    DiskNode* file = disk_.Find(path, Disk::Last::Keep);
+    if (!file) ThrowFault(journal_, line, runtime::FileNotFound);
+    const bool isProtected = file->attributes & attribute::ReadOnly;
+    if (file->IsFolder() || IsHeld(*file) || (isProtected && !force)) {
         ThrowFault(journal_, line, runtime::PermissionDenied);
     }
-    contents_.erase(folded);
-    protected_.erase(folded);
+    Disk::Erase(*file);
 }
 
 void Files::WriteText(std::string_view path, std::string_view bytes) {
@@ -94,84 +108,99 @@ void Files::WriteText(std::string_view path, std::string_view bytes) {
         return "OpenTextFile " + Quoted(path) + " write " + std::to_string(bytes.size()) + " bytes";
     });
     PassOrThrow(journal_, faults_, line, "OpenTextFile", path);
-    const std::string folded = Folded(path);
-    if (folded.empty()) ThrowFault(journal_, line, runtime::PathNotFound);
-    if (IsHeld(folded)) {
+    Writable(line, path).content = bytes;
+}
+
+const DiskNode& Files::Readable(Journal::Place line, std::string_view path) const {
+    const DiskNode* node = disk_.Find(path);
+    if (IsFolder(node)) ThrowFault(journal_, line, runtime::PathFileAccess);
+    if (!IsFolder(disk_.Find(DirectoryOf(path)))) ThrowFault(journal_, line, runtime::PathNotFound);
+    if (!node) ThrowFault(journal_, line, runtime::FileNotFound);
+    // Those who write let others read.
+    const std::string place = node->Path();
+    const bool isRead = std::any_of(open_.begin(), open_.end(), [&](const auto& entry) {
+        return entry.second.path == place && !entry.second.forWriting;
+    });
+    if (isRead || node->held) ThrowFault(journal_, line, runtime::PermissionDenied);
+    return *node;
+}
+
+DiskNode& Files::Writable(Journal::Place line, std::string_view path) {
+    if (path.empty()) ThrowFault(journal_, line, runtime::PathNotFound);
+    const DiskNode* directory = disk_.Find(DirectoryOf(path));
+    const DiskNode* file = disk_.Find(path);
+    if ((directory && directory->unwritable) || IsFolder(file) || (file && IsHeld(*file))) {
         ThrowFault(journal_, line, runtime::PermissionDenied);
     }
-    contents_[folded] = bytes;
+    return disk_.MakeFile(path);
 }
 
-std::string Files::Readable(Journal::Place line, std::string_view path) const {
-    std::string folded = Folded(path);
-    if (IsDirectory(folded)) ThrowFault(journal_, line, runtime::PathFileAccess);
-    if (!IsDirectory(DirectoryOf(folded))) ThrowFault(journal_, line, runtime::PathNotFound);
-    if (!contents_.contains(folded)) ThrowFault(journal_, line, runtime::FileNotFound);
-    // Those who write let others read.
-    const bool isRead = std::any_of(open_.begin(), open_.end(), [&](const auto& entry) {
-        return entry.second.path == folded && !entry.second.forWriting;
-    });
-    if (isRead || held_.contains(folded)) ThrowFault(journal_, line, runtime::PermissionDenied);
-    return folded;
+bool Files::IsHeld(const DiskNode& node) const {
+    return node.held || node.parent->unwritable || IsOpen(node);
 }
 
-bool Files::IsHeld(const std::string& folded) const {
-    return readOnly_.contains(DirectoryOf(folded)) || IsOpen(folded);
-}
-
-bool Files::IsOpen(const std::string& folded) const {
-    return held_.contains(folded) ||
-           std::any_of(open_.begin(), open_.end(),
-                       [&](const auto& entry) { return entry.second.path == folded; });
-}
-
-bool Files::IsDirectory(const std::string& folded) const {
-    auto holds = [&](const std::string& path) { return path.starts_with(folded + "\\"); };
-    return directories_.contains(folded) ||
-           std::any_of(directories_.begin(), directories_.end(), holds) ||
-           std::any_of(contents_.begin(), contents_.end(),
-                       [&](const auto& entry) { return holds(entry.first); });
+bool Files::IsOpen(const DiskNode& node) const {
+    if (open_.empty()) return false;
+    const std::string place = node.Path();
+    return std::any_of(open_.begin(), open_.end(),
+                       [&](const auto& entry) { return entry.second.path == place; });
 }
 
 void Files::Put(std::string_view path, std::string_view bytes) {
-    contents_[Folded(path)] = bytes;
+    disk_.MakeFile(path).content = bytes;
 }
 
 std::optional<std::string> Files::Content(std::string_view path) const {
-    auto found = contents_.find(Folded(path));
-    if (found == contents_.end()) return std::nullopt;
-    return found->second;
+    const DiskNode* node = disk_.Find(path);
+    if (!node || node->IsFolder()) return std::nullopt;
+    return node->content;
 }
 
 void Files::Protect(std::string_view path) {
-    protected_.insert(Folded(path));
+    disk_.At(path).attributes |= attribute::ReadOnly;
 }
 
 void Files::MakeReadOnly(std::string_view directory) {
-    readOnly_.insert(Folded(directory));
+    disk_.MakeFolder(directory).unwritable = true;
 }
 
 void Files::MakeDirectory(std::string_view directory) {
-    directories_.insert(Folded(directory));
+    disk_.MakeFolder(directory);
 }
 
 void Files::Hold(std::string_view path) {
-    held_.insert(Folded(path));
+    disk_.At(path).held = true;
+}
+
+bool Files::AnyInUse(const DiskNode& node) const {
+    return node.held || IsOpen(node) ||
+           std::any_of(node.children.begin(), node.children.end(),
+                       [&](const auto& child) { return AnyInUse(*child); });
+}
+
+void Files::TakeTree(DiskNode& node) {
+    if (DiskNode* target = node.IsLink() ? disk_.Find(node.target) : nullptr) TakeFiles(*target);
+    while (!node.children.empty()) TakeTree(*node.children.front());
+    Disk::Erase(node);
 }
 
 std::int32_t Files::Take(std::string_view path) {
     constexpr std::int32_t fileNotFound = 2;
     constexpr std::int32_t sharingViolation = 32;
-    std::string folded = Folded(path);
-    auto within = [&](const std::string& entry) {
-        return entry == folded || entry.starts_with(folded + "\\");
-    };
-    if (!contents_.contains(folded) && !IsDirectory(folded)) return fileNotFound;
-    for (const auto& [entry, content] : contents_) {
-        if (within(entry) && IsOpen(entry)) return sharingViolation;
+    const std::string pattern =
+        runtime::ToLower(path.substr(std::min(path.rfind('\\') + 1, path.size())));
+    DiskNode* folder = disk_.Find(DirectoryOf(path));
+    std::vector<DiskNode*> nodes;
+    if (folder) {
+        for (const auto& node : folder->children) {
+            if (Fits(pattern, runtime::ToLower(node->name))) nodes.push_back(node.get());
+        }
     }
-    std::erase_if(contents_, [&](const auto& entry) { return within(entry.first); });
-    std::erase_if(directories_, within);
+    if (nodes.empty()) return fileNotFound;
+    for (DiskNode* node : nodes) {
+        if (AnyInUse(*node)) return sharingViolation;
+        TakeTree(*node);
+    }
     return 0;
 }
 

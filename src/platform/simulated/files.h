@@ -3,21 +3,22 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 
 #include "platform/files.h"
+#include "platform/simulated/disk.h"
 #include "platform/simulated/journal.h"
 
 namespace platform::simulated {
 
 class Faults;
 
-// A disk in memory: paths (compared without regard to case) to bytes.
+// The files of the disk in memory. A file is made together with the folders above it.
 class Files final : public platform::Files {
   public:
-    Files(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
+    Files(Journal& journal, Faults& faults, Disk& disk)
+        : journal_(journal), faults_(faults), disk_(disk) {}
 
     Handle OpenForAppend(std::string_view path) override;
     Handle OpenForReading(std::string_view path) override;
@@ -38,33 +39,35 @@ class Files final : public platform::Files {
     // Another program has the file open and shares it with nobody.
     void Hold(std::string_view path);
 
-    // Takes a file, or a directory with all in it, off the disk for a service that deletes: 0 or
-    // the system's error code.
+    // What the shell's deletion does to a file, or to a directory with all in it: 0 or the system's
+    // error code. Wildcards in the last part mean all that fit. As XP's shell does, it goes into
+    // links and deletes what they lead to.
     std::int32_t Take(std::string_view path);
 
     int OpenHandles() const { return static_cast<int>(open_.size()); }
 
   private:
-    // Here or in another program.
-    bool IsOpen(const std::string& folded) const;
-    // Directories are those made and those above a file.
-    bool IsDirectory(const std::string& folded) const;
-    // The folded path of a file that can be opened for input; throws for any other.
-    std::string Readable(Journal::Place line, std::string_view path) const;
-    // Whether the file may neither be written nor deleted, force or not.
-    bool IsHeld(const std::string& folded) const;
-
-    Journal& journal_;
-    Faults& faults_;
-    std::map<std::string, std::string> contents_;
-    std::set<std::string> readOnly_;
-    std::set<std::string> directories_;
-    std::set<std::string> held_;
-    std::set<std::string> protected_;
     struct Opened {
         std::string path;
         bool forWriting = false;
     };
+
+    // Here.
+    bool IsOpen(const DiskNode& node) const;
+    // Whether anything may be written or deleted in the directory.
+    bool IsWritable(std::string_view directory) const;
+    // A file that can be opened for input; throws for any other.
+    const DiskNode& Readable(Journal::Place line, std::string_view path) const;
+    // Whether the file may neither be written nor deleted, force or not.
+    bool IsHeld(const DiskNode& node) const;
+    // For output: the file, which is made when it is not there.
+    DiskNode& Writable(Journal::Place line, std::string_view path);
+    bool AnyInUse(const DiskNode& node) const;
+    void TakeTree(DiskNode& node);
+
+    Journal& journal_;
+    Faults& faults_;
+    Disk& disk_;
     std::map<Handle, Opened> open_;
     Handle next_ = 1;
 };

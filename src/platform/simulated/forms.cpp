@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "platform/simulated/journal.h"
+#include "runtime/text.h"
 
 namespace platform::simulated {
 
@@ -29,6 +30,36 @@ class Forms::View final : public toolkit::FormView {
     toolkit::Form& form_;
 };
 
+class Forms::ListView final : public toolkit::ControlView {
+  public:
+    ListView(Journal& journal, toolkit::Control& control) : journal_(journal), control_(control) {}
+
+    void FitColumn(int column, bool includingHeader) override {
+        journal_.Note([&] {
+            return "SendMessageA " + control_.Name() + " 4126 " + std::to_string(column) +
+                   (includingHeader ? " -2" : " -1");
+        });
+    }
+    void LockWindow(bool locked) override {
+        journal_.Note([&] { return "LockWindowUpdate " + (locked ? control_.Name() : "0"); });
+    }
+    void EnsureVisible(int row) override {
+        journal_.Note(
+            [&] { return "SendMessageA " + control_.Name() + " 4115 " + std::to_string(row); });
+    }
+
+    void Refresh(toolkit::Aspect) override {}
+    void Repaint() override {}
+    bool PointerIsOver() const override { return false; }
+    void TakeFocus() override {}
+    void CaptureMouse() override {}
+    void MoveFocus(bool) override {}
+
+  private:
+    Journal& journal_;
+    toolkit::Control& control_;
+};
+
 Forms::Forms(Journal& journal) : journal_(journal) {}
 
 Forms::~Forms() = default;
@@ -38,6 +69,11 @@ void Forms::Open(toolkit::Form& form) {
     open_.push_back(&form);
     auto& view = views_[&form] = std::make_unique<View>(journal_, form);
     form.SetView(view.get());
+    for (const auto& control : form.Controls()) {
+        if (control->Kind() != toolkit::ControlKind::ListView) continue;
+        auto& list = lists_[control.get()] = std::make_unique<ListView>(journal_, *control);
+        control->SetView(list.get());
+    }
 }
 
 void Forms::RunModal(toolkit::Form& form) {
@@ -58,6 +94,21 @@ void Forms::Close(toolkit::Form& form) {
     std::erase(open_, &form);
     form.SetView(nullptr);
     views_.erase(&form);
+    for (const auto& control : form.Controls()) {
+        if (lists_.erase(control.get())) control->SetView(nullptr);
+    }
+}
+
+std::string Forms::SortKey(std::string_view text) const {
+    constexpr std::pair<std::string_view, std::string_view> Letters[] = {
+        {"Ä", "A"}, {"Ö", "O"}, {"Ü", "U"}, {"ß", "SS"}};
+    std::string key = runtime::ToUpper(text);
+    for (const auto& [letter, plain] : Letters) {
+        for (std::size_t at; (at = key.find(letter)) != std::string::npos;) {
+            key.replace(at, letter.size(), plain);
+        }
+    }
+    return key;
 }
 
 void Forms::WhenModal(std::string formName, std::function<void(toolkit::Form&)> user) {

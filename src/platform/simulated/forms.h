@@ -14,7 +14,8 @@ namespace platform::simulated {
 class Journal;
 
 // Windows without a screen. A modal form is answered from a script. Of what a form shows only its
-// transparency is journalled, since that is asked of the system call by call.
+// transparency is journalled, and what its list views are told, since that is asked of the system
+// call by call.
 class Forms final : public toolkit::FormHost {
   public:
     explicit Forms(Journal& journal);
@@ -25,20 +26,30 @@ class Forms final : public toolkit::FormHost {
     void Close(toolkit::Form& form) override;
     toolkit::Bounds WorkArea() const override { return workArea; }
     std::vector<toolkit::Form*> OpenForms() const override { return open_; }
+    void DoEvents() override {
+        if (onEvents) onEvents();
+    }
+    // Umlauts stand with their vowels, as in German.
+    std::string SortKey(std::string_view text) const override;
 
     // The next time a form of that name is shown modally, `user` runs and must hide or unload it;
     // a modal form without a script, or one left open by it, is a mistake in the test
     // (std::logic_error).
     void WhenModal(std::string formName, std::function<void(toolkit::Form&)> user);
 
+    // What the user does while the program lets events through.
+    std::function<void()> onEvents;
+
     // 1024 by 740 pixels at 15 twips a pixel.
     toolkit::Bounds workArea{0, 0, 15360, 11100};
 
   private:
     class View;
+    class ListView;
 
     Journal& journal_;
     std::map<toolkit::Form*, std::unique_ptr<View>> views_;
+    std::map<toolkit::Control*, std::unique_ptr<ListView>> lists_;
     std::vector<toolkit::Form*> open_;
     std::deque<std::pair<std::string, std::function<void(toolkit::Form&)>>> scripts_;
 };

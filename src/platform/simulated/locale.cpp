@@ -102,6 +102,27 @@ std::string Locale::LongTime(const LocalTime& time) const {
     return Formatted("%02d:%02d:%02d", time.hour, time.minute, time.second);
 }
 
+std::string Locale::ShortTime(const LocalTime& time) const {
+    return LongTime(time).substr(0, 5);
+}
+
+std::string Locale::GermanDate(const LocalTime& time) const {
+    static constexpr const char* Months[] = {"Januar",    "Februar", "März",     "April",
+                                             "Mai",       "Juni",    "Juli",     "August",
+                                             "September", "Oktober", "November", "Dezember"};
+    static constexpr const char* Days[] = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
+                                           "Donnerstag", "Freitag", "Samstag"};
+    // Days from the first of March of a year on: the months' lengths then repeat every five.
+    const int year = time.month < 3 ? time.year - 1 : time.year;
+    const int month = (time.month + 9) % 12;
+    const int days =
+        year * 365 + year / 4 - year / 100 + year / 400 + (153 * month + 2) / 5 + time.day;
+    char day[16];
+    std::snprintf(day, sizeof day, "%02d. ", time.day);
+    return std::string(Days[(days + 2) % 7]) + ", " + day + Months[time.month - 1] + ' ' +
+           std::to_string(time.year);
+}
+
 std::string Locale::ToAnsi(std::string_view text) const {
     return ToWesternBytes(text);
 }

@@ -11,6 +11,8 @@ class Locale final : public platform::Locale {
     runtime::NumberSigns Signs() const override { return signs; }
     std::string ShortDate(const LocalTime& time) const override;
     std::string LongTime(const LocalTime& time) const override;
+    std::string ShortTime(const LocalTime& time) const override;
+    std::string GermanDate(const LocalTime& time) const override;
     std::string ToAnsi(std::string_view text) const override;
     std::string FromAnsi(std::string_view bytes) const override;
 

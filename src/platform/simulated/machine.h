@@ -6,15 +6,20 @@
 #include "platform/simulated/browser.h"
 #include "platform/simulated/clipboard.h"
 #include "platform/simulated/clock.h"
+#include "platform/simulated/disk.h"
 #include "platform/simulated/display.h"
 #include "platform/simulated/faults.h"
 #include "platform/simulated/files.h"
+#include "platform/simulated/folders.h"
 #include "platform/simulated/forms.h"
+#include "platform/simulated/internetcache.h"
 #include "platform/simulated/journal.h"
+#include "platform/simulated/keyboard.h"
 #include "platform/simulated/locale.h"
 #include "platform/simulated/memory.h"
 #include "platform/simulated/menus.h"
 #include "platform/simulated/messages.h"
+#include "platform/simulated/network.h"
 #include "platform/simulated/otherwindows.h"
 #include "platform/simulated/processes.h"
 #include "platform/simulated/program.h"
@@ -22,9 +27,12 @@
 #include "platform/simulated/session.h"
 #include "platform/simulated/settingsstore.h"
 #include "platform/simulated/shell.h"
+#include "platform/simulated/socket.h"
 #include "platform/simulated/system.h"
+#include "platform/simulated/systemclock.h"
 #include "platform/simulated/systeminformation.h"
 #include "platform/simulated/tray.h"
+#include "platform/simulated/workstation.h"
 
 namespace platform::simulated {
 
@@ -43,7 +51,9 @@ class Machine {
     Forms forms;
     Registry registry;
     SettingsStore settings;
+    Disk disk;
     Files files;
+    Folders folders;
     Processes processes;
     Shell shell;
     Session session;
@@ -52,9 +62,15 @@ class Machine {
     SystemFacts facts;
     SystemInformation information;
     Memory memory;
+    InternetCache internetCache;
     OtherWindows windows;
     Display display;
+    Keyboard keyboard;
     Clock clock;
+    SystemClock systemClock;
+    Network network;
+    Workstation workstation;
+    Socket socket;
     Locale locale;
     Clipboard clipboard;
     Beeper beeper;

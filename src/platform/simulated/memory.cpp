@@ -38,6 +38,13 @@ std::string Memory::TotalPhysical() const {
     return totalPhysical;
 }
 
+std::int32_t Memory::PhysicalBytes() const {
+    auto line = journal_.Note([] { return std::string("GlobalMemoryStatus"); });
+    const std::int32_t bytes = faults_.Check("GlobalMemoryStatus", "") ? 0 : physicalBytes;
+    journal_.Finish(line, [&] { return std::to_string(bytes); });
+    return bytes;
+}
+
 std::unique_ptr<MemoryBlock> Memory::Blanks(std::size_t characters) {
     auto line = journal_.Note([&] { return "Memory.Blanks " + std::to_string(characters); });
     PassOrThrow(journal_, faults_, line, "Memory.Blanks", "");

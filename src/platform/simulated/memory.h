@@ -15,6 +15,7 @@ class Memory final : public platform::Memory {
     Memory(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
 
     std::string TotalPhysical() const override;
+    std::int32_t PhysicalBytes() const override;
     std::unique_ptr<MemoryBlock> Blanks(std::size_t characters) override;
 
     // The bytes of the blocks that are held, and the most that there ever were.
@@ -22,6 +23,7 @@ class Memory final : public platform::Memory {
     std::size_t Peak() const { return peak_; }
 
     std::string totalPhysical = "536330240";
+    std::int32_t physicalBytes = 536330240;
 
   private:
     class Block;

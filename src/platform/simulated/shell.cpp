@@ -4,7 +4,9 @@
 
 #include "platform/simulated/faults.h"
 #include "platform/simulated/files.h"
+#include "platform/simulated/locale.h"
 #include "platform/simulated/wording.h"
+#include "runtime/text.h"
 #include "toolkit/form.h"
 
 namespace platform::simulated {
@@ -66,13 +68,30 @@ std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path
     auto operate = [&]() -> std::int32_t {
         if (auto code = faults_.Check("SHFileOperationA", path)) return *code;
         if (function != Delete) return InvalidParameter;
-        std::int32_t refused = files_.Take(path);
+        // The call takes bytes: a character that the code page lacks becomes a question mark, and
+        // that is a wildcard.
+        std::int32_t refused = files_.Take(FromWesternBytes(ToWesternBytes(path)));
         if (refused == 0 && flags & AllowUndo) recycleBin.emplace_back(path);
         return refused;
     };
     std::int32_t code = operate();
     journal_.Finish(line, [&] { return std::to_string(code); });
     return code;
+}
+
+void Shell::EmptyRecycleBin(std::uint32_t flags) {
+    journal_.Note([&] { return "SHEmptyRecycleBinA " + Hex(flags); });
+    if (!faults_.Check("SHEmptyRecycleBinA", "")) recycleBin.clear();
+}
+
+// Not journalled: it is asked for each row of a search.
+std::string Shell::TypeName(std::string_view path, std::uint32_t attributes) const {
+    if (attributes & attribute::Directory) return folderType;
+    const std::size_t dot = path.rfind('.');
+    if (dot == std::string_view::npos || path.find('\\', dot) != std::string_view::npos) {
+        return "Datei";
+    }
+    return runtime::ToUpper(path.substr(dot + 1)) + "-Datei";
 }
 
 std::string Shell::BrowseForFolder(const toolkit::Form& owner, std::string_view title,

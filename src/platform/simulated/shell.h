@@ -50,6 +50,8 @@ class Shell final : public platform::Shell {
     void ObjectProperties(std::int32_t kind) override;
     std::int32_t OperateOnFiles(std::uint32_t function, std::string_view path,
                                 std::uint16_t flags) override;
+    void EmptyRecycleBin(std::uint32_t flags) override;
+    std::string TypeName(std::string_view path, std::uint32_t attributes) const override;
     std::string BrowseForFolder(const toolkit::Form& owner, std::string_view title,
                                 std::uint32_t flags, const FolderCallback& callback) override;
     std::string SpecialFolder(std::int32_t csidl) const override;
@@ -70,6 +72,8 @@ class Shell final : public platform::Shell {
     std::vector<std::int32_t> propertySheets;
     // What was deleted with the flag 0x40 (allow undo), in that order.
     std::vector<std::string> recycleBin;
+    // What a folder is called; not so on a system of another language.
+    std::string folderType = "Dateiordner";
     // By CSIDL: the folders of the user "Besitzer" on a German XP.
     std::map<std::int32_t, std::string> specialFolders{
         {0x00, "C:\\Dokumente und Einstellungen\\Besitzer\\Desktop"},

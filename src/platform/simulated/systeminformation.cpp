@@ -36,11 +36,11 @@ std::vector<Drive> SystemInformation::Drives() const {
 Volume SystemInformation::VolumeOn(std::string_view root) const {
     const auto found = volumes.find(root);
     const Volume volume = found == volumes.end() ? Volume{} : found->second;
-    const auto fileSystem =
-        Told(journal_, faults_, "GetVolumeInformationA", volume.fileSystem, root);
-    const auto space = Told(journal_, faults_, "GetDiskFreeSpaceExA", volume, root);
-    return {fileSystem.value_or(std::nullopt), space.value_or(Volume{}).size,
-            space.value_or(Volume{}).free};
+    const Volume named =
+        Told(journal_, faults_, "GetVolumeInformationA", volume, root).value_or(Volume{});
+    const Volume space =
+        Told(journal_, faults_, "GetDiskFreeSpaceExA", volume, root).value_or(Volume{});
+    return {named.fileSystem, space.size, space.free, named.label};
 }
 
 std::optional<ScreenFormat> SystemInformation::MainScreen() const {

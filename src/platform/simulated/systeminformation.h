@@ -32,7 +32,7 @@ class SystemInformation final : public platform::SystemInformation {
                               {"D:\\", DriveKind::OpticalDisc}};
     // By root. A drive that is not in here has no medium.
     std::map<std::string, Volume, std::less<>> volumes{
-        {"C:\\", {"NTFS", 40007729152, 12884901888}}};
+        {"C:\\", {"NTFS", 40007729152, 12884901888, "SYSTEM"}}};
     ScreenFormat screen{1024, 768, 32};
     std::string userName = "Besitzer";
     std::string computerName = "QUILLMORE-PC";

@@ -16,6 +16,14 @@ LocalTime Clock::Now() const {
     return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
 }
 
+float Clock::SecondsSinceMidnight() const {
+    SYSTEMTIME now = {};
+    GetLocalTime(&now);
+    const int milliseconds =
+        ((now.wHour * 60 + now.wMinute) * 60 + now.wSecond) * 1000 + now.wMilliseconds;
+    return static_cast<float>(milliseconds) / 1000;
+}
+
 Clock::Timer Clock::StartTimer(int milliseconds, std::function<void()> tick) {
     const Timer timer = next_++;
     if (!SetTimer(window_.Get(), timer, static_cast<UINT>(milliseconds), nullptr)) {

@@ -19,6 +19,7 @@ class Clock final : public platform::Clock {
     explicit Clock(platform::Messages& messages);
 
     LocalTime Now() const override;
+    float SecondsSinceMidnight() const override;
     Timer StartTimer(int milliseconds, std::function<void()> tick) override;
     void StopTimer(Timer timer) override;
 

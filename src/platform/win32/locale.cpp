@@ -26,7 +26,19 @@ SYSTEMTIME SystemTime(const LocalTime& time) {
     return result;
 }
 
+std::string TimeOfDay(const LocalTime& time, DWORD flags) {
+    const SYSTEMTIME moment = SystemTime(time);
+    wchar_t buffer[80] = {};
+    GetTimeFormatW(LOCALE_USER_DEFAULT, flags, &moment, nullptr, buffer, 80);
+    return FromWide(buffer);
+}
+
 }  // namespace
+
+std::uint32_t GermanLocale(std::uint32_t users) {
+    const bool isGerman = PRIMARYLANGID(LANGIDFROMLCID(users)) == LANG_GERMAN;
+    return isGerman ? users : MAKELCID(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN), SORT_DEFAULT);
+}
 
 runtime::NumberSigns Locale::Signs() const {
     return {Sign(LOCALE_SDECIMAL, ","), Sign(LOCALE_STHOUSAND, ".")};
@@ -40,9 +52,18 @@ std::string Locale::ShortDate(const LocalTime& time) const {
 }
 
 std::string Locale::LongTime(const LocalTime& time) const {
+    return TimeOfDay(time, 0);
+}
+
+std::string Locale::ShortTime(const LocalTime& time) const {
+    return TimeOfDay(time, TIME_NOSECONDS);
+}
+
+std::string Locale::GermanDate(const LocalTime& time) const {
     const SYSTEMTIME moment = SystemTime(time);
     wchar_t buffer[80] = {};
-    GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &moment, nullptr, buffer, 80);
+    GetDateFormatW(GermanLocale(GetUserDefaultLCID()), 0, &moment, L"dddd, dd. MMMM yyyy", buffer,
+                   80);
     return FromWide(buffer);
 }
 

@@ -5,12 +5,14 @@
 namespace platform::win32 {
 
 Machine::Machine(FormHandles& forms)
-    : shell_(forms, messages_),
+    : display_(forms),
+      shell_(forms, messages_),
       services{
           .forms = forms,
           .registry = registry_,
           .settings = settings_,
           .files = files_,
+          .folders = folders_,
           .processes = processes_,
           .shell = shell_,
           .session = session_,
@@ -19,9 +21,15 @@ Machine::Machine(FormHandles& forms)
           .facts = facts_,
           .information = information_,
           .memory = memory_,
+          .internetCache = internetCache_,
           .windows = windows_,
           .display = display_,
+          .keyboard = keyboard_,
           .clock = clock_,
+          .systemClock = systemClock_,
+          .network = network_,
+          .workstation = workstation_,
+          .socket = socket_,
           .locale = locale_,
           .clipboard = clipboard_,
           .beeper = beeper_,

@@ -8,10 +8,14 @@
 #include "platform/win32/clock.h"
 #include "platform/win32/display.h"
 #include "platform/win32/files.h"
+#include "platform/win32/folders.h"
+#include "platform/win32/internetcache.h"
+#include "platform/win32/keyboard.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/memory.h"
 #include "platform/win32/menus.h"
 #include "platform/win32/messages.h"
+#include "platform/win32/network.h"
 #include "platform/win32/operatingsystem.h"
 #include "platform/win32/otherwindows.h"
 #include "platform/win32/processes.h"
@@ -20,9 +24,12 @@
 #include "platform/win32/session.h"
 #include "platform/win32/settingsstore.h"
 #include "platform/win32/shell.h"
+#include "platform/win32/socket.h"
+#include "platform/win32/systemclock.h"
 #include "platform/win32/systemfacts.h"
 #include "platform/win32/systeminformation.h"
 #include "platform/win32/tray.h"
+#include "platform/win32/workstation.h"
 
 namespace platform::win32 {
 
@@ -40,6 +47,7 @@ class Machine {
     Registry registry_;
     SettingsStore settings_;
     Files files_;
+    Folders folders_;
     Processes processes_;
     Session session_;
     AutoStart autostart_;
@@ -47,8 +55,10 @@ class Machine {
     SystemFacts facts_;
     SystemInformation information_;
     Memory memory_;
+    InternetCache internetCache_;
     OtherWindows windows_;
     Display display_;
+    Keyboard keyboard_;
     Locale locale_;
     Clipboard clipboard_;
     Beeper beeper_;
@@ -57,6 +67,10 @@ class Machine {
     Shell shell_;
     Menus menus_;
     Clock clock_{messages_};
+    SystemClock systemClock_;
+    Network network_;
+    Workstation workstation_;
+    Socket socket_{messages_};
     Tray tray_{messages_};
     Program program_;
 

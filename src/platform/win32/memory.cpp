@@ -26,6 +26,14 @@ std::string Memory::TotalPhysical() const {
     return std::to_string(status.ullTotalPhys);
 }
 
+// The call has no failure; a field that it leaves alone stays 0.
+std::int32_t Memory::PhysicalBytes() const {
+    MEMORYSTATUS status = {};
+    status.dwLength = sizeof status;
+    GlobalMemoryStatus(&status);
+    return static_cast<std::int32_t>(status.dwTotalPhys);
+}
+
 std::unique_ptr<MemoryBlock> Memory::Blanks(std::size_t characters) {
     try {
         if (characters > std::u16string().max_size()) throw std::bad_alloc();

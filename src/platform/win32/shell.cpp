@@ -49,6 +49,17 @@ std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path
     return SHFileOperationA(&operation);
 }
 
+void Shell::EmptyRecycleBin(std::uint32_t flags) {
+    SHEmptyRecycleBinA(nullptr, nullptr, flags);
+}
+
+std::string Shell::TypeName(std::string_view path, std::uint32_t attributes) const {
+    SHFILEINFOW info = {};
+    SHGetFileInfoW(ToWide(path).c_str(), attributes, &info, sizeof info,
+                   SHGFI_TYPENAME | SHGFI_USEFILEATTRIBUTES);
+    return FromWide(info.szTypeName);
+}
+
 std::string Shell::SpecialFolder(std::int32_t csidl) const {
     IdList folder;
     if (SHGetSpecialFolderLocation(forms_.MainWindow(), csidl, folder.Out()) != S_OK) return "";

@@ -33,6 +33,8 @@ class Shell final : public platform::Shell {
     void ObjectProperties(std::int32_t kind) override;
     std::int32_t OperateOnFiles(std::uint32_t function, std::string_view path,
                                 std::uint16_t flags) override;
+    void EmptyRecycleBin(std::uint32_t flags) override;
+    std::string TypeName(std::string_view path, std::uint32_t attributes) const override;
     std::string BrowseForFolder(const toolkit::Form& owner, std::string_view title,
                                 std::uint32_t flags, const FolderCallback& callback) override;
     std::string SpecialFolder(std::int32_t csidl) const override;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/win32/nomediumbox.h"
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
@@ -20,19 +21,6 @@ std::string Directory(UINT(WINAPI* ask)(LPSTR, UINT)) {
     if (path.ends_with('\\')) path.remove_suffix(1);
     return FromAnsi(path);
 }
-
-// Keeps the system from asking for a medium in a box of its own.
-class NoMediumBox {
-  public:
-    NoMediumBox() { SetErrorMode(before_ | SEM_FAILCRITICALERRORS); }
-    ~NoMediumBox() { SetErrorMode(before_); }
-    NoMediumBox(const NoMediumBox&) = delete;
-    NoMediumBox& operator=(const NoMediumBox&) = delete;
-
-  private:
-    // XP tells the mode only to those who set one.
-    const UINT before_ = SetErrorMode(SEM_FAILCRITICALERRORS);
-};
 
 }  // namespace
 

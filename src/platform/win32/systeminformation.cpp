@@ -4,22 +4,11 @@
 
 #include <lmcons.h>
 
+#include "platform/win32/nomediumbox.h"
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
 namespace {
-
-// As long as it lives the system asks nobody to put a disk into a drive.
-class NoBoxes {
-  public:
-    NoBoxes() : before_(SetErrorMode(SEM_FAILCRITICALERRORS)) {}
-    ~NoBoxes() { SetErrorMode(before_); }
-    NoBoxes(const NoBoxes&) = delete;
-    NoBoxes& operator=(const NoBoxes&) = delete;
-
-  private:
-    UINT before_;
-};
 
 DriveKind KindOf(const std::string& root) {
     switch (GetDriveTypeA(root.c_str())) {
@@ -72,12 +61,14 @@ std::vector<Drive> SystemInformation::Drives() const {
 }
 
 Volume SystemInformation::VolumeOn(std::string_view root) const {
-    const NoBoxes quiet;
+    const NoMediumBox quiet;
     const std::string path = ToAnsi(root);
     Volume volume;
+    char label[MAX_PATH + 1] = "";
     char fileSystem[MAX_PATH + 1] = "";
-    if (GetVolumeInformationA(path.c_str(), nullptr, 0, nullptr, nullptr, nullptr, fileSystem,
-                              sizeof fileSystem)) {
+    if (GetVolumeInformationA(path.c_str(), label, sizeof label, nullptr, nullptr, nullptr,
+                              fileSystem, sizeof fileSystem)) {
+        volume.label = FromAnsi(label);
         volume.fileSystem = FromAnsi(fileSystem);
     }
     ULARGE_INTEGER free = {};

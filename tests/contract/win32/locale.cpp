@@ -1,4 +1,4 @@
-#include "platform/locale.h"
+#include "platform/win32/locale.h"
 
 #include <windows.h>
 
@@ -54,4 +54,17 @@ TEST_CASE("date and time are in the user's short and long form") {
     const platform::LocalTime moment{2026, 11, 2, 16, 5, 9};
     CHECK(locale.ShortDate(moment) == "02.11.2026");
     CHECK(locale.LongTime(moment) == "16:05:09");
+    CHECK(locale.ShortTime(moment) == "16:05");
+}
+
+TEST_CASE("a German-speaking user gets his own names of days and months, others Germany's") {
+    using platform::win32::GermanLocale;
+    constexpr LCID Germany = 0x0407;
+    constexpr LCID PhoneBook = 0x10407;
+    CHECK(GermanLocale(Germany) == Germany);
+    for (LCID own : {PhoneBook, LCID{0x0807}, LCID{0x0C07}, LCID{0x1007}, LCID{0x1407}}) {
+        CHECK(GermanLocale(own) == own);
+    }
+    for (LCID other : {0x0409, 0x040C, 0x0411, 0x0419, 0x0413})
+        CHECK(GermanLocale(other) == Germany);
 }

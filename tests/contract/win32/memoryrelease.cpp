@@ -15,6 +15,9 @@ class SmallMemory final : public platform::Memory {
     explicit SmallMemory(contract::TestMachine& machine) : machine_(machine) {}
 
     std::string TotalPhysical() const override { return total; }
+    std::int32_t PhysicalBytes() const override {
+        return machine_.Services().memory.PhysicalBytes();
+    }
     std::unique_ptr<platform::MemoryBlock> Blanks(std::size_t characters) override {
         asked = characters;
         auto block = machine_.Services().memory.Blanks(refuses ? 0x7FFFFFFF : characters);

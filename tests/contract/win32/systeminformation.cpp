@@ -47,6 +47,12 @@ TEST_CASE_FIXTURE(Facts, "asking for a volume leaves the error mode as it was") 
     CHECK(SetErrorMode(before) == SEM_NOOPENFILEERRORBOX);
 }
 
+TEST_CASE_FIXTURE(Facts, "the label of the disk is the system's") {
+    wchar_t label[MAX_PATH + 1] = L"";
+    REQUIRE(GetVolumeInformationW(L"C:\\", label, MAX_PATH, nullptr, nullptr, nullptr, nullptr, 0));
+    CHECK(information.VolumeOn("C:\\").label == platform::win32::FromWide(label));
+}
+
 TEST_CASE_FIXTURE(Facts, "the sizes of the disk are those of the system") {
     ULARGE_INTEGER free = {};
     ULARGE_INTEGER size = {};

@@ -1,9 +1,11 @@
 // Drives a running program from scripts; README.md beside this file lists the commands.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <shellapi.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <fstream>
 #include <iterator>
@@ -12,8 +14,10 @@
 #include <vector>
 
 #include "endtoend/driver/picture.h"
+#include "endtoend/lists.h"
 #include "endtoend/looks.h"
 #include "endtoend/program.h"
+#include "endtoend/registrydump.h"
 #include "endtoend/registryfile.h"
 #include "endtoend/registrystate.h"
 #include "platform/win32/text.h"
@@ -159,6 +163,51 @@ void PutKnownState(const Words& words) {
     endtoend::PutBaseline(FileText(words[0]), FileText(folder + "\\catalogue.tsv"));
 }
 
+int Number(const std::string& word) {
+    char* end = nullptr;
+    const long number = std::strtol(word.c_str(), &end, 10);
+    if (word.empty() || *end) throw Misused();
+    return static_cast<int>(number);
+}
+
+endtoend::Rows RowsOf(const Words& words) {
+    return endtoend::Rows(desktop.Wait(words[0]));
+}
+
+void ShowRows(const Words& words) {
+    const endtoend::Rows rows = RowsOf(words);
+    const auto line = [](std::string start, const Words& texts) {
+        for (const std::string& text : texts) start += '\t' + Flat(text);
+        Print(start);
+    };
+    line("row\ttick\tselected", rows.Headers());
+    for (int row = 0; row < rows.Count(); ++row) {
+        line(std::to_string(row) + '\t' + (rows.Ticked(row) ? 'x' : '-') + '\t' +
+                 (rows.Selected(row) ? "selected" : "-"),
+             rows.Texts(row));
+    }
+}
+
+void TickRow(const Words& words) {
+    if (words[2] != "0" && words[2] != "1") throw Misused();
+    RowsOf(words).SetTicked(Number(words[1]), words[2] == "1");
+}
+
+void ChooseOfRow(const Words& words) {
+    RowsOf(words).PressRightButton(Number(words[1]));
+    endtoend::ChooseFromMenu(desktop, Number(words[2]));
+}
+
+void ShowLines(const Words& words) {
+    for (const std::string& line : endtoend::LinesOf(desktop.Wait(words[0]))) Print(Flat(line));
+}
+
+void ShowProgress(const Words& words) {
+    const HWND bar = desktop.Wait(words[0]);
+    Print(std::to_string(endtoend::Send(bar, PBM_GETPOS)) + ' ' +
+          std::to_string(endtoend::Send(bar, PBM_GETRANGE, FALSE)));
+}
+
 void SetCheckBox(const Words& words) {
     if (words[1] != "0" && words[1] != "1") throw Misused();
     desktop.SetChecked(words[0], words[1] == "1");
@@ -181,6 +230,14 @@ const std::map<std::string, Command> Commands = {
     {"checked", {1, [](const Words& words) { Print(desktop.Checked(words[0]) ? "1" : "0"); }}},
     {"box", {0, ShowBox}},
     {"answer", {2, AnswerBox}},
+    {"rows", {1, ShowRows}},
+    {"row", {2, [](const Words& words) { RowsOf(words).Click(Number(words[1])); }}},
+    {"double", {2, [](const Words& words) { RowsOf(words).DoubleClick(Number(words[1])); }}},
+    {"tick", {3, TickRow}},
+    {"header", {2, [](const Words& words) { RowsOf(words).ClickHeader(Number(words[1])); }}},
+    {"menu", {3, ChooseOfRow}},
+    {"lines", {1, ShowLines}},
+    {"progress", {1, ShowProgress}},
     {"dump", {0, DumpAll}},
     {"looks", {1, ShowLooks}},
     {"shot", {1, Shoot}},

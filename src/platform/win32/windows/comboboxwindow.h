@@ -7,7 +7,7 @@ namespace platform::win32 {
 
 // The standard window class COMBOBOX. Its list is a window of its own, and so is the field in which
 // one types beside the list.
-class ComboBoxWindow final : public TypingWindow {
+class ComboBoxWindow : public TypingWindow {
   public:
     ComboBoxWindow(toolkit::ComboBox& control, const Surroundings& surroundings)
         : TypingWindow(control, surroundings), control_(control) {}
@@ -21,6 +21,9 @@ class ComboBoxWindow final : public TypingWindow {
     void Prepare() override;
     void ShowItems() override;
     void ShowValue() override;
+
+    // The list that drops down.
+    HWND List() const { return list_; }
 
   private:
     void WatchText();

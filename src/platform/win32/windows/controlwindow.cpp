@@ -83,6 +83,10 @@ void ControlWindow::Repaint() {
     InvalidateRect(window_, nullptr, TRUE);
 }
 
+void ControlWindow::PaintNow() {
+    UpdateWindow(window_);
+}
+
 bool ControlWindow::PointerIsOver() const {
     POINT pointer{};
     return GetCursorPos(&pointer) && WindowFromPoint(pointer) == window_;

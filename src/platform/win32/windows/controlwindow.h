@@ -41,12 +41,19 @@ class ControlWindow : public toolkit::ControlView,
     // The native window has told its parent that the user did something: the code of the
     // notification in WM_COMMAND, WM_NOTIFY or WM_HSCROLL.
     virtual void Notified(UINT) {}
+    // The whole notice of a WM_NOTIFY, for the windows that need more than its code. The result is
+    // what the native window is answered.
+    virtual LRESULT Noticed(const NMHDR& notice) {
+        Notified(notice.code);
+        return 0;
+    }
 
     // The native window is about to paint; the system's own colours are set.
     virtual void SetColours(HDC) const {}
 
     void Refresh(toolkit::Aspect what) override;
     void Repaint() override;
+    void PaintNow() override;
     bool PointerIsOver() const override;
     void TakeFocus() override;
     void CaptureMouse() override;

@@ -6,7 +6,11 @@
 #include "platform/win32/windows/buttonwindows.h"
 #include "platform/win32/windows/comboboxwindow.h"
 #include "platform/win32/windows/drawnwindow.h"
+#include "platform/win32/windows/drivelistboxwindow.h"
 #include "platform/win32/windows/labelwindow.h"
+#include "platform/win32/windows/listboxwindow.h"
+#include "platform/win32/windows/listviewwindow.h"
+#include "platform/win32/windows/progressbarwindow.h"
 #include "platform/win32/windows/sliderwindow.h"
 #include "platform/win32/windows/textboxwindow.h"
 
@@ -40,6 +44,14 @@ std::shared_ptr<ControlWindow> WindowFor(toolkit::Control& control,
             return Make<SliderWindow, toolkit::Slider>(control, surroundings);
         case toolkit::ControlKind::TabStrip:
             return Make<TabStripWindow, toolkit::TabStrip>(control, surroundings);
+        case toolkit::ControlKind::ListView:
+            return Make<ListViewWindow, toolkit::ListView>(control, surroundings);
+        case toolkit::ControlKind::ListBox:
+            return Make<ListBoxWindow, toolkit::ListBox>(control, surroundings);
+        case toolkit::ControlKind::DriveListBox:
+            return Make<DriveListBoxWindow, toolkit::DriveListBox>(control, surroundings);
+        case toolkit::ControlKind::ProgressBar:
+            return Make<ProgressBarWindow, toolkit::ProgressBar>(control, surroundings);
         case toolkit::ControlKind::Drawn:
             return Make<DrawnWindow, toolkit::DrawnControl>(control, surroundings);
     }

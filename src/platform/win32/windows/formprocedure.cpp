@@ -41,10 +41,8 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_NOTIFY: {
             const auto* notice = reinterpret_cast<const NMHDR*>(lParam);
-            if (const auto control = controls_.Find(notice->hwndFrom)) {
-                control->Notified(notice->code);
-            }
-            return 0;
+            const auto control = controls_.Find(notice->hwndFrom);
+            return control ? control->Noticed(*notice) : 0;
         }
         case WM_HSCROLL:
         case WM_VSCROLL:

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "platform/win32/text.h"
-#include "toolkit/drawncontrol.h"
 
 namespace platform::win32 {
 namespace {
@@ -53,7 +52,6 @@ void FormWindow::Create(HWND owner) {
     if (!form_.isDialog) SetIcons();
     controls_.Create(form_, window_);
     form_.SetView(this);
-    if (form_.defaultButton) form_.defaultButton->MarkDefault(true);
 }
 
 void FormWindow::FitToContent() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/win32/text.h"
 #include "platform/win32/windows/formwindow.h"
 
 namespace platform::win32 {
@@ -87,6 +88,23 @@ std::vector<toolkit::Form*> WindowHost::OpenForms() const {
     std::vector<toolkit::Form*> forms;
     for (const auto& window : windows_) forms.push_back(&window->Form());
     return forms;
+}
+
+void WindowHost::DoEvents() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) && ServeOne()) {
+    }
+}
+
+std::string WindowHost::SortKey(std::string_view text) const {
+    const std::wstring wide = ToWide(text);
+    const auto map = [&](char* key, int size) {
+        return LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, wide.c_str(), -1,
+                            reinterpret_cast<wchar_t*>(key), size);
+    };
+    std::string key(static_cast<std::size_t>(std::max(map(nullptr, 0), 0)), '\0');
+    map(key.data(), static_cast<int>(key.size()));
+    return key;
 }
 
 HWND WindowHost::WindowOf(const toolkit::Form& form) const {

@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/win32/formhandles.h"
@@ -30,6 +32,8 @@ class WindowHost final : public FormHandles {
     void Close(toolkit::Form& form) override;
     toolkit::Bounds WorkArea() const override;
     std::vector<toolkit::Form*> OpenForms() const override;
+    void DoEvents() override;
+    std::string SortKey(std::string_view text) const override;
 
     // Serves the windows until the last form is unloaded.
     void Run();

@@ -1,0 +1,42 @@
+// Decides by name and attributes about many files; cleanuprules.sh counts the instructions.
+// Call: cleanuprules
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "cleanup/attributerules.h"
+#include "cleanup/namerules.h"
+
+namespace {
+
+constexpr int Files = 10000;
+
+// Names as a disk has them: most are no temporary files and so meet all rules.
+std::vector<std::string> Paths() {
+    const char* const names[] = {"explorer.exe", "Größe der Bilder.jpg", "setup.log", "index.htm",
+                                 "Thumbs.db",    "~WRL0001.tmp",         "README",    "shell32.dll",
+                                 "desktop.ini",  "Rechnung 2004.doc"};
+    std::vector<std::string> paths;
+    for (int file = 0; file < Files; ++file) {
+        paths.push_back("C:\\Dokumente und Einstellungen\\Besitzer\\Eigene Dateien\\" +
+                        std::to_string(file) + "\\" + names[file % 10]);
+    }
+    return paths;
+}
+
+}  // namespace
+
+// By this name the measuring script finds it.
+extern "C" __attribute__((noinline)) int MeasuredRules(const std::vector<std::string>& paths) {
+    int rows = 0;
+    for (const std::string& path : paths) {
+        rows += cleanup::IsTempFile(path, true) && cleanup::AttributesGiveRow(32, path, true);
+    }
+    return rows;
+}
+
+int main() {
+    const int rows = MeasuredRules(Paths());
+    std::printf("%d files %d rows\n", Files, rows);
+    return rows == Files / 5 ? 0 : 1;
+}

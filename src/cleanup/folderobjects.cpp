@@ -1,0 +1,44 @@
+#include "cleanup/folderobjects.h"
+
+#include "runtime/failure.h"
+
+namespace cleanup {
+
+using platform::FolderEntry;
+
+std::string PathIn(std::string_view folder, std::string_view name) {
+    std::string path(folder);
+    if (!folder.ends_with('\\')) path += '\\';
+    return path.append(name);
+}
+
+Folder GetFolder(const platform::Folders& folders, std::string_view path) {
+    if (path.empty()) throw runtime::Failure(runtime::InvalidProcedureCall);
+    std::string full = folders.FullPath(path);
+    const bool isRoot = full.ends_with(":\\");
+    if (!isRoot && full.ends_with('\\')) full.pop_back();
+    const auto entry = folders.Find(full);
+    if (!entry || !entry->IsFolder()) throw runtime::Failure(runtime::PathNotFound);
+    const std::uint32_t attributes = isRoot ? platform::attribute::Directory : entry->attributes;
+    return {std::move(full), attributes, entry->modified};
+}
+
+std::vector<Folder> SubFolders(platform::Folders& folders, const std::string& path) {
+    std::vector<Folder> found;
+    for (const FolderEntry& entry : folders.List(path)) {
+        if (!entry.IsFolder()) continue;
+        found.push_back({PathIn(path, entry.name), entry.attributes, entry.modified});
+    }
+    return found;
+}
+
+double SizeOf(platform::Folders& folders, const std::string& path) {
+    double size = 0;
+    for (const FolderEntry& entry : folders.List(path)) {
+        size += entry.IsFolder() ? SizeOf(folders, PathIn(path, entry.name))
+                                 : static_cast<double>(entry.size);
+    }
+    return size;
+}
+
+}  // namespace cleanup

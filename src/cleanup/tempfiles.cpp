@@ -1,0 +1,31 @@
+#include "cleanup/tempfiles.h"
+
+#include "cleanup/drivespacelabels.h"
+#include "cleanup/recyclebin.h"
+#include "platform/folders.h"
+#include "platform/machine.h"
+#include "runtime/failure.h"
+#include "utilities/driveentries.h"
+
+namespace cleanup {
+
+TempFiles::TempFiles(toolkit::Form& form, platform::Machine& machine)
+    : machine_(machine),
+      frame_(form, machine),
+      search_(frame_, machine, links_),
+      removal_(frame_, machine, links_) {
+    frame_.cmdSearchTempFiles.onClick = [this] { search_.Click(); };
+    frame_.cmdCleanTempFiles.onClick = [this] { removal_.Click(); };
+    frame_.cmdCleanBinDirect.onClick = [this] { CleanBinDirect(frame_, machine_); };
+    const auto showSpace = [this] { ShowDriveSpace(frame_, machine_); };
+    frame_.drvSelect.onChange = showSpace;
+    frame_.drvSelect.onScroll = showSpace;
+}
+
+void TempFiles::Start() {
+    frame_.drvSelect.SetDrives(utilities::DriveEntries(machine_.information));
+    runtime::Skip([&] { frame_.drvSelect.SetDrive(machine_.folders.FullPath("\\")); });
+    ShowDriveSpace(frame_, machine_);
+}
+
+}  // namespace cleanup

@@ -1,0 +1,97 @@
+#include "cleanup/tempfilesframe.h"
+
+#include <algorithm>
+
+#include "platform/machine.h"
+#include "platform/menus.h"
+#include "toolkit/form.h"
+
+namespace cleanup {
+
+using controls::chameleonButton;
+using toolkit::CheckBox;
+using toolkit::Label;
+
+TempFilesFrame::TempFilesFrame(toolkit::Form& owner, platform::Machine& machine)
+    : form(owner),
+      fraTempFiles(form.Add<toolkit::Frame>("fraTempFiles", "Temporäre Dateien")),
+      chkScanAll(form.Add<CheckBox>("chkScanAll", "Alle lokalen Festplatten scannen")),
+      chkDeleteThumbs(
+          form.Add<CheckBox>("chkDeleteThumbs", "Bildvorschau Archive (Thumbs.db) löschen")),
+      chkNullByteFiles(form.Add<CheckBox>("chkNullByteFiles", "Nach 0 Byte Dateien suchen")),
+      // With the blank before the closing quotation mark, on purpose: scripts find it so.
+      chkRecentDocFolder(form.Add<CheckBox>("chkRecentDocFolder",
+                                            "Ordner \"Zuletzt verwendete Dokumente \" löschen")),
+      chkCleanUserTempFolder(form.Add<CheckBox>(
+          "chkCleanUserTempFolder", "Tempverzeichnis des angemeldeten Benutzers säubern")),
+      chkCleanRecycleBin(form.Add<CheckBox>("chkCleanRecycleBin", "Papierkorb leeren")),
+      chkMoveToRecycleBin(form.Add<CheckBox>("chkMoveToRecycleBin",
+                                             "Gefundene Dateien in den Papierkorb verschieben")),
+      drvSelect(form.Add<toolkit::DriveListBox>("drvSelect")),
+      lblGesamt(form.Add<Label>("lblGesamt", "")),
+      lblFreeDriveSpace(form.Add<Label>("lblFreeDriveSpace", "")),
+      cmdSearchTempFiles(form.Add<chameleonButton>("cmdSearchTempFiles", "Suchen", machine.clock)),
+      cmdCleanTempFiles(
+          form.Add<chameleonButton>("cmdCleanTempFiles", "Dateien löschen", machine.clock)),
+      cmdCleanBinDirect(form.Add<chameleonButton>("cmdCleanBinDirect", "Sofort", machine.clock)),
+      lblHinweisTemp(form.Add<Label>("lblHinweisTemp", "")),
+      lvwFiles(form.Add<toolkit::ListView>("lvwFiles", toolkit::ListViewStyle{.checkBoxes = true})),
+      lblScannedFiles(form.Add<Label>("lblScannedFiles", "", toolkit::LabelStyle::Path)),
+      mnuTempFiles{"mnuTempFiles",
+                   {{"mnuSelectAll", "Alle markieren", [this] { TickAll(true); }},
+                    {"mnuDeselectAll", "Alle Markierungen aufheben", [this] { TickAll(false); }}}},
+      machine_(machine) {
+    for (const char* header : {"Name", "Größe (bytes)", "Typ", "Zuletzt geändert"}) {
+        lvwFiles.AddColumn(header);
+    }
+    cmdCleanTempFiles.SetEnabled(false);
+    lvwFiles.onColumnClick = [this](int header) { SortBy(header); };
+    lvwFiles.onRightButton = [this] { OpenMenu(); };
+}
+
+void TempFilesFrame::InitFilesView() {
+    for (int rows = lvwFiles.Count(); rows > 0; --rows) lvwFiles.RemoveRow(0);
+}
+
+void TempFilesFrame::TickAll(bool ticked) {
+    for (int row = 0; row < lvwFiles.Count(); ++row) lvwFiles.SetTicked(row, ticked);
+}
+
+void TempFilesFrame::ShowProgress(std::string text) {
+    lblScannedFiles.SetCaption(std::move(text));
+    if (lblScannedFiles.View()) lblScannedFiles.View()->PaintNow();
+}
+
+void TempFilesFrame::SortBy(int header) {
+    sortDescending_ = !sortDescending_;
+    lvwFiles.SetSortKey(header);
+    lvwFiles.SetSortOrder(sortDescending_ ? toolkit::ListView::Descending
+                                          : toolkit::ListView::Ascending);
+    lvwFiles.SetSorted(true);
+}
+
+void TempFilesFrame::OpenMenu() {
+    if (lvwFiles.Count() == 0) return;
+    const toolkit::MenuItem* chosen = machine_.menus.Choose(mnuTempFiles);
+    if (chosen && chosen->onClick) chosen->onClick();
+}
+
+toolkit::Box TempFilesFrame::Layout() const {
+    using namespace toolkit;
+    return InFrame(fraTempFiles,
+                   Column({Grid(2, {Leaf(chkScanAll), Leaf(chkDeleteThumbs), Leaf(chkNullByteFiles),
+                                    Leaf(chkRecentDocFolder), Leaf(chkCleanUserTempFolder),
+                                    Leaf(chkMoveToRecycleBin)}),
+                           Row({Leaf(drvSelect), Leaf(lblGesamt), Leaf(lblFreeDriveSpace), Filler(),
+                                Leaf(chkCleanRecycleBin), Leaf(cmdCleanBinDirect)}),
+                           Leaf(lblHinweisTemp), Stretch(Leaf(lvwFiles)), Leaf(lblScannedFiles),
+                           Row({Filler(), Leaf(cmdSearchTempFiles), Leaf(cmdCleanTempFiles)})}));
+}
+
+void AdjustColumnWidth(toolkit::ListView& list, bool accountForHeaders, int endColumnsToExclude) {
+    const int count = static_cast<int>(list.Columns().size());
+    const int last = std::min(count - endColumnsToExclude, count - 1);
+    for (int index = 0; index <= last; ++index) list.FitColumn(index, accountForHeaders);
+}
+
+}  // namespace cleanup

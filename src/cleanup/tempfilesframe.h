@@ -1,0 +1,81 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/chameleonbutton.h"
+#include "toolkit/controls.h"
+#include "toolkit/drivelistbox.h"
+#include "toolkit/layout.h"
+#include "toolkit/listview.h"
+#include "toolkit/popupmenu.h"
+
+namespace platform {
+struct Machine;
+}
+
+namespace cleanup {
+
+// The columns of lvwFiles.
+namespace column {
+inline constexpr int Path = 0;
+inline constexpr int Size = 1;
+inline constexpr int Type = 2;
+inline constexpr int Changed = 3;
+}  // namespace column
+
+// The controls of the frame "Temporäre Dateien", and what the list does by itself: sorting by a
+// click on a header, and the menu that ticks or unticks all rows.
+class TempFilesFrame {
+  public:
+    TempFilesFrame(toolkit::Form& owner, platform::Machine& machine);
+    TempFilesFrame(const TempFilesFrame&) = delete;
+    TempFilesFrame& operator=(const TempFilesFrame&) = delete;
+
+    // Takes all rows off the list.
+    void InitFilesView();
+    void TickAll(bool ticked);
+    // Shows what is being done, at once.
+    void ShowProgress(std::string text);
+    // The drive as messages name it.
+    const std::string& Drive() const { return drvSelect.Drive(); }
+
+    // The frame with its controls.
+    toolkit::Box Layout() const;
+
+    toolkit::Form& form;
+    toolkit::Frame& fraTempFiles;
+    toolkit::CheckBox& chkScanAll;
+    toolkit::CheckBox& chkDeleteThumbs;
+    toolkit::CheckBox& chkNullByteFiles;
+    toolkit::CheckBox& chkRecentDocFolder;
+    toolkit::CheckBox& chkCleanUserTempFolder;
+    toolkit::CheckBox& chkCleanRecycleBin;
+    toolkit::CheckBox& chkMoveToRecycleBin;
+    toolkit::DriveListBox& drvSelect;
+    toolkit::Label& lblGesamt;
+    // Tells what is used, whatever its name says.
+    toolkit::Label& lblFreeDriveSpace;
+    controls::chameleonButton& cmdSearchTempFiles;
+    controls::chameleonButton& cmdCleanTempFiles;
+    controls::chameleonButton& cmdCleanBinDirect;
+    toolkit::Label& lblHinweisTemp;
+    toolkit::ListView& lvwFiles;
+    toolkit::Label& lblScannedFiles;
+    toolkit::PopupMenu mnuTempFiles;
+
+  private:
+    void SortBy(int header);
+    void OpenMenu();
+
+    platform::Machine& machine_;
+    // Not reset by a search, so the first click of all sorts descending and each further one, on
+    // whichever header, the other way round.
+    bool sortDescending_ = false;
+};
+
+// Sends the columns from 0 to the number of columns minus `endColumnsToExclude`, that one included,
+// to the width of their widest text, or of their header if that is wider and counts.
+void AdjustColumnWidth(toolkit::ListView& list, bool accountForHeaders, int endColumnsToExclude);
+
+}  // namespace cleanup

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/clock.h"
+
+namespace platform {
+
+// The bits that the file system keeps with each file and folder.
+namespace attribute {
+inline constexpr std::uint32_t ReadOnly = 1;
+inline constexpr std::uint32_t Hidden = 2;
+inline constexpr std::uint32_t System = 4;
+inline constexpr std::uint32_t Directory = 16;
+inline constexpr std::uint32_t Archive = 32;
+// A junction or a symbolic link: what is found below it lies somewhere else.
+inline constexpr std::uint32_t Link = 0x400;
+}  // namespace attribute
+
+struct FolderEntry {
+    std::string name;
+    std::uint32_t attributes = 0;
+    // In bytes; 0 for a folder.
+    std::uint64_t size = 0;
+    // Of the last change.
+    LocalTime modified;
+
+    bool IsFolder() const { return attributes & attribute::Directory; }
+    bool IsLink() const { return attributes & attribute::Link; }
+    bool operator==(const FolderEntry&) const = default;
+};
+
+// Folders and what stands in them. On the way to a path links are followed; what the path itself
+// names is taken as it is, link or not. Paths of 260 or more characters are not found.
+class Folders {
+  public:
+    virtual ~Folders() = default;
+
+    // FindFirstFileW and FindNextFileW: everything in the folder, or in the one that a link leads
+    // to, without "." and "..", in the order that the file system gives. Throws Failure
+    // PathNotFound where there is no folder, and PermissionDenied for one that may not be read.
+    virtual std::vector<FolderEntry> List(std::string_view path) = 0;
+
+    // GetFileAttributesExW: what stands at the path, named as asked for; nothing where nothing is.
+    virtual std::optional<FolderEntry> Find(std::string_view path) const = 0;
+
+    // GetFullPathNameW: without "." and "..", from a drive on; whether anything is there or not.
+    // "" for an empty path.
+    virtual std::string FullPath(std::string_view path) const = 0;
+
+    // RemoveDirectoryW: an empty folder, or a link to a folder, which goes by itself and leaves
+    // what it leads to. One with the read-only attribute goes with `force` only. Throws Failure
+    // PathNotFound, or PermissionDenied for anything that does not go.
+    virtual void Remove(std::string_view path, bool force) = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,69 @@
+#include "platform/simulated/folders.h"
+
+#include "platform/simulated/disk.h"
+#include "platform/simulated/faults.h"
+#include "platform/simulated/wording.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+
+namespace platform::simulated {
+
+namespace {
+
+// The search for what is in a folder adds a backslash and an asterisk.
+constexpr std::size_t ListLimit = 258;
+
+FolderEntry Told(const DiskNode& node) {
+    return {node.name, node.attributes, node.IsFolder() ? 0 : node.Size(), node.modified};
+}
+
+}  // namespace
+
+std::vector<FolderEntry> Folders::List(std::string_view path) {
+    auto line = journal_.Note([&] { return "FindFirstFileW " + Quoted(path); });
+    PassOrThrow(journal_, faults_, line, "FindFirstFileW", path);
+    const DiskNode* folder = runtime::Length(path) < ListLimit ? disk_.Find(path) : nullptr;
+    if (!folder || !folder->IsFolder()) ThrowFault(journal_, line, runtime::PathNotFound);
+    if (folder->unreadable) ThrowFault(journal_, line, runtime::PermissionDenied);
+    std::vector<FolderEntry> entries;
+    for (const auto& node : folder->children) entries.push_back(Told(*node));
+    journal_.Finish(line, [&] { return std::to_string(entries.size()); });
+    if (afterListing) afterListing(std::string(path));
+    return entries;
+}
+
+std::optional<FolderEntry> Folders::Find(std::string_view path) const {
+    auto line = journal_.Note([&] { return "GetFileAttributesExW " + Quoted(path); });
+    const DiskNode* node =
+        faults_.Check("GetFileAttributesExW", path) ? nullptr : disk_.Find(path, Disk::Last::Keep);
+    journal_.Finish(line, [&] { return node ? Hex(node->attributes) : std::string("nothing"); });
+    if (!node) return std::nullopt;
+    FolderEntry entry = Told(*node);
+    entry.name = path;
+    return entry;
+}
+
+std::string Folders::FullPath(std::string_view path) const {
+    std::string full(path);
+    // The current directory is the root of the drive.
+    if (full.starts_with('\\')) full.insert(0, "C:");
+    if (full.size() == 2 && full[1] == ':') full += '\\';
+    journal_.Note([&] { return "GetFullPathNameW " + Quoted(path) + " -> " + Quoted(full); });
+    return full;
+}
+
+void Folders::Remove(std::string_view path, bool force) {
+    auto line =
+        journal_.Note([&] { return "RemoveDirectoryW " + Quoted(path) + (force ? " force" : ""); });
+    PassOrThrow(journal_, faults_, line, "RemoveDirectoryW", path);
+    DiskNode* folder = disk_.Find(path, Disk::Last::Keep);
+    if (!folder) ThrowFault(journal_, line, runtime::PathNotFound);
+    const bool isProtected = folder->attributes & attribute::ReadOnly;
+    if (!folder->IsFolder() || !folder->children.empty() || folder->held ||
+        folder->parent->unwritable || (isProtected && !force)) {
+        ThrowFault(journal_, line, runtime::PermissionDenied);
+    }
+    Disk::Erase(*folder);
+}
+
+}  // namespace platform::simulated

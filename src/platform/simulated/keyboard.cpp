@@ -1,0 +1,12 @@
+#include "platform/simulated/keyboard.h"
+
+namespace platform::simulated {
+
+std::int16_t Keyboard::AsyncState(int virtualKey) {
+    if (virtualKey != Escape || escape.empty()) return 0;
+    const std::int16_t state = escape.front();
+    escape.pop_front();
+    return state;
+}
+
+}  // namespace platform::simulated

@@ -1,0 +1,101 @@
+#include "platform/win32/folders.h"
+
+#include <windows.h>
+
+#include "platform/win32/handle.h"
+#include "platform/win32/text.h"
+#include "runtime/failure.h"
+
+namespace platform::win32 {
+
+namespace {
+
+struct SearchTraits {
+    using Type = HANDLE;
+    static Type None() { return INVALID_HANDLE_VALUE; }
+    static bool Close(Type search) { return FindClose(search) != FALSE; }
+};
+
+LocalTime ToLocal(const FILETIME& time) {
+    FILETIME local{};
+    SYSTEMTIME parts{};
+    if (!FileTimeToLocalFileTime(&time, &local) || !FileTimeToSystemTime(&local, &parts)) return {};
+    return {parts.wYear, parts.wMonth, parts.wDay, parts.wHour, parts.wMinute, parts.wSecond};
+}
+
+// Both kinds of data that Windows tells about a file.
+template <typename Data>
+FolderEntry ToEntry(std::string name, const Data& data) {
+    return {std::move(name), data.dwFileAttributes,
+            std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow,
+            ToLocal(data.ftLastWriteTime)};
+}
+
+bool IsDots(const wchar_t* name) {
+    return name[0] == L'.' && (!name[1] || (name[1] == L'.' && !name[2]));
+}
+
+// What is not there, in all words that Windows has for it, apart from what is refused.
+runtime::Failure FailureOf(DWORD error) {
+    const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
+                           error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME ||
+                           error == ERROR_FILENAME_EXCED_RANGE || error == ERROR_BAD_PATHNAME ||
+                           error == ERROR_NOT_READY || error == ERROR_BAD_NETPATH ||
+                           error == ERROR_BAD_NET_NAME || error == ERROR_CANT_RESOLVE_FILENAME;
+    return runtime::Failure(isMissing ? runtime::PathNotFound : runtime::PermissionDenied);
+}
+
+}  // namespace
+
+std::vector<FolderEntry> Folders::List(std::string_view path) {
+    std::wstring pattern = ToWide(path);
+    if (pattern.empty()) throw runtime::Failure(runtime::PathNotFound);
+    if (pattern.back() != L'\\') pattern += L'\\';
+    pattern += L'*';
+    if (pattern.size() >= MAX_PATH) throw runtime::Failure(runtime::PathNotFound);
+    std::vector<FolderEntry> entries;
+    WIN32_FIND_DATAW data;
+    const Owned<SearchTraits> search(FindFirstFileW(pattern.c_str(), &data));
+    if (!search) {
+        // The root of an empty drive has not even dots in it.
+        if (GetLastError() == ERROR_FILE_NOT_FOUND && Find(path)) return entries;
+        throw FailureOf(GetLastError());
+    }
+    do {
+        if (!IsDots(data.cFileName)) entries.push_back(ToEntry(FromWide(data.cFileName), data));
+    } while (FindNextFileW(search.Get(), &data));
+    if (GetLastError() != ERROR_NO_MORE_FILES) throw FailureOf(GetLastError());
+    return entries;
+}
+
+std::optional<FolderEntry> Folders::Find(std::string_view path) const {
+    const std::wstring wide = ToWide(path);
+    WIN32_FILE_ATTRIBUTE_DATA data;
+    if (wide.size() >= MAX_PATH ||
+        !GetFileAttributesExW(wide.c_str(), GetFileExInfoStandard, &data)) {
+        return std::nullopt;
+    }
+    return ToEntry(std::string(path), data);
+}
+
+std::string Folders::FullPath(std::string_view path) const {
+    wchar_t full[MAX_PATH];
+    const DWORD length = GetFullPathNameW(ToWide(path).c_str(), MAX_PATH, full, nullptr);
+    return length < MAX_PATH ? FromWide({full, length}) : std::string(path);
+}
+
+void Folders::Remove(std::string_view path, bool force) {
+    const std::wstring wide = ToWide(path);
+    const DWORD attributes = GetFileAttributesW(wide.c_str());
+    const bool isProtected =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    if (force && isProtected) {
+        SetFileAttributesW(wide.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+    }
+    if (RemoveDirectoryW(wide.c_str())) return;
+    const DWORD error = GetLastError();
+    if (force && isProtected) SetFileAttributesW(wide.c_str(), attributes);
+    throw error == ERROR_DIRECTORY ? runtime::Failure(runtime::PermissionDenied) : FailureOf(error);
+}
+
+}  // namespace platform::win32

@@ -1,0 +1,73 @@
+#include <doctest/doctest.h>
+
+#include "cleanup/fixture.h"
+
+using cleanup_test::Fixture;
+using cleanup_test::Lines;
+using platform::DriveKind;
+
+TEST_CASE_FIXTURE(Fixture, "at the start the current drive is selected and its space is shown") {
+    CHECK(frame.Drive() == "c: [SYSTEM]");
+    CHECK(frame.lblGesamt.Caption() == "Gesamt: 20.003.880.960 Bytes");
+    CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 9.518.120.960 Bytes");
+}
+
+TEST_CASE_FIXTURE(Fixture, "another drive shows its own space, one without a medium 0 bytes") {
+    machine.facts.SetSpace('D', {0, 1000, 1000});
+    frame.drvSelect.SetDrive("D:\\");
+    CHECK(frame.lblGesamt.Caption() == "Gesamt: 1.000 Bytes");
+    CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 0 Bytes");
+    frame.drvSelect.SetDrive("A:\\");
+    CHECK(frame.lblGesamt.Caption() == "Gesamt: 0 Bytes");
+    CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 0 Bytes");
+}
+
+TEST_CASE_FIXTURE(Fixture, "scrolling the list of drives shows the space anew") {
+    machine.facts.SetSpace('C', {0, 3000, 1000});
+    frame.drvSelect.ScrollList();
+    CHECK(frame.lblGesamt.Caption() == "Gesamt: 3.000 Bytes");
+    CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 2.000 Bytes");
+}
+
+TEST_CASE_FIXTURE(Fixture, "the selected drive is walked whatever kind it is") {
+    File("C:\\c.tmp");
+    File("D:\\d.tmp");
+    frame.drvSelect.SetDrive("D:\\");
+    CHECK(Found() == Lines{"d:\\d.tmp"});
+}
+
+TEST_CASE_FIXTURE(Fixture, "a drive without a medium is passed over") {
+    File("C:\\c.tmp");
+    frame.drvSelect.SetDrive("A:\\");
+    CHECK(Found().empty());
+    CHECK(machine.messages.Shown().empty());
+}
+
+TEST_CASE_FIXTURE(Fixture, "all drives means all hard disks, in the order of the list") {
+    machine.information.drives = {{"A:\\", DriveKind::Removable},   {"C:\\", DriveKind::Fixed},
+                                  {"D:\\", DriveKind::OpticalDisc}, {"E:\\", DriveKind::Fixed},
+                                  {"F:\\", DriveKind::Network},     {"G:\\", DriveKind::MemoryDisk},
+                                  {"H:\\", DriveKind::Fixed}};
+    tool.Start();
+    for (const char* drive : {"A", "C", "D", "F", "G", "H"}) {
+        File(std::string(drive) + ":\\x.tmp");
+    }
+    frame.drvSelect.SetDrive("D:\\");
+    Tick(frame.chkScanAll);
+    // E: is a disk that has gone.
+    CHECK(Found() == Lines{"c:\\x.tmp", "h:\\x.tmp"});
+    CHECK(machine.messages.Shown().empty());
+}
+
+TEST_CASE_FIXTURE(Fixture, "failures of the drives are passed over, whatever their number") {
+    File("C:\\x.tmp");
+    Tick(frame.chkScanAll);
+    for (int number : {5, 70}) {
+        machine.faults.FailOn("c:\\", number);
+        disk.MakeFolder("D:\\Win\\Temp");
+        machine.facts.windowsDirectory = "D:\\Win";
+        CHECK(Found().empty());
+        machine.faults.Clear();
+    }
+    CHECK(machine.messages.Shown().empty());
+}

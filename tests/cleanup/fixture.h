@@ -1,0 +1,72 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cleanup/tempfiles.h"
+#include "platform/messages.h"
+#include "platform/simulated/machine.h"
+#include "runtime/failure.h"
+#include "toolkit/form.h"
+
+namespace cleanup_test {
+
+using Lines = std::vector<std::string>;
+
+// The number of the failure that the action throws, 0 when it throws none.
+template <typename Action>
+int NumberOf(Action action) {
+    try {
+        action();
+    } catch (const runtime::Failure& failure) {
+        return failure.number;
+    }
+    return 0;
+}
+
+// The frame on a form, and a disk C: with a folder of Windows that is empty but for its Temp.
+struct Fixture {
+    platform::simulated::Machine machine;
+    platform::simulated::Disk& disk = machine.disk;
+    toolkit::Form form{machine.forms, "frmMain", "Quillmore", {}};
+    cleanup::TempFiles tool{form, machine.services};
+    cleanup::TempFilesFrame& frame = tool.Frame();
+    toolkit::ListView& list = frame.lvwFiles;
+
+    Fixture() {
+        machine.facts.tempPath = "C:\\UserTemp\\";
+        disk.MakeFolder("C:\\WINDOWS\\Temp");
+        form.Load();
+        tool.Start();
+        machine.journal.Clear();
+    }
+
+    void Tick(toolkit::CheckBox& box) { box.SetValue(1); }
+    void Search() { frame.cmdSearchTempFiles.Press(); }
+    void Clean(int answer = platform::message::Yes) {
+        machine.messages.Answer("Tempdateien löschen", answer);
+        frame.cmdCleanTempFiles.Press();
+    }
+
+    platform::simulated::DiskNode& File(const std::string& path, std::uint32_t attributes = 32,
+                                        const std::string& content = "x") {
+        auto& node = disk.MakeFile(path, attributes);
+        node.content = content;
+        return node;
+    }
+
+    Lines Column(int column) const {
+        Lines texts;
+        for (int row = 0; row < list.Count(); ++row) texts.push_back(list.Text(row, column));
+        return texts;
+    }
+    Lines Rows() const { return Column(cleanup::column::Path); }
+
+    // What a search finds on drive C: with nothing ticked.
+    Lines Found() {
+        Search();
+        return Rows();
+    }
+};
+
+}  // namespace cleanup_test

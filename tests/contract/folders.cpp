@@ -1,0 +1,183 @@
+#include "platform/folders.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+
+#include "contract/machine.h"
+#include "platform/files.h"
+#include "runtime/failure.h"
+
+namespace {
+
+using platform::FolderEntry;
+
+struct Fixture {
+    contract::TestMachine machine;
+    platform::Folders& folders = machine.Services().folders;
+    const std::string top = machine.FilePath("top");
+
+    Fixture() { machine.MakeFolder(top); }
+
+    std::string In(std::string_view name) const { return top + '\\' + std::string(name); }
+    void Put(std::string_view path, std::string_view bytes) {
+        machine.Services().files.WriteText(path, bytes);
+    }
+    template <typename Statement>
+    int NumberOf(Statement&& statement) {
+        try {
+            statement();
+        } catch (const runtime::Failure& failure) {
+            return failure.number;
+        }
+        return 0;
+    }
+    std::optional<FolderEntry> Listed(std::string_view name) {
+        const auto entries = folders.List(top);
+        const auto found = std::find_if(entries.begin(), entries.end(),
+                                        [&](const auto& entry) { return entry.name == name; });
+        if (found == entries.end()) return std::nullopt;
+        return *found;
+    }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "an empty folder lists nothing, not even the dots") {
+    CHECK(folders.List(top).empty());
+}
+
+TEST_CASE_FIXTURE(Fixture, "files and folders are listed as they are spelled, with their sizes") {
+    Put(In("Größe.TMP"), "12345");
+    Put(In("empty"), "");
+    machine.MakeFolder(In("Ünter"));
+    CHECK(folders.List(top).size() == 3);
+    REQUIRE(Listed("Größe.TMP"));
+    CHECK(Listed("Größe.TMP")->size == 5);
+    CHECK_FALSE(Listed("Größe.TMP")->IsFolder());
+    REQUIRE(Listed("empty"));
+    CHECK(Listed("empty")->size == 0);
+    REQUIRE(Listed("Ünter"));
+    CHECK(Listed("Ünter")->IsFolder());
+    CHECK(Listed("Ünter")->size == 0);
+    CHECK_FALSE(Listed("Ünter")->IsLink());
+}
+
+TEST_CASE_FIXTURE(Fixture, "a backslash behind the path changes nothing") {
+    Put(In("a"), "1");
+    CHECK(folders.List(top + '\\').size() == 1);
+}
+
+TEST_CASE_FIXTURE(Fixture, "attributes are told by the listing and by the look at one, all alike") {
+    for (const std::uint32_t attributes : {32u, 33u, 34u, 35u, 36u, 37u, 38u, 39u}) {
+        const std::string name = "f" + std::to_string(attributes);
+        Put(In(name), "x");
+        machine.SetAttributes(In(name), attributes);
+        CAPTURE(attributes);
+        REQUIRE(Listed(name));
+        CHECK(Listed(name)->attributes == attributes);
+        REQUIRE(folders.Find(In(name)));
+        CHECK(folders.Find(In(name))->attributes == attributes);
+        machine.SetAttributes(In(name), 32);
+    }
+}
+
+TEST_CASE_FIXTURE(Fixture, "a hidden system folder is told as 22") {
+    machine.MakeFolder(In("h"));
+    machine.SetAttributes(In("h"), 16 | 2 | 4);
+    CHECK(Listed("h")->attributes == 22);
+    CHECK(folders.List(In("h")).empty());
+}
+
+TEST_CASE_FIXTURE(Fixture, "a look at one tells what the listing tells, by the path asked for") {
+    Put(In("a.dat"), "123");
+    const auto found = folders.Find(In("A.DAT"));
+    REQUIRE(found);
+    CHECK(found->name == In("A.DAT"));
+    CHECK(found->size == 3);
+    CHECK(found->modified == Listed("a.dat")->modified);
+    CHECK(found->modified.year >= 2004);
+    CHECK(folders.Find(top)->IsFolder());
+    CHECK(folders.Find(In("absent")) == std::nullopt);
+    CHECK(folders.Find(In("absent\\a")) == std::nullopt);
+    CHECK(folders.Find("") == std::nullopt);
+}
+
+TEST_CASE_FIXTURE(Fixture, "what is no folder cannot be listed: absent, a file, nothing") {
+    Put(In("file"), "x");
+    CHECK(NumberOf([&] { folders.List(In("absent")); }) == runtime::PathNotFound);
+    CHECK(NumberOf([&] { folders.List(In("absent\\deeper")); }) == runtime::PathNotFound);
+    CHECK(NumberOf([&] { folders.List(In("file")); }) == runtime::PathNotFound);
+    CHECK(NumberOf([&] { folders.List("Q:\\"); }) == runtime::PathNotFound);
+    CHECK(NumberOf([&] { folders.List(""); }) == runtime::PathNotFound);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a path that leaves no room for a search is not found") {
+    std::string path = top;
+    while (path.size() < 246) {
+        path += "\\" + std::string(std::min<std::size_t>(10, 250 - path.size()), 'x');
+        machine.MakeFolder(path);
+    }
+    CHECK(NumberOf([&] { folders.List(path); }) == 0);
+    path += "\\" + std::string(257 - path.size(), 'y');
+    REQUIRE(path.size() == 258);
+    CHECK(NumberOf([&] { folders.List(path); }) == runtime::PathNotFound);
+    CHECK(folders.Find(path + "zz") == std::nullopt);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a folder that is in other hands may not be read") {
+    machine.MakeFolder(In("held"));
+    Put(In("held\\a"), "x");
+    machine.WithUnreadable(In("held"), [&] {
+        CHECK(NumberOf([&] { folders.List(In("held")); }) == runtime::PermissionDenied);
+        CHECK(Listed("held"));
+    });
+    CHECK(folders.List(In("held")).size() == 1);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a full path has no dots and starts at a drive") {
+    CHECK(folders.FullPath(top) == top);
+    CHECK(folders.FullPath("") == "");
+    CHECK(folders.FullPath("\\").substr(1) == ":\\");
+    CHECK(folders.FullPath("\\Temp").substr(1) == ":\\Temp");
+}
+
+TEST_CASE_FIXTURE(Fixture, "an empty folder is removed, a full one, a file and an absent one not") {
+    machine.MakeFolder(In("a"));
+    Put(In("a\\file"), "x");
+    CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
+    CHECK(NumberOf([&] { folders.Remove(In("a\\file"), true); }) == runtime::PermissionDenied);
+    CHECK(machine.FileContent(In("a\\file")) == "x");
+    machine.Services().files.Remove(In("a\\file"), true);
+    folders.Remove(In("a"), false);
+    CHECK_FALSE(folders.Find(In("a")));
+    CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PathNotFound);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a read-only folder is removed with force") {
+    machine.MakeFolder(In("a"));
+    machine.SetAttributes(In("a"), 16 | 1);
+    folders.Remove(In("a"), true);
+    CHECK_FALSE(folders.Find(In("a")));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a link to a folder is told as one and lists what it leads to") {
+    machine.MakeFolder(In("target"));
+    Put(In("target\\a"), "x");
+    machine.MakeLink(In("link"), In("target"));
+    REQUIRE(Listed("link"));
+    CHECK(Listed("link")->IsFolder());
+    CHECK(Listed("link")->IsLink());
+    CHECK(folders.Find(In("link"))->IsLink());
+    CHECK_FALSE(folders.Find(In("target"))->IsLink());
+    CHECK(folders.List(In("link")).size() == 1);
+    CHECK_FALSE(folders.Find(In("link\\a"))->IsLink());
+}
+
+TEST_CASE_FIXTURE(Fixture, "what a link leads to is not removed with it") {
+    machine.MakeFolder(In("target"));
+    Put(In("target\\a"), "x");
+    machine.MakeLink(In("link"), In("target"));
+    NumberOf([&] { folders.Remove(In("link"), true); });
+    CHECK(machine.FileContent(In("target\\a")) == "x");
+}

@@ -1,0 +1,76 @@
+#include "platform/systemclock.h"
+
+#include <doctest/doctest.h>
+
+#include <cstdlib>
+
+#include "contract/machine.h"
+#include "runtime/failure.h"
+
+namespace {
+
+using platform::LocalTime;
+
+constexpr LocalTime Moment{2026, 11, 21, 16, 5, 9};
+
+struct Fixture {
+    contract::TestMachine machine;
+    platform::SystemClock& clock = machine.NotingClock();
+
+    LocalTime Told() {
+        REQUIRE(machine.ClockSettings().size() == 1);
+        return machine.ClockSettings().front().moment;
+    }
+    // Of two moments the distance in seconds on the dial, whatever their days.
+    static int DialDistance(const LocalTime& left, const LocalTime& right) {
+        constexpr int Day = 86400;
+        const auto seconds = [](const LocalTime& time) {
+            return (time.hour * 60 + time.minute) * 60 + time.second;
+        };
+        const int distance = std::abs(seconds(left) - seconds(right));
+        return distance < Day / 2 ? distance : Day - distance;
+    }
+    template <typename Set>
+    int FailureOf(Set set) {
+        try {
+            set();
+        } catch (const runtime::Failure& failure) {
+            return failure.number;
+        }
+        return 0;
+    }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "a moment in UTC is set as a whole") {
+    clock.SetSystemTime(Moment);
+    CHECK(machine.ClockSettings() == std::vector<contract::ClockSetting>{{true, Moment}});
+}
+
+TEST_CASE_FIXTURE(Fixture, "the local date is set with the time of day that it is") {
+    const LocalTime before = machine.Services().clock.Now();
+    clock.SetLocalDate(Moment);
+    CHECK_FALSE(machine.ClockSettings().front().system);
+    CHECK(Told().year == 2026);
+    CHECK(Told().month == 11);
+    CHECK(Told().day == 21);
+    CHECK(DialDistance(Told(), before) < 30);
+}
+
+TEST_CASE_FIXTURE(Fixture, "the local time is set with the date that it is") {
+    const LocalTime before = machine.Services().clock.Now();
+    clock.SetLocalTime(Moment);
+    CHECK_FALSE(machine.ClockSettings().front().system);
+    CHECK(DialDistance(Told(), Moment) == 0);
+    CHECK(Told().year - before.year <= 1);
+    const LocalTime after = machine.Services().clock.Now();
+    CHECK((Told().day == before.day || Told().day == after.day));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a refused date or time is a failure, a refused moment in UTC is not") {
+    machine.RefuseClock();
+    CHECK(FailureOf([&] { clock.SetLocalDate(Moment); }) == 70);
+    CHECK(FailureOf([&] { clock.SetLocalTime(Moment); }) == 70);
+    CHECK(FailureOf([&] { clock.SetSystemTime(Moment); }) == 0);
+}

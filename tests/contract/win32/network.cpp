@@ -1,0 +1,132 @@
+#include "platform/win32/network.h"
+
+#include <doctest/doctest.h>
+#include <lm.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "contract/machine.h"
+
+namespace {
+
+using platform::TimeOfDay;
+using platform::win32::Network;
+
+// Stands for a call that Wine does not have.
+constexpr DWORD NoSuchFunction = 0x80000100;
+
+std::wstring asked;
+TIME_OF_DAY_INFO told = {};
+DWORD answer = 0;
+void* given = nullptr;
+void* freed = nullptr;
+int frees = 0;
+
+DWORD WINAPI AskTime(LPCWSTR server, LPBYTE* buffer) {
+    asked = server;
+    *buffer = nullptr;
+    if (answer != 0) return answer;
+    NetApiBufferAllocate(sizeof told, &given);
+    *buffer = static_cast<BYTE*>(given);
+    *reinterpret_cast<TIME_OF_DAY_INFO*>(given) = told;
+    return 0;
+}
+
+DWORD WINAPI Free(LPVOID buffer) {
+    ++frees;
+    freed = buffer;
+    return NetApiBufferFree(buffer);
+}
+
+struct Fixture {
+    Network network{AskTime, Free};
+
+    Fixture() {
+        asked = L"?";
+        answer = 0;
+        frees = 0;
+        told = {.tod_elapsedt = 1,
+                .tod_msecs = 2,
+                .tod_hours = 23,
+                .tod_mins = 59,
+                .tod_secs = 58,
+                .tod_hunds = 3,
+                .tod_timezone = -330,
+                .tod_tinterval = 310,
+                .tod_day = 31,
+                .tod_month = 12,
+                .tod_year = 2004,
+                .tod_weekday = 5};
+    }
+};
+
+// The real call in a thread of its own, which ends with the exception by which Wine says that it
+// has no such function.
+LONG CALLBACK EndThread(EXCEPTION_POINTERS* exception) {
+    const DWORD code = exception->ExceptionRecord->ExceptionCode;
+    if (code == NoSuchFunction) ExitThread(code);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+DWORD WINAPI AskReally(void* time) {
+    const auto own = Network().RemoteTimeOfDay("");
+    if (!own) return 1;
+    *static_cast<TimeOfDay*>(time) = *own;
+    return 0;
+}
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "what a computer tells is taken from its record, which is given back") {
+    CHECK(network.RemoteTimeOfDay("\\\\Büro-Süd") == TimeOfDay{.hours = 23,
+                                                               .minutes = 59,
+                                                               .seconds = 58,
+                                                               .timezone = -330,
+                                                               .day = 31,
+                                                               .month = 12,
+                                                               .year = 2004});
+    CHECK((asked == L"\\\\B\u00FCro-S\u00FCd"));
+    CHECK(frees == 1);
+    CHECK(freed == given);
+}
+
+TEST_CASE_FIXTURE(Fixture, "this computer is asked by an empty name") {
+    CHECK(network.RemoteTimeOfDay(""));
+    CHECK(asked.empty());
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a computer that answers with a code tells nothing and gives no record") {
+    for (DWORD code : {5u, 50u, 53u, 1722u}) {
+        answer = code;
+        CHECK_FALSE(network.RemoteTimeOfDay("\\\\niemand"));
+    }
+    CHECK(frees == 0);
+}
+
+TEST_CASE("the real call tells this computer's time, or the system has no such call") {
+    TimeOfDay time;
+    void* handler = AddVectoredExceptionHandler(1, EndThread);
+    const HANDLE thread = CreateThread(nullptr, 0, AskReally, &time, 0, nullptr);
+    CHECK(WaitForSingleObject(thread, 20000) == WAIT_OBJECT_0);
+    DWORD code = 1;
+    GetExitCodeThread(thread, &code);
+    CloseHandle(thread);
+    RemoveVectoredExceptionHandler(handler);
+    if (code == NoSuchFunction) {
+        MESSAGE("this system has no NetRemoteTOD");
+        return;
+    }
+    REQUIRE(code == 0);
+    SYSTEMTIME now = {};
+    GetSystemTime(&now);
+    CHECK(std::abs(static_cast<int>(time.year) - now.wYear) <= 1);
+    CHECK(std::abs(static_cast<int>(time.minutes) - now.wMinute) % 59 <= 1);
+}
+
+TEST_CASE("the system can be asked for its dial-up connections and has none here") {
+    std::uint32_t count = 7;
+    CHECK(Network().CountDialUpConnections(count) == 0);
+    CHECK(count == 0);
+}

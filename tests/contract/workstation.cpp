@@ -1,0 +1,52 @@
+#include "platform/workstation.h"
+
+#include <doctest/doctest.h>
+
+#include "contract/machine.h"
+#include "platform/systeminformation.h"
+#include "runtime/text.h"
+
+namespace {
+
+using platform::Workstation;
+
+// Wine's answer to whatever it is asked.
+constexpr std::uint32_t InvalidParameter = 87;
+
+struct Place {
+    contract::TestMachine machine;
+    Workstation& workstation = machine.Services().workstation;
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Place, "this computer tells who is logged on to it, in a buffer to give back") {
+    const auto name = machine.Services().information.ComputerName();
+    REQUIRE(name);
+    platform::UserEnumeration enumeration;
+    const std::uint32_t code = workstation.EnumerateUsers("\\\\" + *name, enumeration);
+    if (code == InvalidParameter) {
+        MESSAGE("this system has no workstation service");
+        CHECK(enumeration.users.empty());
+        CHECK(enumeration.buffer == 0);
+        return;
+    }
+    REQUIRE(code == Workstation::Success);
+    REQUIRE_FALSE(enumeration.users.empty());
+    CHECK(enumeration.users[0].wkui1_username == "Besitzer");
+    REQUIRE(enumeration.buffer != 0);
+    workstation.FreeBuffer(enumeration.buffer);
+}
+
+TEST_CASE_FIXTURE(Place, "a code's text stands before a NUL in a buffer of 256 characters") {
+    const std::string buffer = workstation.SystemMessage(5);
+    CHECK(runtime::Length(buffer) == 256);
+    const std::string text = buffer.substr(0, buffer.find('\0'));
+    CHECK(text.ends_with("\r\n"));
+    CHECK(text.find("erweiger") != std::string::npos);
+    CHECK(buffer.substr(text.size() + 1) == std::string(buffer.size() - text.size() - 1, ' '));
+}
+
+TEST_CASE_FIXTURE(Place, "a code without a text leaves 256 blanks") {
+    CHECK(workstation.SystemMessage(0x1FFFFFFF) == std::string(256, ' '));
+}

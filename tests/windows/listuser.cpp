@@ -1,0 +1,265 @@
+// What the user does with a list view, and scripts in the user's place.
+#include <doctest/doctest.h>
+
+#include "runtime/failure.h"
+#include "windows/listfixture.h"
+
+using namespace windows;
+
+namespace {
+
+struct Heard : ListFixture {
+    explicit Heard(toolkit::ListViewStyle style = {.checkBoxes = true}) : ListFixture(style) {
+        list.onClick = [this] { Note("click " + std::to_string(list.SelectedRow())); };
+        list.onDoubleClick = [this] { Note("twice " + std::to_string(list.SelectedRow())); };
+        list.onRightButton = [this] { Note("right " + std::to_string(list.SelectedRow())); };
+        list.onColumnClick = [this](int column) { Note("column " + std::to_string(column)); };
+        list.onKeyDown = [this](int key) { Note("key " + std::to_string(key)); };
+        Fill(3);
+        ServeQueue();
+        SetFocus(window);
+    }
+
+    void Note(std::string what) { heard.push_back(std::move(what)); }
+
+    void Press(WPARAM key) const {
+        Send(WM_KEYDOWN, key);
+        Send(WM_KEYUP, key);
+    }
+
+    std::vector<std::string> heard;
+};
+
+// A script's way to a state of a row, or of all.
+void SetState(const ListFixture& f, int row, UINT state, UINT mask) {
+    LVITEMW item{};
+    item.state = state;
+    item.stateMask = mask;
+    f.Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+using Events = std::vector<std::string>;
+
+}  // namespace
+
+TEST_CASE("a click on a row's box ticks it and unticks it again, and selects nothing") {
+    Heard f;
+    REQUIRE(f.BoxOf(1) != 0);
+    f.Click(f.BoxOf(1));
+    CHECK(f.list.Ticked(1));
+    CHECK(f.ShownTicked(1));
+    CHECK_FALSE(f.list.Ticked(0));
+    f.Click(f.BoxOf(1));
+    CHECK_FALSE(f.list.Ticked(1));
+    CHECK_FALSE(f.ShownTicked(1));
+    CHECK(f.heard.empty());
+}
+
+TEST_CASE("a list without boxes has none to click") {
+    Heard f(toolkit::ListViewStyle{});
+    CHECK(f.BoxOf(1) == 0);
+    f.Press(VK_SPACE);
+    CHECK_FALSE(f.list.Ticked(0));
+}
+
+TEST_CASE("a click on a row's text selects it and leaves its tick") {
+    Heard f;
+    f.Click(f.TextOf(1));
+    CHECK(f.list.SelectedRow() == 1);
+    CHECK_FALSE(f.list.Ticked(1));
+    CHECK(f.heard == Events{"click 1"});
+    f.Click(f.TextOf(2));
+    CHECK(f.list.SelectedRow() == 2);
+    CHECK_FALSE(f.list.Selected(1));
+    CHECK(f.heard == Events{"click 1", "click 2"});
+}
+
+TEST_CASE("a click beside the rows is none on a row") {
+    Heard f;
+    RECT client{};
+    GetClientRect(f.window, &client);
+    f.Click(MAKELPARAM(20, client.bottom - 10));
+    CHECK(f.heard.empty());
+}
+
+TEST_CASE("the space bar ticks the row with the focus") {
+    Heard f;
+    f.Click(f.TextOf(2));
+    f.Press(VK_SPACE);
+    CHECK(f.list.Ticked(2));
+    f.Press(VK_SPACE);
+    CHECK_FALSE(f.list.Ticked(2));
+}
+
+TEST_CASE("the arrow keys go from row to row, and each counts as a click") {
+    Heard f;
+    f.Click(f.TextOf(0));
+    f.Press(VK_DOWN);
+    CHECK(f.list.SelectedRow() == 1);
+    f.Press(VK_END);
+    CHECK(f.list.SelectedRow() == 2);
+    f.Press(VK_END);
+    CHECK(f.heard == Events{"click 0", "key 40", "click 1", "key 35", "click 2", "key 35"});
+}
+
+TEST_CASE("letters go to the next row that begins with them") {
+    Heard f;
+    f.list.AddRow("Änderung");
+    f.Send(WM_CHAR, L'ä', 1);
+    CHECK(f.list.SelectedRow() == 3);
+    f.list.Clear();
+    f.Send(WM_CHAR, L'x', 1);
+    CHECK(f.list.SelectedRow() == toolkit::ListView::NoRow);
+}
+
+TEST_CASE("a click on a header tells its column, counted from 0") {
+    Heard f;
+    f.ClickHeader(0);
+    f.ClickHeader(2);
+    CHECK(f.heard == Events{"column 0", "column 2"});
+}
+
+TEST_CASE("the right button selects the row under it and is heard then") {
+    Heard f;
+    f.Send(WM_RBUTTONDOWN, MK_RBUTTON, f.TextOf(1));
+    f.Send(WM_RBUTTONUP, 0, f.TextOf(1));
+    CHECK(f.heard == Events{"right 1"});
+}
+
+TEST_CASE("the key of the context menu is heard like the right button") {
+    Heard f;
+    f.Click(f.TextOf(1));
+    f.heard.clear();
+    f.Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(f.window), -1);
+    CHECK(f.heard == Events{"right 1"});
+}
+
+TEST_CASE("the right button is heard on an empty list too") {
+    Heard f;
+    f.list.Clear();
+    f.Send(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(50, 60));
+    CHECK(f.heard == Events{"right -1"});
+}
+
+TEST_CASE("a double click on a row is heard, on its box it ticks twice") {
+    Heard f;
+    const auto twice = [&](LPARAM at) {
+        f.Click(at);
+        f.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, at);
+        f.Send(WM_LBUTTONUP, 0, at);
+    };
+    twice(f.TextOf(1));
+    CHECK(f.heard == Events{"click 1", "twice 1"});
+    twice(f.BoxOf(2));
+    CHECK_FALSE(f.list.Ticked(2));
+    CHECK(f.heard.size() == 2);
+}
+
+TEST_CASE("several rows are selected with the control and shift keys") {
+    Heard f(toolkit::ListViewStyle{.multiSelect = true});
+    f.list.AddRow("Datei 3");
+    const auto hold = [](BYTE key, bool down) {
+        BYTE keys[256] = {};
+        GetKeyboardState(keys);
+        keys[key] = down ? 0x80 : 0;
+        SetKeyboardState(keys);
+    };
+    const auto selected = [&] {
+        std::string rows;
+        for (int row = 0; row < f.list.Count(); ++row) {
+            CHECK(f.list.Selected(row) == f.ShownSelected(row));
+            rows += f.list.Selected(row) ? 'x' : '-';
+        }
+        return rows;
+    };
+    f.Click(f.TextOf(0));
+    CHECK(selected() == "x---");
+    hold(VK_CONTROL, true);
+    f.Click(f.TextOf(2), MK_CONTROL);
+    CHECK(selected() == "x-x-");
+    CHECK(f.list.SelectedRow() == 2);
+    f.Click(f.TextOf(0), MK_CONTROL);
+    CHECK(selected() == "--x-");
+    hold(VK_CONTROL, false);
+    f.Click(f.TextOf(1));
+    CHECK(selected() == "-x--");
+    hold(VK_SHIFT, true);
+    f.Click(f.TextOf(3), MK_SHIFT);
+    CHECK(selected() == "-xxx");
+    hold(VK_SHIFT, false);
+    f.Click(f.TextOf(2));
+    CHECK(selected() == "--x-");
+}
+
+TEST_CASE("a script ticks one row or all as in any list of the class") {
+    Heard f;
+    SetState(f, 1, INDEXTOSTATEIMAGEMASK(2), LVIS_STATEIMAGEMASK);
+    CHECK(f.list.Ticked(1));
+    CHECK_FALSE(f.list.Ticked(0));
+    SetState(f, -1, INDEXTOSTATEIMAGEMASK(2), LVIS_STATEIMAGEMASK);
+    CHECK(f.list.Ticked(0));
+    CHECK(f.list.Ticked(2));
+    SetState(f, 2, INDEXTOSTATEIMAGEMASK(1), LVIS_STATEIMAGEMASK);
+    CHECK_FALSE(f.list.Ticked(2));
+    SetState(f, 99, INDEXTOSTATEIMAGEMASK(2), LVIS_STATEIMAGEMASK);
+}
+
+TEST_CASE("a script selects one row or all") {
+    Heard f(toolkit::ListViewStyle{.multiSelect = true});
+    SetState(f, 1, LVIS_SELECTED, LVIS_SELECTED);
+    CHECK(f.list.SelectedRow() == 1);
+    SetState(f, -1, LVIS_SELECTED, LVIS_SELECTED);
+    CHECK(f.list.Selected(0));
+    CHECK(f.list.Selected(2));
+    SetState(f, -1, 0, LVIS_SELECTED);
+    CHECK(f.list.SelectedRow() == toolkit::ListView::NoRow);
+}
+
+TEST_CASE("an event of a list may unload its form") {
+    Heard f;
+    const auto unload = [&] { f.form.Unload(); };
+    SUBCASE("click") {
+        f.list.onClick = unload;
+        f.Click(f.TextOf(1));
+    }
+    SUBCASE("double click") {
+        f.list.onDoubleClick = unload;
+        f.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, f.TextOf(1));
+    }
+    SUBCASE("right button") {
+        f.list.onRightButton = unload;
+        f.Send(WM_RBUTTONDOWN, MK_RBUTTON, f.TextOf(1));
+    }
+    SUBCASE("key") {
+        f.list.onKeyDown = [&](int) { unload(); };
+        f.Press(VK_DELETE);
+    }
+    SUBCASE("arrow") {
+        f.list.onClick = unload;
+        f.Press(VK_DOWN);
+    }
+    SUBCASE("header") {
+        f.list.onColumnClick = [&](int) { unload(); };
+        f.ClickHeader(1);
+    }
+    CHECK_FALSE(f.form.Loaded());
+}
+
+TEST_CASE("an event of a list that fails ends in the default message") {
+    Heard f;
+    f.list.onColumnClick = [](int) { throw runtime::Failure(runtime::Overflow); };
+    f.ClickHeader(1);
+    CHECK(f.desk.messages.texts.size() == 1);
+}
+
+TEST_CASE("an event of a list may empty and fill it anew") {
+    Heard f;
+    f.list.onKeyDown = [&](int) {
+        f.list.Clear();
+        f.Fill(2);
+    };
+    f.Click(f.TextOf(2));
+    f.Press(VK_DELETE);
+    CHECK(f.Send(LVM_GETITEMCOUNT) == 2);
+    CHECK(f.list.SelectedRow() == toolkit::ListView::NoRow);
+}
