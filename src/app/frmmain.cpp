@@ -60,7 +60,7 @@ frmMain::frmMain(const platform::Machine& machine)
                                   .shutdown = [this] { DoShutdown(); },
                                   .end = [this] { Unload(); }})) {
     isDialog = false;
-    toolkit::Box pages = AddPages(*this, machine_, launchers_);
+    toolkit::Box pages = AddPages(*this, machine_, launchers_, cleanUp_);
     toolkit::Box buttons = AddWindowButtons(*this, machine_);
     SetLayout(toolkit::Margin(
         toolkit::Gap(toolkit::Column({Stretch(std::move(pages)), std::move(buttons)}), 8), 8));

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/errorlog.h"
+#include "cleanup/cleanuppage.h"
 #include "controls/frmabout.h"
 #include "controls/frmpassword.h"
 #include "platform/machine.h"
@@ -42,6 +44,8 @@ class frmMain final : public toolkit::Form {
     void DoShutdown();
     void LockStation();
 
+    cleanup::CleanUpPage& CleanUp() { return *cleanUp_; }
+
     // Builds strVersion and puts it into the caption.
     void BuildVersion();
     const std::string& strVersion() const { return version_; }
@@ -68,6 +72,7 @@ class frmMain final : public toolkit::Form {
     utilities::Launchers launchers_;
     tweaks::Passes passes_;
     timesync::Synchronization synchronization_;
+    std::optional<cleanup::CleanUpPage> cleanUp_;
     controls::frmPassword password_;
     controls::frmAbout about_;
     utilities::frmSystemInformation systemInformation_;

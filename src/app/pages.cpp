@@ -17,19 +17,10 @@
 #include "utilities/shortcutspage.h"
 
 namespace app {
-namespace {
-
-using controls::PageHeading;
 using toolkit::Box;
 
-Box HeadingOnly(frmMain& form, const char* name, const char* caption) {
-    return toolkit::Column({PageHeading(form, name, caption), toolkit::Filler()});
-}
-
-}  // namespace
-
-Box AddPages(frmMain& form, const platform::Machine& machine,
-             const utilities::Launchers& launchers) {
+Box AddPages(frmMain& form, platform::Machine& machine, const utilities::Launchers& launchers,
+             std::optional<cleanup::CleanUpPage>& cleanUp) {
     auto& tabs = form.Add<toolkit::TabStrip>(
         "SSTab1", std::vector<std::string>{" System", " Tweaks", " Pfade", " CleanUp", "Sicherheit",
                                            " DFÜ", " Shortcuts", " Utilities"});
@@ -38,7 +29,9 @@ Box AddPages(frmMain& form, const platform::Machine& machine,
     pages.push_back(tweaks::AddSystemPage(form, machine));
     pages.push_back(tweaks::AddTweaksPage(form, machine));
     pages.push_back(tweaks::AddPathsPage(form, machine));
-    pages.push_back(HeadingOnly(form, "lblIECache", "CleanUp"));
+    Box heading = controls::PageHeading(form, "lblIECache", "CleanUp");
+    pages.push_back(
+        toolkit::Column({std::move(heading), Stretch(cleanUp.emplace(form, machine).Layout())}));
     pages.push_back(tweaks::AddSecurityPage(form, machine));
     pages.push_back(tweaks::AddNetworkPage(form, machine));
     pages.push_back(utilities::AddShortcutsPage(form));

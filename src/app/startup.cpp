@@ -146,12 +146,17 @@ void StartUp(frmMain& form, const platform::Machine& machine) {
     Skip([&] { form.Find<toolkit::TextBox>("txtLevelValue").SetText("255"); });
     Skip([&] { form.BuildVersion(); });
     Skip([&] { form.ReadRegistry(); });
+    cleanup::CleanUpPage& cleanUp = form.CleanUp();
+    Skip([&] { cleanUp.internetCache.Fill(); });
     RestoreProgramOptions(form, machine);
     Skip([&] { ShowServicePack(form, machine); });
     Skip([&] {
         form.Find<toolkit::TextBox>("txtSyncServer")
             .SetText(settings.GetSetting("Options", "ServerName"));
     });
+    Skip([&] { cleanUp.tempFiles.Start(); });
+    cleanUp.tempFiles.ShowDriveSpace();
+    cleanUp.internetCache.EnableClear();
     RestoreTab(form, machine, settings);
     ChooseTimeSource(form, settings);
     tweaks::MarkNetworkSet(form, machine.locale.Signs());

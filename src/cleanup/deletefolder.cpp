@@ -1,6 +1,7 @@
 #include "cleanup/deletefolder.h"
 
 #include "cleanup/folderobjects.h"
+#include "cleanup/pathnames.h"
 #include "platform/files.h"
 #include "runtime/failure.h"
 
@@ -18,6 +19,7 @@ void Take(platform::Folders& folders, platform::Files& files, const std::string&
     if (!folder->IsLink()) {
         for (const platform::FolderEntry& entry : folders.List(path)) {
             const std::string inside = PathIn(path, entry.name);
+            if (!IsTakenLiterally(inside)) throw runtime::Failure(runtime::PermissionDenied);
             if (entry.IsFolder()) {
                 Take(folders, files, inside, what);
             } else if (what == What::All || entry.IsLink()) {

@@ -47,7 +47,7 @@ void FolderWalk::ScanFolder(const Folder& folder, bool addAll) {
     machine_.forms.DoEvents();
     if (StopWanted()) return;
     if (AttributesHideFolder(folder.attributes) || rules_->IsExcludedFolder(folder.path)) return;
-    if (folder.attributes & platform::attribute::Link) links_.Add(folder.path);
+    if (folder.attributes & platform::attribute::Link) links_.Add(machine_.folders, folder.path);
     std::vector<FolderEntry> entries;
     runtime::Skip([&] { entries = machine_.folders.List(folder.path); });
     for (const FolderEntry& entry : entries) {

@@ -1,28 +1,27 @@
 #pragma once
 
-#include <set>
+#include <map>
 #include <string>
 
-namespace platform {
-class Folders;
-}
+#include "platform/folders.h"
 
 namespace cleanup {
 
 // The links to folders that a search went through. What was listed behind one of them lies there
-// still; behind a link that has come since lies something that nobody has seen, let alone ticked.
+// still; behind a link that has come or changed since lies something that nobody has seen, let
+// alone ticked.
 class KnownLinks {
   public:
-    void Clear() { paths_.clear(); }
-    void Add(const std::string& path) { paths_.insert(path); }
-    // Those among the folders above the path.
-    void AddAbove(const platform::Folders& folders, const std::string& path);
+    void Clear() { links_.clear(); }
+    // The path itself and the folders above it, those of them that are links.
+    void Add(const platform::Folders& folders, const std::string& path);
 
-    // Whether all links among the folders above the path are known.
+    // Whether all folders above the path can be looked at, and each link among them is known.
     bool LeadTo(const platform::Folders& folders, const std::string& path) const;
 
   private:
-    std::set<std::string> paths_;
+    // As they were seen; a link that is led elsewhere gets another time.
+    std::map<std::string, platform::FolderEntry> links_;
 };
 
 }  // namespace cleanup

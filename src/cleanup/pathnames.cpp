@@ -29,4 +29,14 @@ std::string_view GetExtensionName(std::string_view path) {
     return ExtensionOf(GetFileName(path));
 }
 
+bool IsTakenLiterally(std::string_view path) {
+    if (path.find_first_of("*?") != std::string_view::npos) return false;
+    char before = '\0';
+    for (const char character : path) {
+        if (character == '\\' && (before == '.' || before == ' ')) return false;
+        before = character;
+    }
+    return before != '.' && before != ' ';
+}
+
 }  // namespace cleanup

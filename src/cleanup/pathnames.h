@@ -15,4 +15,8 @@ std::string_view GetExtensionName(std::string_view path);
 // The same of a last part by itself.
 std::string_view ExtensionOf(std::string_view name);
 
+// Whether the system takes each part of the path as it is spelled: it drops dots and blanks behind
+// a part, and the rest may name another file; the shell takes signs for many names at once.
+bool IsTakenLiterally(std::string_view path);
+
 }  // namespace cleanup

@@ -4,7 +4,7 @@
 
 #include "cleanup/deletefolder.h"
 #include "cleanup/drivespacelabels.h"
-#include "cleanup/knownlinks.h"
+#include "cleanup/pathnames.h"
 #include "cleanup/recyclebin.h"
 #include "cleanup/tempfilesframe.h"
 #include "platform/files.h"
@@ -87,6 +87,7 @@ bool TempFileRemoval::Confirmed() const {
 
 int TempFileRemoval::RemoveRows() {
     int failed = 0;
+    confirmedLinks_ = links_;
     for (const Row& row : RowsOf(frame_.lvwFiles)) {
         if (row.ticked) {
             if (IsInUse(row.path)) {
@@ -103,7 +104,7 @@ int TempFileRemoval::RemoveRows() {
 }
 
 bool TempFileRemoval::MayTouch(const std::string& path) const {
-    return links_.LeadTo(machine_.folders, path);
+    return IsTakenLiterally(path) && confirmedLinks_.LeadTo(machine_.folders, path);
 }
 
 // What cannot be opened for another reason than that, a folder for instance, is not in use.
@@ -138,14 +139,12 @@ void TempFileRemoval::RemoveFolder(const std::string& path) {
 void TempFileRemoval::MoveToBin(const std::string& path) {
     // The shell takes the path in the code page, and what that lacks turns into a wildcard or into
     // another letter: other files would go.
-    if (path.find_first_of("*?") != std::string::npos ||
-        machine_.locale.FromAnsi(machine_.locale.ToAnsi(path)) != path) {
-        return;
-    }
+    if (machine_.locale.FromAnsi(machine_.locale.ToAnsi(path)) != path) return;
     // The shell of XP goes into links and deletes what they lead to, so they go before.
     const auto entry = machine_.folders.Find(path);
-    if (entry && entry->IsFolder()) DropLinks(machine_.folders, machine_.files, path);
-    if (entry && entry->IsFolder() && entry->IsLink()) return;
+    if (!entry) return;
+    if (entry->IsFolder()) DropLinks(machine_.folders, machine_.files, path);
+    if (entry->IsFolder() && entry->IsLink()) return;
     utilities::ShellDeleteFile(machine_.shell, path, false);
 }
 

@@ -2,13 +2,14 @@
 
 #include <string>
 
+#include "cleanup/knownlinks.h"
+
 namespace platform {
 struct Machine;
 }
 
 namespace cleanup {
 
-class KnownLinks;
 class TempFilesFrame;
 
 // What "Dateien löschen" does with the rows of the list. Nothing but what the rows name is deleted:
@@ -26,6 +27,7 @@ class TempFileRemoval {
     bool Confirmed() const;
     // Returns how many of the ticked files were in use.
     int RemoveRows();
+    // Whether the path still names what the search found there.
     bool MayTouch(const std::string& path) const;
     bool IsInUse(const std::string& path) const;
     void RemoveFile(const std::string& path);
@@ -35,6 +37,8 @@ class TempFileRemoval {
     TempFilesFrame& frame_;
     platform::Machine& machine_;
     const KnownLinks& links_;
+    // As they were when the user confirmed, like the rows.
+    KnownLinks confirmedLinks_;
 };
 
 }  // namespace cleanup

@@ -2,10 +2,10 @@
 
 #include "cleanup/drivespacelabels.h"
 #include "cleanup/recyclebin.h"
-#include "platform/folders.h"
 #include "platform/machine.h"
-#include "runtime/failure.h"
+#include "runtime/text.h"
 #include "utilities/driveentries.h"
+#include "utilities/systemdirectorypaths.h"
 
 namespace cleanup {
 
@@ -17,15 +17,19 @@ TempFiles::TempFiles(toolkit::Form& form, platform::Machine& machine)
     frame_.cmdSearchTempFiles.onClick = [this] { search_.Click(); };
     frame_.cmdCleanTempFiles.onClick = [this] { removal_.Click(); };
     frame_.cmdCleanBinDirect.onClick = [this] { CleanBinDirect(frame_, machine_); };
-    const auto showSpace = [this] { ShowDriveSpace(frame_, machine_); };
+    const auto showSpace = [this] { ShowDriveSpace(); };
     frame_.drvSelect.onChange = showSpace;
     frame_.drvSelect.onScroll = showSpace;
 }
 
 void TempFiles::Start() {
     frame_.drvSelect.SetDrives(utilities::DriveEntries(machine_.information));
-    runtime::Skip([&] { frame_.drvSelect.SetDrive(machine_.folders.FullPath("\\")); });
-    ShowDriveSpace(frame_, machine_);
+    const utilities::clsGetSystemDirectoryPaths directories(machine_.facts);
+    frame_.drvSelect.SetDrive(runtime::Left(directories.WindowsDirectory(), 3));
+}
+
+void TempFiles::ShowDriveSpace() {
+    cleanup::ShowDriveSpace(frame_, machine_);
 }
 
 }  // namespace cleanup

@@ -18,8 +18,10 @@ class TempFiles {
     toolkit::Box Layout() const { return frame_.Layout(); }
     TempFilesFrame& Frame() { return frame_; }
 
-    // At start-up: fills the list of drives, selects the current one and shows its size.
+    // At start-up: fills the list of drives and selects the one that Windows lies on; in a later
+    // step shows its size.
     void Start();
+    void ShowDriveSpace();
 
   private:
     platform::Machine& machine_;

@@ -83,12 +83,15 @@ void TempFileSearch::Collect() {
     }
     // Always, whatever is ticked: these folders lie on the system's drive.
     const utilities::clsGetSystemDirectoryPaths directories(machine_.facts);
-    AddSubFolderRows(directories.WindowsDirectory() + "\\Temp");
+    const std::string windows = directories.WindowsDirectory();
+    // Without it the path would name a folder of whatever drive is the current one.
+    if (!windows.empty()) AddSubFolderRows(windows + "\\Temp");
     runtime::Skip([&] { ScanDrives(); });
 }
 
 void TempFileSearch::ScanDrives() {
     if (frame_.chkScanAll.Value() != 1) {
+        if (frame_.Drive().empty()) return;
         Scan(RootOf(frame_.Drive()), false);
         return;
     }
@@ -105,7 +108,7 @@ void TempFileSearch::ScanDrives() {
 
 void TempFileSearch::Scan(const std::string& path, bool addAll) {
     const Folder folder = GetFolder(machine_.folders, path);
-    links_.AddAbove(machine_.folders, folder.path);
+    links_.Add(machine_.folders, folder.path);
     walk_.ScanFolder(folder, addAll);
 }
 
@@ -113,8 +116,7 @@ void TempFileSearch::AddSubFolderRows(const std::string& path) {
     std::vector<Folder> found;
     SkipMissing([&] {
         const Folder folder = GetFolder(machine_.folders, path);
-        // A row's path leads through the folder itself, too.
-        links_.AddAbove(machine_.folders, PathIn(folder.path, ""));
+        links_.Add(machine_.folders, folder.path);
         found = SubFolders(machine_.folders, folder.path);
     });
     for (const Folder& folder : found) {

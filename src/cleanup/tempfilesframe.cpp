@@ -14,7 +14,7 @@ using toolkit::Label;
 
 TempFilesFrame::TempFilesFrame(toolkit::Form& owner, platform::Machine& machine)
     : form(owner),
-      fraTempFiles(form.Add<toolkit::Frame>("fraTempFiles", "Temporäre Dateien")),
+      Frame8(form.Add<toolkit::Frame>("Frame8", "Temporäre Dateien")),
       chkScanAll(form.Add<CheckBox>("chkScanAll", "Alle lokalen Festplatten scannen")),
       chkDeleteThumbs(
           form.Add<CheckBox>("chkDeleteThumbs", "Bildvorschau Archive (Thumbs.db) löschen")),
@@ -24,19 +24,19 @@ TempFilesFrame::TempFilesFrame(toolkit::Form& owner, platform::Machine& machine)
                                             "Ordner \"Zuletzt verwendete Dokumente \" löschen")),
       chkCleanUserTempFolder(form.Add<CheckBox>(
           "chkCleanUserTempFolder", "Tempverzeichnis des angemeldeten Benutzers säubern")),
-      chkCleanRecycleBin(form.Add<CheckBox>("chkCleanRecycleBin", "Papierkorb leeren")),
       chkMoveToRecycleBin(form.Add<CheckBox>("chkMoveToRecycleBin",
                                              "Gefundene Dateien in den Papierkorb verschieben")),
       drvSelect(form.Add<toolkit::DriveListBox>("drvSelect")),
       lblGesamt(form.Add<Label>("lblGesamt", "")),
       lblFreeDriveSpace(form.Add<Label>("lblFreeDriveSpace", "")),
-      cmdSearchTempFiles(form.Add<chameleonButton>("cmdSearchTempFiles", "Suchen", machine.clock)),
-      cmdCleanTempFiles(
-          form.Add<chameleonButton>("cmdCleanTempFiles", "Dateien löschen", machine.clock)),
-      cmdCleanBinDirect(form.Add<chameleonButton>("cmdCleanBinDirect", "Sofort", machine.clock)),
       lblHinweisTemp(form.Add<Label>("lblHinweisTemp", "")),
       lvwFiles(form.Add<toolkit::ListView>("lvwFiles", toolkit::ListViewStyle{.checkBoxes = true})),
       lblScannedFiles(form.Add<Label>("lblScannedFiles", "", toolkit::LabelStyle::Path)),
+      chkCleanRecycleBin(form.Add<CheckBox>("chkCleanRecycleBin", "Papierkorb leeren")),
+      cmdCleanBinDirect(form.Add<chameleonButton>("cmdCleanBinDirect", "Sofort", machine.clock)),
+      cmdSearchTempFiles(form.Add<chameleonButton>("cmdSearchTempFiles", "Suchen", machine.clock)),
+      cmdCleanTempFiles(
+          form.Add<chameleonButton>("cmdCleanTempFiles", "Dateien löschen", machine.clock)),
       mnuTempFiles{"mnuTempFiles",
                    {{"mnuSelectAll", "Alle markieren", [this] { TickAll(true); }},
                     {"mnuDeselectAll", "Alle Markierungen aufheben", [this] { TickAll(false); }}}},
@@ -78,14 +78,15 @@ void TempFilesFrame::OpenMenu() {
 
 toolkit::Box TempFilesFrame::Layout() const {
     using namespace toolkit;
-    return InFrame(fraTempFiles,
-                   Column({Grid(2, {Leaf(chkScanAll), Leaf(chkDeleteThumbs), Leaf(chkNullByteFiles),
-                                    Leaf(chkRecentDocFolder), Leaf(chkCleanUserTempFolder),
-                                    Leaf(chkMoveToRecycleBin)}),
-                           Row({Leaf(drvSelect), Leaf(lblGesamt), Leaf(lblFreeDriveSpace), Filler(),
-                                Leaf(chkCleanRecycleBin), Leaf(cmdCleanBinDirect)}),
-                           Leaf(lblHinweisTemp), Stretch(Leaf(lvwFiles)), Leaf(lblScannedFiles),
-                           Row({Filler(), Leaf(cmdSearchTempFiles), Leaf(cmdCleanTempFiles)})}));
+    return InFrame(
+        Frame8,
+        Column({Grid(2, {Leaf(chkScanAll), Leaf(chkDeleteThumbs), Leaf(chkNullByteFiles),
+                         Leaf(chkRecentDocFolder), Leaf(chkCleanUserTempFolder),
+                         Leaf(chkMoveToRecycleBin)}),
+                Row({Leaf(drvSelect), Stretch(Leaf(lblGesamt)), Stretch(Leaf(lblFreeDriveSpace))}),
+                Leaf(lblHinweisTemp), Stretch(Leaf(lvwFiles)), Leaf(lblScannedFiles),
+                Row({Leaf(chkCleanRecycleBin), Leaf(cmdCleanBinDirect), Filler(),
+                     Leaf(cmdSearchTempFiles), Leaf(cmdCleanTempFiles)})}));
 }
 
 void AdjustColumnWidth(toolkit::ListView& list, bool accountForHeaders, int endColumnsToExclude) {

@@ -44,24 +44,24 @@ class TempFilesFrame {
     toolkit::Box Layout() const;
 
     toolkit::Form& form;
-    toolkit::Frame& fraTempFiles;
+    toolkit::Frame& Frame8;
     toolkit::CheckBox& chkScanAll;
     toolkit::CheckBox& chkDeleteThumbs;
     toolkit::CheckBox& chkNullByteFiles;
     toolkit::CheckBox& chkRecentDocFolder;
     toolkit::CheckBox& chkCleanUserTempFolder;
-    toolkit::CheckBox& chkCleanRecycleBin;
     toolkit::CheckBox& chkMoveToRecycleBin;
     toolkit::DriveListBox& drvSelect;
     toolkit::Label& lblGesamt;
     // Tells what is used, whatever its name says.
     toolkit::Label& lblFreeDriveSpace;
-    controls::chameleonButton& cmdSearchTempFiles;
-    controls::chameleonButton& cmdCleanTempFiles;
-    controls::chameleonButton& cmdCleanBinDirect;
     toolkit::Label& lblHinweisTemp;
     toolkit::ListView& lvwFiles;
     toolkit::Label& lblScannedFiles;
+    toolkit::CheckBox& chkCleanRecycleBin;
+    controls::chameleonButton& cmdCleanBinDirect;
+    controls::chameleonButton& cmdSearchTempFiles;
+    controls::chameleonButton& cmdCleanTempFiles;
     toolkit::PopupMenu mnuTempFiles;
 
   private:

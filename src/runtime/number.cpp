@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
+#include "runtime/decimal.h"
 #include "runtime/failure.h"
 
 namespace runtime {
@@ -54,7 +53,7 @@ class Reader {
 };
 
 // The digits of a number as read: 0.digits times ten to the power of `exponent`.
-struct Decimal {
+struct DecimalText {
     std::string digits;
     std::int64_t exponent = 0;
     // Whether digits that no longer count were left out behind the kept ones.
@@ -73,18 +72,7 @@ struct Decimal {
     }
 
     // Infinite when the number is beyond the range of a double.
-    double Value() const {
-        if (digits.empty()) return 0;
-        std::int64_t last = exponent - static_cast<std::int64_t>(digits.size());
-        std::string text = digits;
-        if (more) {
-            text += '1';
-            --last;
-        }
-        constexpr std::int64_t farOut = 100000;
-        return std::strtod((text + 'e' + std::to_string(std::clamp(last, -farOut, farOut))).c_str(),
-                           nullptr);
-    }
+    double Value() const { return FromDecimal(more ? digits + '1' : digits, exponent); }
 };
 
 // The power of ten that follows the digits; 0, and nothing taken, where none follows.
@@ -106,7 +94,7 @@ std::int64_t TakeExponent(Reader& reader) {
 
 // Digits, decimal sign, digits, exponent; nothing when there is not a single digit.
 std::optional<double> TakeDecimal(Reader& reader, const NumberSigns& signs) {
-    Decimal decimal;
+    DecimalText decimal;
     bool anyDigit = false;
     bool fraction = false;
     for (;;) {
@@ -193,11 +181,22 @@ Whole ConvertToWhole(std::string_view text, const NumberSigns& signs) {
 std::string Print(double number, int digits, const NumberSigns& signs) {
     // Without this a negative zero would carry its sign into the text.
     if (number == 0) return "0";
-    char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.*G", digits, number);
-    std::string text = buffer;
-    std::size_t point = text.find('.');
-    if (point != std::string::npos) text.replace(point, 1, signs.decimal);
+    Decimal decimal = ToDecimal(std::abs(number), digits);
+    std::string& shown = decimal.digits;
+    shown.erase(shown.find_last_not_of('0') + 1);
+    const int exponent = decimal.exponent;
+    std::string text = number < 0 ? "-" : "";
+    if (exponent < -4 || exponent >= digits) {
+        text += shown.substr(0, 1);
+        if (shown.size() > 1) text += signs.decimal + shown.substr(1);
+        const std::string power = std::to_string(std::abs(exponent));
+        return text + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power;
+    }
+    const auto whole = static_cast<std::size_t>(std::max(exponent + 1, 0));
+    if (shown.size() < whole) shown.resize(whole, '0');
+    text += whole == 0 ? "0" : shown.substr(0, whole);
+    if (exponent < 0) shown.insert(0, static_cast<std::size_t>(-exponent - 1), '0');
+    if (shown.size() > whole) text += signs.decimal + shown.substr(whole);
     return text;
 }
 

@@ -1,6 +1,7 @@
 #include "timesync/synchronization.h"
 
 #include <cmath>
+#include <new>
 #include <utility>
 
 #include "platform/locale.h"
@@ -54,15 +55,21 @@ void Synchronization::cmdSynchronizeDateTime_Click() {
     try {
         Synchronize();
     } catch (const runtime::Failure& failure) {
-        ShowInLabel("");
-        form_.SetPointer(toolkit::DefaultPointer);
-        machine_.messages.Show(
-            "Datum und Uhrzeit NICHT erfolgreich synchronisiert!\r\n\r\n"
-            "Beschreibung: " +
-                failure.description + " [" + std::to_string(failure.number) + ']',
-            Information, UpdatedTitle);
-        Start_tmrUhrzeit();
+        TellFailure(failure);
+    } catch (const std::bad_alloc&) {
+        TellFailure(runtime::Failure(runtime::OutOfMemory));
     }
+}
+
+void Synchronization::TellFailure(const runtime::Failure& failure) {
+    ShowInLabel("");
+    form_.SetPointer(toolkit::DefaultPointer);
+    machine_.messages.Show(
+        "Datum und Uhrzeit NICHT erfolgreich synchronisiert!\r\n\r\n"
+        "Beschreibung: " +
+            failure.description + " [" + std::to_string(failure.number) + ']',
+        Information, UpdatedTitle);
+    Start_tmrUhrzeit();
 }
 
 // The time server's answer is not waited for: the message says that it was asked, and the clock
@@ -133,12 +140,14 @@ void Synchronization::ApplyTimeAnswerChecked(std::string_view answer) {
         Succeeded();
         return;
     }
-    ShowInLabel("");
     if (connected) {
+        // Without painting it at once, other than below; on purpose.
+        form_.Find<toolkit::Label>("lblDateAndTime").SetCaption("");
         machine_.messages.Show(
             "Während der Verbindung ist ein fehler aufgetreten. Versuchen Sie es später erneut.",
             Exclamation, FailedTitle);
     } else {
+        ShowInLabel("");
         machine_.messages.Show(
             "Für diese Funktion muss eine Internetverbindung bestehen!\r\n"
             "Bitte stellen Sie eine Verbindung her und starten die Funktion erneut.",

@@ -5,6 +5,7 @@
 
 #include "platform/clock.h"
 #include "platform/machine.h"
+#include "runtime/failure.h"
 #include "timesync/timeclient.h"
 
 namespace toolkit {
@@ -44,6 +45,7 @@ class Synchronization {
     bool SetByServer();
     void Succeeded();
     void TellSuccess();
+    void TellFailure(const runtime::Failure& failure);
     void ShowInLabel(const std::string& text);
 
     toolkit::Form& form_;

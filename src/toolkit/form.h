@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "toolkit/control.h"
@@ -74,10 +76,7 @@ class Form {
     // Makes a control of the class T and keeps it; the order of making is the tab order.
     template <typename T, typename... Arguments>
     T& Add(Arguments&&... arguments) {
-        auto control = std::make_unique<T>(*this, std::forward<Arguments>(arguments)...);
-        T& made = *control;
-        Keep(std::move(control));
-        return made;
+        return AddAs<T, Passed<Arguments>...>(std::forward<Arguments>(arguments)...);
     }
 
     // The control of that name, nullptr when there is none.
@@ -172,6 +171,20 @@ class Form {
     FormHost& host_;
 
   private:
+    // A text of the program is passed on as a pointer: its length would else be part of the type,
+    // and each length would have an Add of its own in the executable.
+    template <typename T>
+    using Passed =
+        std::conditional_t<std::is_array_v<std::remove_reference_t<T>>, std::decay_t<T>, T&&>;
+
+    template <typename T, typename... Arguments>
+    T& AddAs(Arguments... arguments) {
+        auto control = std::make_unique<T>(*this, std::forward<Arguments>(arguments)...);
+        T& made = *control;
+        Keep(std::move(control));
+        return made;
+    }
+
     void Keep(std::unique_ptr<Control> control);
     [[noreturn]] void ThrowMissing(std::string_view name) const;
     void Changed(FormAspect what);

@@ -2,12 +2,11 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
 #include "platform/locale.h"
 #include "platform/systemfacts.h"
+#include "runtime/decimal.h"
 #include "runtime/failure.h"
 
 namespace utilities {
@@ -23,12 +22,9 @@ std::string Raw(std::uint64_t number) {
 
 // The digits of a whole number, 15 of which are significant.
 std::string Digits(double number) {
-    char text[32];  // d.dddddddddddddde+dd
-    std::snprintf(text, sizeof text, "%.14e", number);
-    const auto length = static_cast<std::size_t>(std::atoi(text + 17)) + 1;
-    std::string digits = text[0] + std::string(text + 2, 14);
-    digits.resize(length, '0');
-    return digits;
+    runtime::Decimal decimal = runtime::ToDecimal(number, 15);
+    decimal.digits.resize(static_cast<std::size_t>(decimal.exponent) + 1, '0');
+    return decimal.digits;
 }
 
 }  // namespace

@@ -29,19 +29,36 @@ TEST_CASE("every page carries its heading over an engraved line") {
     }
 }
 
-TEST_CASE("buttons whose tool is not there yet are disabled, the others are not") {
+TEST_CASE("buttons with nothing to act on or without a tool yet are disabled, the others are not") {
     Program program;
     REQUIRE(program.Start());
-    for (const char* name : {"cmdInstalledSoftware", "cmdVirtualDrive"}) {
+    for (const char* name :
+         {"cmdInstalledSoftware", "cmdVirtualDrive", "cmdCleanTempFiles", "cmdClearIECache"}) {
         CAPTURE(name);
         CHECK_FALSE(program.form->Find<controls::chameleonButton>(name).Enabled());
     }
-    for (const char* name :
-         {"cmdApply", "cmdEnd", "cmdFreeMemory", "cmdHilfe", "cmdSysInfo", "cmdAbout",
-          "cmdSetAllOptimal", "cmdNormal", "cmdOptimal", "cmdNormalWindows2", "cmdOptimalWindows2",
-          "cmdDefaultMisc", "cmdOptimalMisc", "cmdStandardDfue", "cmdOptimalDfue",
-          "cmdExtensionDefault", "cmdPathDefault", "cmdSynchronizeDateTime",
-          "cmdShowAllLoggedOnUsers"}) {
+    for (const char* name : {"cmdApply",
+                             "cmdEnd",
+                             "cmdFreeMemory",
+                             "cmdHilfe",
+                             "cmdSysInfo",
+                             "cmdAbout",
+                             "cmdSetAllOptimal",
+                             "cmdNormal",
+                             "cmdOptimal",
+                             "cmdNormalWindows2",
+                             "cmdOptimalWindows2",
+                             "cmdDefaultMisc",
+                             "cmdOptimalMisc",
+                             "cmdStandardDfue",
+                             "cmdOptimalDfue",
+                             "cmdExtensionDefault",
+                             "cmdPathDefault",
+                             "cmdSynchronizeDateTime",
+                             "cmdShowAllLoggedOnUsers",
+                             "cmdSearchTempFiles",
+                             "cmdCleanBinDirect",
+                             "cmdUpdateIECache"}) {
         CAPTURE(name);
         CHECK(program.form->Find<controls::chameleonButton>(name).Enabled());
     }

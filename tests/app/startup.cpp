@@ -392,6 +392,7 @@ TEST_CASE("the steps of start-up stand in their order") {
                            "GetVersionExA",
                            "DisablePagingExecutive",
                            "\"EnableVia4x\"",
+                           "FindFirstUrlCacheEntryA",
                            "\"TransparentIcons\"",
                            "\"Luminance\"",
                            "AutoStartExists",

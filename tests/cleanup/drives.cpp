@@ -59,6 +59,15 @@ TEST_CASE_FIXTURE(Fixture, "all drives means all hard disks, in the order of the
     CHECK(machine.messages.Shown().empty());
 }
 
+TEST_CASE_FIXTURE(Fixture, "an unknown Windows directory and no drive name no folder at all") {
+    machine.facts.windowsDirectory = "";
+    disk.MakeFolder("C:\\Temp\\precious");
+    File("C:\\x.tmp");
+    frame.drvSelect.SetDrives({});
+    CHECK(Found().empty());
+    CHECK(frame.lblHinweisTemp.Caption() == "Keine Tempdateien gefunden!");
+}
+
 TEST_CASE_FIXTURE(Fixture, "failures of the drives are passed over, whatever their number") {
     File("C:\\x.tmp");
     Tick(frame.chkScanAll);

@@ -38,6 +38,7 @@ struct Fixture {
         disk.MakeFolder("C:\\WINDOWS\\Temp");
         form.Load();
         tool.Start();
+        tool.ShowDriveSpace();
         machine.journal.Clear();
     }
 

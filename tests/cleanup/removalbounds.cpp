@@ -17,6 +17,7 @@ using Snapshot = std::map<std::string, std::string>;
 
 struct Bounds : Fixture {
     bool intoBin = false;
+    std::map<std::string, std::string> places;
 
     Bounds() {
         frame.chkCleanUserTempFolder.SetValue(1);
@@ -41,15 +42,21 @@ struct Bounds : Fixture {
         }
     }
 
+    // The places themselves, before anything moves: a row behind a link names what lies there.
+    void NotePlaces() {
+        for (int row = 0; row < list.Count(); ++row) {
+            const auto* node = disk.Find(list.Text(row), platform::simulated::Disk::Last::Keep);
+            if (node) places[list.Text(row)] = node->Path();
+        }
+    }
+
     // Removes what is in the list and returns what has changed outside of the rows.
     Lines ChangedOutside() {
         std::set<std::string> rows;
         for (int row = 0; row < list.Count(); ++row) {
-            if (list.Ticked(row) || list.Text(row, 2) == "Dateiordner") {
-                // The place itself: a row behind a link names what lies there.
-                const auto* node = disk.Find(list.Text(row), platform::simulated::Disk::Last::Keep);
-                if (node) rows.insert(node->Path());
-            }
+            const auto place = places.find(list.Text(row));
+            const bool concerned = list.Ticked(row) || list.Text(row, 2) == "Dateiordner";
+            if (concerned && place != places.end()) rows.insert(place->second);
         }
         const Snapshot before = disk.Snapshot();
         if (intoBin) Tick(frame.chkMoveToRecycleBin);
@@ -182,6 +189,39 @@ const Shape Shapes[] = {
          on.File("C:\\UserTemp\\deep\\x.dat");
      },
      [](Bounds& on) { Relink(on, "C:\\UserTemp", "C:\\data"); }, nullptr, "C:\\data\\precious.tmp"},
+    {"a link that leads elsewhere since the search",
+     [](Bounds& on) {
+         on.disk.MakeLink("C:\\UserTemp\\link", "C:\\data");
+         on.File("E:\\other\\precious.txt");
+     },
+     [](Bounds& on) {
+         Relink(on, "C:\\UserTemp\\link", "E:\\other");
+         on.disk.Find("C:\\UserTemp\\link", platform::simulated::Disk::Last::Keep)
+             ->modified.second = 1;
+     },
+     "C:\\UserTemp\\link", "E:\\other\\precious.txt"},
+    {"a folder that becomes a junction while the one around it is being removed",
+     [](Bounds& on) { on.File("C:\\UserTemp\\a\\b\\c.dat", 33); },
+     [](Bounds& on) {
+         on.machine.folders.afterListing = [&on](const std::string& path) {
+             if (path != "C:\\UserTemp\\a") return;
+             on.machine.folders.afterListing = nullptr;
+             Relink(on, "C:\\UserTemp\\a\\b", "C:\\data\\deep");
+         };
+     },
+     "C:\\UserTemp\\a", "C:\\data\\deep\\precious.tmp"},
+    // The system would take them for x.dat and b.
+    {"names with a dot or a blank behind them",
+     [](Bounds& on) {
+         on.File("C:\\UserTemp\\x.dat", 33);
+         on.File("C:\\UserTemp\\x.dat.");
+         on.File("C:\\UserTemp\\x.dat ");
+         on.disk.MakeFolder("C:\\UserTemp\\b ");
+     },
+     Nothing, nullptr, "C:\\UserTemp\\x.dat."},
+    {"a folder with a blank behind its name inside a folder row",
+     [](Bounds& on) { on.File("C:\\UserTemp\\a\\b \\c.dat", 33); }, Nothing, nullptr,
+     "C:\\UserTemp\\a\\b \\c.dat"},
     {"read-only files and folders",
      [](Bounds& on) {
          on.disk.MakeFolder("C:\\UserTemp\\a", 17);
@@ -237,6 +277,7 @@ void Try(const Shape& shape, bool intoBin) {
     shape.make(on);
     on.Search();
     REQUIRE(on.list.Count() > 0);
+    on.NotePlaces();
     shape.meanwhile(on);
     CHECK(on.ChangedOutside() == Lines{});
     if (shape.gone) CHECK_FALSE(on.IsThere(shape.gone));
@@ -260,6 +301,7 @@ TEST_CASE_FIXTURE(Bounds,
                   "a ticked file behind a junction that was searched goes, as its row says") {
     disk.MakeLink("C:\\UserTemp\\link", "C:\\data");
     Search();
+    NotePlaces();
     REQUIRE(list.Text(0) == "C:\\UserTemp\\link\\deep\\precious.tmp");
     REQUIRE(list.Ticked(0));
     CHECK(ChangedOutside() == Lines{});
@@ -273,6 +315,7 @@ TEST_CASE_FIXTURE(Bounds, "a temp folder that is reached through a junction is c
     File("C:\\Profil\\Temp\\sub\\b.dat");
     machine.facts.tempPath = "C:\\Short\\Temp\\";
     Search();
+    NotePlaces();
     CHECK(ChangedOutside() == Lines{});
     CHECK_FALSE(IsThere("C:\\Profil\\Temp\\a.dat"));
     CHECK_FALSE(IsThere("C:\\Profil\\Temp\\sub"));
@@ -282,6 +325,7 @@ TEST_CASE_FIXTURE(Bounds, "a folder whose links cannot be taken out is not given
     intoBin = true;
     disk.MakeLink("C:\\UserTemp\\a\\link", "C:\\data").held = true;
     Search();
+    NotePlaces();
     frame.TickAll(false);
     list.SetTicked(list.Count() - 1, true);
     CHECK(ChangedOutside() == Lines{});

@@ -70,12 +70,12 @@ void CheckVisible(const Program& program, const Known (&controls)[Count]) {
     }
 }
 
-// Neither form nor control: the pages that hold the controls, and what the system's tab control and
-// combo boxes bring along.
+// Neither form nor control: the pages that hold the controls, and what the system's tab control,
+// combo boxes and lists bring along.
 bool IsPart(HWND window) {
     const std::string parent = ClassOf(GetParent(window));
     return ClassOf(window) == "QuillmorePage" || parent == "SysTabControl32" ||
-           parent == "ComboBox";
+           parent == "ComboBox" || parent == "SysListView32";
 }
 
 TEST_CASE("every window of the program that is a form or a control carries its own name") {

@@ -54,8 +54,6 @@ class Files final : public platform::Files {
 
     // Here.
     bool IsOpen(const DiskNode& node) const;
-    // Whether anything may be written or deleted in the directory.
-    bool IsWritable(std::string_view directory) const;
     // A file that can be opened for input; throws for any other.
     const DiskNode& Readable(Journal::Place line, std::string_view path) const;
     // Whether the file may neither be written nor deleted, force or not.

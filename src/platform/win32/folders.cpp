@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/win32/handle.h"
+#include "platform/win32/nomediumbox.h"
 #include "platform/win32/text.h"
 #include "runtime/failure.h"
 
@@ -50,6 +51,7 @@ runtime::Failure FailureOf(DWORD error) {
 std::vector<FolderEntry> Folders::List(std::string_view path) {
     std::wstring pattern = ToWide(path);
     if (pattern.empty()) throw runtime::Failure(runtime::PathNotFound);
+    const NoMediumBox quiet;
     if (pattern.back() != L'\\') pattern += L'\\';
     pattern += L'*';
     if (pattern.size() >= MAX_PATH) throw runtime::Failure(runtime::PathNotFound);
@@ -70,6 +72,7 @@ std::vector<FolderEntry> Folders::List(std::string_view path) {
 
 std::optional<FolderEntry> Folders::Find(std::string_view path) const {
     const std::wstring wide = ToWide(path);
+    const NoMediumBox quiet;
     WIN32_FILE_ATTRIBUTE_DATA data;
     if (wide.size() >= MAX_PATH ||
         !GetFileAttributesExW(wide.c_str(), GetFileExInfoStandard, &data)) {

@@ -28,7 +28,7 @@ Network::Network() : Network(NetRemoteTOD, NetApiBufferFree) {}
 
 std::optional<TimeOfDay> Network::RemoteTimeOfDay(const std::string& server) const {
     BYTE* buffer = nullptr;
-    if (askTime_(ToWide(server).c_str(), &buffer) != 0) return std::nullopt;
+    if (askTime_(ToWide(server).c_str(), &buffer) != 0 || !buffer) return std::nullopt;
     const TIME_OF_DAY_INFO told = *reinterpret_cast<const TIME_OF_DAY_INFO*>(buffer);
     free_(buffer);
     return TimeOfDay{.hours = told.tod_hours,

@@ -55,8 +55,13 @@ void Shell::EmptyRecycleBin(std::uint32_t flags) {
 
 std::string Shell::TypeName(std::string_view path, std::uint32_t attributes) const {
     SHFILEINFOW info = {};
-    SHGetFileInfoW(ToWide(path).c_str(), attributes, &info, sizeof info,
-                   SHGFI_TYPENAME | SHGFI_USEFILEATTRIBUTES);
+    const std::wstring wide = ToWide(path);
+    // A folder may have a type of its own, which only the folder itself tells.
+    if (!(attributes & FILE_ATTRIBUTE_DIRECTORY) ||
+        !SHGetFileInfoW(wide.c_str(), 0, &info, sizeof info, SHGFI_TYPENAME)) {
+        SHGetFileInfoW(wide.c_str(), attributes, &info, sizeof info,
+                       SHGFI_TYPENAME | SHGFI_USEFILEATTRIBUTES);
+    }
     return FromWide(info.szTypeName);
 }
 

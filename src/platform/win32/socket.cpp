@@ -83,11 +83,20 @@ void Socket::PostError(int number) {
 }
 
 void Socket::Close() {
-    if (lookup_) WSACancelAsyncRequest(std::exchange(lookup_, nullptr));
+    DropLookup();
     socket_.Close();
     arrived_.clear();
     message_ = 0;
     state_ = Closed;
+}
+
+// A system that cannot call a lookup back writes its answer later, into memory that is left to it
+// for good then.
+void Socket::DropLookup() {
+    if (!lookup_) return;
+    const bool ended = WSACancelAsyncRequest(std::exchange(lookup_, nullptr)) == 0 ||
+                       WSAGetLastError() == WSAEALREADY;
+    if (!ended) static_cast<void>(host_.release());
 }
 
 std::string Socket::GetData() {
@@ -105,7 +114,7 @@ void Socket::Receive(UINT message, LPARAM lParam) {
         state_ = Connected;
         Raise(onConnect);
     } else if (LOWORD(lParam) == FD_READ) {
-        if (TakeSome()) Raise(onDataArrival);
+        if (TakeSome() > 0) Raise(onDataArrival);
     } else if (LOWORD(lParam) == FD_CLOSE) {
         ServerClosed();
     }
@@ -124,18 +133,25 @@ void Socket::Fail(int number) {
 }
 
 // What is left over is told of again.
-bool Socket::TakeSome() {
+int Socket::TakeSome() {
     char bytes[512];
     const int count = recv(socket_.Get(), bytes, sizeof bytes, 0);
     if (count > 0) arrived_.append(bytes, static_cast<std::size_t>(count));
-    return count > 0;
+    return count;
 }
 
 // Nothing is told of any more, so everything is taken that has arrived before.
 void Socket::ServerClosed() {
     const UINT connection = message_;
     bool more = false;
-    while (TakeSome()) more = true;
+    int count = TakeSome();
+    for (; count > 0; count = TakeSome()) more = true;
+    // A connection that broke off meanwhile has not been closed by the server.
+    const int error = count < 0 ? WSAGetLastError() : 0;
+    if (error != 0 && error != WSAEWOULDBLOCK) {
+        Fail(error);
+        return;
+    }
     if (more) Raise(onDataArrival);
     // Whoever has got the bytes may have closed.
     if (message_ != connection) return;

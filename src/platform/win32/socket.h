@@ -31,13 +31,15 @@ class Socket final : public platform::Socket {
 
   private:
     void Start();
+    void DropLookup();
     void Resolve();
     void ConnectTo(ULONG address);
     void PostError(int number);
     void Receive(UINT message, LPARAM lParam);
     void Resolved();
     void Fail(int number);
-    bool TakeSome();
+    // As recv.
+    int TakeSome();
     void ServerClosed();
     void Raise(const std::function<void()>& event) const;
 

@@ -20,12 +20,13 @@ namespace {
 // Below lie the numbers that the system gives a dialog's standard buttons.
 constexpr int FirstId = 100;
 
+// Not shared yet: each class would bring its own counting into the executable.
 template <typename View, typename Control>
-std::shared_ptr<ControlWindow> Make(toolkit::Control& control, const Surroundings& surroundings) {
-    return std::make_shared<View>(static_cast<Control&>(control), surroundings);
+std::unique_ptr<ControlWindow> Make(toolkit::Control& control, const Surroundings& surroundings) {
+    return std::make_unique<View>(static_cast<Control&>(control), surroundings);
 }
 
-std::shared_ptr<ControlWindow> WindowFor(toolkit::Control& control,
+std::unique_ptr<ControlWindow> WindowFor(toolkit::Control& control,
                                          const Surroundings& surroundings) {
     switch (control.Kind()) {
         case toolkit::ControlKind::Label:
