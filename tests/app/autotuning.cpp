@@ -25,12 +25,12 @@ struct Tuning : Program {
 
 }  // namespace
 
-TEST_CASE("every button of the pages sets its controls") {
+TEST_CASE("each button of the pages is joined to its own preset") {
     const std::pair<const char*, std::pair<const char*, int>> buttons[] = {
         {"cmdNormal", {"chkLastAccessTimestamp", 1}}, {"cmdOptimal", {"chkMFTTuning", 1}},
         {"cmdNormalWindows2", {"chkUnloadDll", 0}},   {"cmdOptimalWindows2", {"chkUnloadDll", 1}},
         {"cmdDefaultMisc", {"chkWatsonXP", 1}},       {"cmdOptimalMisc", {"chkWatsonXP", 0}},
-        {"cmdStandardDfue", {"chkMUTBH", 0}},         {"cmdOptimalDfue", {"chkMUTBH", 0}},
+        {"cmdStandardDfue", {"chkNetworkSpeed", 0}},  {"cmdOptimalDfue", {"chkNetworkSpeed", 1}},
     };
     for (const auto& [button, expected] : buttons) {
         CAPTURE(button);
@@ -108,13 +108,23 @@ TEST_CASE("the recycle bin's key is left to its box by AutoTuning, and by the pa
         program.Tune();
         CHECK(program.Check("chk1RecycleBinDelete").Value() == (removed ? 1 : 0));
         CHECK(program.machine.registry.HasKey(Registry::LocalMachine, BinKey) == !removed);
+        program.form->WriteRegistry();
+        CHECK(program.Check("chk1RecycleBinDelete").Value() == (removed ? 1 : 0));
+        CHECK(program.machine.registry.HasKey(Registry::LocalMachine, BinKey) == !removed);
     }
 }
 
 TEST_CASE("AutoTuning makes the numbers whole that a pass would complain about") {
-    Tuning program;
-    REQUIRE(program.Start());
-    program.Tune();
-    program.form->WriteRegistry();
-    for (const auto& box : program.machine.messages.Shown()) CHECK(box.title == "AutoTuning");
+    const auto complaints = [](bool tuned) {
+        Tuning program;
+        REQUIRE(program.Start());
+        if (tuned) program.Tune();
+        program.machine.messages.AnswerAll("Fehler", platform::message::Cancel);
+        program.form->WriteRegistry();
+        std::size_t count = 0;
+        for (const auto& box : program.machine.messages.Shown()) count += box.title == "Fehler";
+        return count;
+    };
+    CHECK(complaints(false) == 6);
+    CHECK(complaints(true) == 0);
 }

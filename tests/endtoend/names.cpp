@@ -16,9 +16,12 @@ struct Known {
 };
 
 const Known WindowButtons[] = {
-    {"cmdApply", "chameleonButton", "Übernehmen"}, {"cmdSetAllOptimal", "chameleonButton", nullptr},
-    {"cmdSysInfo", "chameleonButton", nullptr},    {"cmdHilfe", "chameleonButton", nullptr},
-    {"cmdAbout", "chameleonButton", nullptr},      {"cmdEnd", "chameleonButton", nullptr},
+    {"cmdApply", "chameleonButton", "Übernehmen"},
+    {"cmdSetAllOptimal", "chameleonButton", "AutoTuning"},
+    {"cmdSysInfo", "chameleonButton", nullptr},
+    {"cmdHilfe", "chameleonButton", nullptr},
+    {"cmdAbout", "chameleonButton", nullptr},
+    {"cmdEnd", "chameleonButton", nullptr},
 };
 
 const Known SystemPage[] = {

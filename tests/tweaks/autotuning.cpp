@@ -33,12 +33,16 @@ TEST_CASE_FIXTURE(Presets, "No to AutoTuning changes no control and tells nothin
     CHECK(machine.journal.Count() == 1);
 }
 
-TEST_CASE_FIXTURE(Presets,
-                  "a control that only the question's user has changed is set all the same") {
+TEST_CASE_FIXTURE(Presets, "AutoTuning sets nothing while its question is open") {
     AllOff();
-    machine.messages.WhileOpen("AutoTuning", [&] { Put("txtTTL", "\"99\""); });
+    PresetStates whileOpen;
+    machine.messages.WhileOpen("AutoTuning", [&] {
+        if (whileOpen.empty()) whileOpen = States();
+    });
+    const PresetStates before = States();
     Press(AutoTuningButton);
-    CHECK(Text("txtTTL") == "64");
+    CHECK(whileOpen == before);
+    CHECK(States() != before);
 }
 
 TEST_CASE_FIXTURE(Presets, "AutoTuning leaves five controls that pages recommend on, off or grey") {
@@ -81,10 +85,14 @@ TEST_CASE_FIXTURE(Presets, "AutoTuning loads Analog before it overwrites it") {
 
 TEST_CASE_FIXTURE(Presets, "AutoTuning over a selected Analog loads nothing in between") {
     Press(AnalogOption);
+    Put("cboHTTP10", "\"99\"");
+    Put("txtTTL", "\"99\"");
     ChangeNotes changes(form);
     Press(AutoTuningButton);
-    CHECK(std::find(changes.lines.begin(), changes.lines.end(), "cboHTTP10 = \"4\"") ==
-          changes.lines.end());
+    for (const char* ofAnalog : {"cboHTTP10 = \"4\"", "txtTTL = \"128\""}) {
+        CHECK(std::find(changes.lines.begin(), changes.lines.end(), ofAnalog) ==
+              changes.lines.end());
+    }
     CHECK(Shown("cboHTTP10") == "\"8\"");
 }
 

@@ -136,6 +136,42 @@ TEST_CASE_FIXTURE(Presets, "AutoTuning goes on behind an Analog that could not b
     CHECK(Shown("txtRWIN") == "\"11680\"");
 }
 
+// The standard's types have no list of their own to stop: what is selected runs its row.
+TEST_CASE("whichever step fails ends the loading of a connection type there") {
+    for (const std::string& type : GoldenPresets()) {
+        if (!type.starts_with("opt")) continue;
+        const std::vector<PresetStep> steps = GoldenSteps(type);
+        REQUIRE(steps.size() == 8);
+        for (std::size_t failing = 0; failing < steps.size(); ++failing) {
+            INFO(type << " at " << steps[failing].control);
+            Presets program;
+            const auto load = program.EventOf(type);
+            program.Isolate();
+            program.EventOf(type) = load;
+            const PresetStates before = program.States();
+            program.EventOf(steps[failing].control) = Fail;
+            CHECK(FailureOf(program, type) == runtime::InvalidProcedureCall);
+            CHECK(program.Shown(type) == "selected");
+            for (std::size_t at = 0; at < steps.size(); ++at) {
+                CAPTURE(steps[at].control);
+                CHECK(program.Shown(steps[at].control) ==
+                      (at <= failing ? steps[at].value : before.at(steps[at].control)));
+            }
+        }
+    }
+}
+
+TEST_CASE_FIXTURE(Presets, "a success that cannot be told is passed over, and all is set") {
+    Isolate();
+    machine.messages.WhileOpen(
+        "AutoTuning", [&] { machine.faults.FailAll("MessageBox", runtime::InvalidProcedureCall); });
+    CHECK(FailureOf(*this, AutoTuningButton) == 0);
+    for (const PresetStep& step : GoldenSteps(AutoTuningButton)) {
+        CHECK(Shown(step.control) == step.value);
+    }
+    CHECK(BoxesShown(*this).size() == 1);
+}
+
 TEST_CASE_FIXTURE(Presets, "a question that cannot be shown begins no AutoTuning") {
     AllOff();
     const PresetStates before = States();

@@ -55,6 +55,22 @@ std::string Shown(const toolkit::Control* control) {
     return "";
 }
 
+// The line of a call that does something, without its handle and what it gave back.
+std::string DoingOf(std::string line) {
+    static const char* const doings[] = {
+        "SaveSetting",    "MessageBox",    "Start",           "DeleteFile", "OpenTextFile",
+        "RegSetValueExA", "RegDeleteKeyA", "RegDeleteValueA", "SetLayered", "GlobalMemoryStatus",
+    };
+    if (std::none_of(std::begin(doings), std::end(doings),
+                     [&](const char* doing) { return line.starts_with(doing); })) {
+        return "";
+    }
+    line = line.substr(0, line.find(" -> "));
+    const std::size_t handle = line.find(" #");
+    if (handle != std::string::npos) line.erase(handle, line.find(' ', handle + 1) - handle);
+    return line;
+}
+
 }  // namespace
 
 const Lines& GoldenPresets() {
@@ -94,14 +110,15 @@ Lines LinesOf(const std::vector<PresetStep>& steps) {
 
 class ChangeNotes::View final : public toolkit::ControlView {
   public:
-    View(Lines& lines, toolkit::Control& control) : lines_(lines), control_(control) {
+    View(ChangeNotes& notes, toolkit::Control& control) : notes_(notes), control_(control) {
         control.SetView(this);
     }
     ~View() override { control_.SetView(nullptr); }
 
     void Refresh(toolkit::Aspect what) override {
         if (what != toolkit::Aspect::Value) return;
-        lines_.push_back(control_.Name() + " = " + tweak_tests::Shown(&control_));
+        notes_.CatchUp();
+        notes_.lines.push_back(control_.Name() + " = " + tweak_tests::Shown(&control_));
     }
     void Repaint() override {}
     bool PointerIsOver() const override { return false; }
@@ -110,18 +127,32 @@ class ChangeNotes::View final : public toolkit::ControlView {
     void MoveFocus(bool) override {}
 
   private:
-    Lines& lines_;
+    ChangeNotes& notes_;
     toolkit::Control& control_;
 };
 
 ChangeNotes::ChangeNotes(toolkit::Form& form) {
     for (const auto& control : form.Controls()) {
         if (tweak_tests::Shown(control.get()).empty()) continue;
-        views_.push_back(std::make_unique<View>(lines, *control));
+        views_.push_back(std::make_unique<View>(*this, *control));
     }
 }
 
+ChangeNotes::ChangeNotes(toolkit::Form& form, const platform::simulated::Journal& journal)
+    : ChangeNotes(form) {
+    journal_ = &journal;
+    read_ = journal.Lines().size();
+}
+
 ChangeNotes::~ChangeNotes() = default;
+
+void ChangeNotes::CatchUp() {
+    if (!journal_) return;
+    for (; read_ < journal_->Lines().size(); ++read_) {
+        const std::string doing = DoingOf(journal_->Lines()[read_]);
+        if (!doing.empty()) lines.push_back(doing);
+    }
+}
 
 Presets::Presets() {
     machine.files.MakeDirectory("C:\\WINDOWS\\inf");

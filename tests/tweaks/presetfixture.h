@@ -45,6 +45,10 @@ using PresetStates = std::map<std::string, std::string>;
 class ChangeNotes {
   public:
     explicit ChangeNotes(toolkit::Form& form);
+    // Notes as well, at its place between them, what the machine was asked to do: settings, boxes,
+    // processes, files, values, the taskbar's opacity and the memory test. What only looks, and the
+    // numbers of handles, are left out.
+    ChangeNotes(toolkit::Form& form, const platform::simulated::Journal& journal);
     ~ChangeNotes();
     ChangeNotes(const ChangeNotes&) = delete;
     ChangeNotes& operator=(const ChangeNotes&) = delete;
@@ -52,8 +56,13 @@ class ChangeNotes {
     // "control = value" in the order of the changes.
     Lines lines;
 
+    // Notes what was done behind the last change.
+    void CatchUp();
+
   private:
     class View;
+    const platform::simulated::Journal* journal_ = nullptr;
+    std::size_t read_ = 0;
     std::vector<std::unique_ptr<View>> views_;
 };
 

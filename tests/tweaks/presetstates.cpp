@@ -1,5 +1,5 @@
-// Every preset from three states of the controls: what they say behind it, and each change on the
-// way, in order, by a model of what one control does to another.
+// Every preset from three states of the controls: what they say behind it, and each change and each
+// effect on the way, in order, by a model of what one control does to another and to the machine.
 #include <doctest/doctest.h>
 
 #include <cstdlib>
@@ -9,6 +9,12 @@
 using namespace tweak_tests;
 
 namespace {
+
+std::string Joined(const Lines& lines) {
+    std::string all;
+    for (const std::string& line : lines) all += line + '\n';
+    return all;
+}
 
 std::string Quoted(int number) {
     return '"' + std::to_string(number) + '"';
@@ -20,13 +26,49 @@ class Model {
 
     void Run(const std::string& preset) {
         if (preset.starts_with("opt")) return Set(preset, "selected");
-        for (const PresetStep& step : GoldenSteps(preset)) Set(step.control, step.value);
+        const bool tunes = preset == AutoTuningButton;
+        if (tunes) Do("MessageBox \"AutoTuning\" 36 \"AutoTuning dieses Systems starten?\"");
+        for (const PresetStep& step : GoldenSteps(preset)) {
+            if (step.control == "chkSecondLevelDataCache" && preset != "cmdNormal") {
+                Do("GlobalMemoryStatus");
+            }
+            Set(step.control, step.value);
+        }
+        if (tunes) Do(Success);
     }
 
     PresetStates states;
     Lines changes;
 
   private:
+    static constexpr char Success[] =
+        "MessageBox \"AutoTuning\" 64 \"AutoTuning erfolgreich ausgeführt.\\r\\n\\r\\n"
+        "Bitte stellen Sie die DFÜ-Verbindungsart manuell auf Ihren genutzten Verbindungstyp "
+        "(ISDN, DSL ...) ein.\\r\\n\\r\\n"
+        "Betätigen Sie dann den 'Übernehmen' Button um die Änderungen zu speichern!\"";
+
+    void Do(const std::string& doing) { changes.push_back(doing); }
+
+    void Save(const std::string& setting, const std::string& text) {
+        Do("SaveSetting \"Quillmore\" " + setting + " \"" + text + '"');
+    }
+
+    void Act(const std::string& box, bool on) {
+        if (box == "chkIcons") {
+            Save("\"Desktop\" \"TransparentIcons\"", on ? "1" : "0");
+        } else if (box == "chkHideWinComponents") {
+            Save("\"WinComponents\" \"Show\"", on ? "true" : "false");
+            Do("DeleteFile \"C:\\WINDOWS\\inf\\Sysoc.inf\" force");
+            Do("OpenTextFile \"C:\\WINDOWS\\inf\\Sysoc.inf\" write 20 bytes");
+        } else if (box == "chkSecureWindows") {
+            Save("\"SecureWindows\" \"Regged\"", on ? "true" : "false");
+            Do(std::string("Start \"regsvr32.exe %windir%\\system32\\upnp.dll ") +
+               (on ? "/u " : "") + "/s\" 0");
+        } else if (box == "chk1RecycleBinDelete" && !on) {
+            Do("RegSetValueExA \"(Standard)\" type 1 size 0 data \"\"");
+        }
+    }
+
     // A value that stays as it is changes nothing else either.
     void Set(const std::string& control, const std::string& value) {
         if (states.at(control) == value) return;
@@ -38,9 +80,13 @@ class Model {
             Set("sldStartmenu", value.substr(1, value.size() - 2));
         } else if (control == "txtLevelValue") {
             Set("Level", value.substr(1, value.size() - 2));
+        } else if (control.starts_with("chk")) {
+            Act(control, value == "1");
         } else if (control == "sldStartmenu") {
             Set("txtStartmenu", '"' + value + '"');
         } else if (control == "Level") {
+            Save("\"TaskBar\" \"Luminance\"", value);
+            Do("SetLayeredWindowAttributes key 0x00 alpha " + value + " flags 0x02");
             Set("txtLevelValue", '"' + value + '"');
         } else if (control.starts_with("opt") && value == "selected") {
             Select(control);
@@ -60,12 +106,14 @@ void CheckFrom(void (*prepare)(Presets&)) {
     for (const std::string& preset : GoldenPresets()) {
         CAPTURE(preset);
         Presets program;
+        program.machine.windows.Open("Shell_TrayWnd");
         prepare(program);
         Model model(program.States());
         model.Run(preset);
-        ChangeNotes changes(program.form);
+        ChangeNotes changes(program.form, program.machine.journal);
         program.Press(preset);
-        CHECK(changes.lines == model.changes);
+        changes.CatchUp();
+        CHECK(Joined(changes.lines) == Joined(model.changes));
         CHECK(program.States() == model.states);
 
         changes.lines.clear();
@@ -77,15 +125,15 @@ void CheckFrom(void (*prepare)(Presets&)) {
 
 }  // namespace
 
-TEST_CASE("every preset from all off: each change in its order, each control behind it") {
+TEST_CASE("every preset from all off: each change and effect in its order, each control") {
     CheckFrom([](Presets& program) { program.AllOff(); });
 }
 
-TEST_CASE("every preset from all on: each change in its order, each control behind it") {
+TEST_CASE("every preset from all on: each change and effect in its order, each control") {
     CheckFrom([](Presets& program) { program.AllOn(); });
 }
 
-TEST_CASE("every preset from the baseline: each change in its order, each control behind it") {
+TEST_CASE("every preset from the baseline: each change and effect in its order, each control") {
     CheckFrom([](Presets& program) { program.Baseline(); });
 }
 
