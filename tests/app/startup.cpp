@@ -328,6 +328,26 @@ TEST_CASE("SyncServer set to 1 by hand selects the server at the next start") {
     CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
 }
 
+TEST_CASE("where both time sources are set to 1 by hand, the server wins, being read last") {
+    Program program;
+    program.machine.settings.Put("Options", "SyncAtom", "1");
+    program.machine.settings.Put("Options", "SyncServer", "1");
+    REQUIRE(program.Start());
+    CHECK(program.form->Find<toolkit::OptionButton>("optSynServer").Value());
+    CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
+}
+
+TEST_CASE("a SyncAtom that is not 1 leaves no time source selected") {
+    for (const char* stored : {"0", "", "2", "True", " 1"}) {
+        CAPTURE(stored);
+        Program program;
+        program.machine.settings.Put("Options", "SyncAtom", stored);
+        REQUIRE(program.Start());
+        CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optSynServer").Value());
+        CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
+    }
+}
+
 TEST_CASE("the server's name comes back") {
     Program program;
     program.machine.settings.Put("Options", "ServerName", "zeit-ü");

@@ -106,6 +106,9 @@ class TestMachine {
     // Wine tells of a connection that broke off as of one that was closed.
     bool HidesBreaks() const;
 
+    // Wine answers no question about who is logged on.
+    bool LacksWorkstationService() const;
+
     // Stands for the service of that kind, which no test may use: what comes out at its far end is
     // noted, and no clock is set.
     platform::SystemClock& NotingClock();

@@ -136,6 +136,10 @@ bool TestMachine::HidesBreaks() const {
     return false;
 }
 
+bool TestMachine::LacksWorkstationService() const {
+    return false;
+}
+
 platform::SystemClock& TestMachine::NotingClock() {
     return inside_->clock;
 }

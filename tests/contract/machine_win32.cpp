@@ -24,6 +24,10 @@ namespace contract {
 
 namespace {
 
+bool IsWine() {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
 namespace win32 = platform::win32;
 
 // The services need no windows, and the suite opens none.
@@ -301,7 +305,11 @@ std::uint16_t TestMachine::RefusingPort() {
 }
 
 bool TestMachine::HidesBreaks() const {
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return IsWine();
+}
+
+bool TestMachine::LacksWorkstationService() const {
+    return IsWine();
 }
 
 platform::SystemClock& TestMachine::NotingClock() {

@@ -12,7 +12,8 @@ struct ServerAnswer {
 
     std::vector<std::string> pieces;
     End end = End::Closes;
-    // Milliseconds.
+    // Milliseconds. The simulated machine's time does not pass by itself, and its pieces come one
+    // by one anyway.
     unsigned pause = 0;
 };
 

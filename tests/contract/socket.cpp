@@ -154,6 +154,20 @@ TEST_CASE_FIXTURE(Fixture, "a name that no computer can have is an error") {
     CHECK(data == "ab");
 }
 
+TEST_CASE_FIXTURE(Fixture, "closing while a name is looked up drops the look-up") {
+    const std::string unknown(70, 'x');
+    ConnectTo(37, unknown.c_str());
+    socket.Close();
+    CHECK(socket.State() == Socket::Closed);
+    ConnectTo(37, unknown.c_str());
+    socket.Close();
+    ConnectTo(machine.Serve({{{"ab"}}}), "localhost");
+    CHECK(Comes('x'));
+    Pass(300);
+    CHECK(events == "cdx");
+    CHECK(data == "ab");
+}
+
 TEST_CASE_FIXTURE(Fixture, "closing drops what is under way, also bytes that have arrived") {
     const std::uint16_t port = machine.Serve({{{"ab"}}, {{"cd"}}});
     socket.onDataArrival = [this] { events += 'd'; };

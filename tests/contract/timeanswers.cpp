@@ -24,6 +24,12 @@ struct Fixture {
     Settings Ask(std::uint16_t port, int requests = 1, const char* host = "127.0.0.1") {
         timesync::TimeClient client(form, socket, machine.Services().clock, machine.NotingClock(),
                                     {host, port});
+        connections = 0;
+        bytesCame = false;
+        closes = 0;
+        Watch(socket.onConnect, [this] { ++connections; });
+        Watch(socket.onDataArrival, [this] { bytesCame = true; });
+        Watch(socket.onClose, [this] { ++closes; });
         for (int request = 0; request < requests; ++request) {
             client.Request();
             // The first is pending when the second comes.
@@ -38,6 +44,19 @@ struct Fixture {
         return machine.ClockSettings();
     }
     bool staysOpen = false;
+    // What came of the requests, so that a clock left alone is not one that nobody was asked about.
+    int connections = 0;
+    bool bytesCame = false;
+    int closes = 0;
+
+  private:
+    template <typename Handler, typename Note>
+    static void Watch(Handler& handler, Note note) {
+        handler = [inner = handler, note] {
+            note();
+            inner();
+        };
+    }
 };
 
 std::string Nul(std::size_t count) {
@@ -96,6 +115,10 @@ TEST_CASE("of all kinds of answers only those of four bytes set the clock") {
         Fixture fixture;
         const Settings settings = fixture.Ask(fixture.machine.Serve({kind.answer}));
         CHECK(settings == (kind.sets ? Settings{{true, kind.set}} : Settings{}));
+        CHECK(fixture.connections == 1);
+        CHECK(fixture.bytesCame == !kind.answer.pieces.empty());
+        const bool breaks = kind.answer.end == End::Resets && !fixture.machine.HidesBreaks();
+        CHECK(fixture.closes == (breaks ? 0 : 1));
     }
 }
 
@@ -106,16 +129,21 @@ TEST_CASE_FIXTURE(Fixture, "four bytes of a connection that breaks off set nothi
 
 TEST_CASE_FIXTURE(Fixture, "a server that refuses sets nothing") {
     CHECK(Ask(machine.RefusingPort()).empty());
+    CHECK(connections == 0);
 }
 
 TEST_CASE_FIXTURE(Fixture, "a server that stays silent sets nothing and is not closed") {
     staysOpen = true;
     CHECK(Ask(machine.Serve({{{}, End::Stays}})).empty());
+    CHECK(connections == 1);
+    CHECK_FALSE(bytesCame);
 }
 
 TEST_CASE_FIXTURE(Fixture, "four bytes without an end set nothing") {
     staysOpen = true;
     CHECK(Ask(machine.Serve({{{"\xC3\xF2\xF9\xFD"}, End::Stays}})).empty());
+    CHECK(bytesCame);
+    CHECK(closes == 0);
 }
 
 TEST_CASE_FIXTURE(Fixture, "a host that nobody knows sets nothing") {
@@ -126,4 +154,6 @@ TEST_CASE_FIXTURE(Fixture, "a second request drops the first, whose half answer 
     const auto port =
         machine.Serve({{{"\xC3\xF2"}, End::Stays}, {{"\xC3\xF2\xF9\xFD"}, End::Closes, 100}});
     CHECK(Ask(port, 2) == Settings{{true, Friday}});
+    CHECK(connections == 2);
+    CHECK(closes == 1);
 }

@@ -126,6 +126,8 @@ TEST_CASE("the computer on the network sets date and time, and success is told t
     const std::string asked =
         "NetRemoteTOD \\\\zeit\nSetLocalDate 2005-01-01 04:05:09\n"
         "SetLocalTime 2005-01-01 04:05:09\n";
+    CHECK(clockless.program.WaitBox(UpdatedTitle).text == Success);
+    CHECK(clockless.Asked() == asked);
     CHECK(clockless.program.Answer(UpdatedTitle, IDOK).text == Success);
     CHECK(clockless.program.Answer(UpdatedTitle, IDOK).text == Success);
     CHECK(clockless.Asked() == asked);

@@ -29,14 +29,14 @@ TEST_CASE_FIXTURE(Place, "batches come one a call, each with a buffer of its own
                          "NetWkstaUserEnum \"\\\\PC\" 1 -> 0 2 #2", "NetApiBufferFree #2"});
 }
 
-TEST_CASE_FIXTURE(Place, "an enumeration that fails gives its code, nobody and no buffer") {
+TEST_CASE_FIXTURE(Place, "an enumeration that fails gives its code, nobody, and leaves the buffer") {
     machine.faults.FailOn("\\\\PC", 5);
     platform::UserEnumeration enumeration{.buffer = 9, .resume = 0, .users = {{}}};
     CHECK(workstation.EnumerateUsers("\\\\PC", enumeration) == 5);
     CHECK(enumeration.users.empty());
-    CHECK(enumeration.buffer == 0);
+    CHECK(enumeration.buffer == 9);
     CHECK(machine.workstation.BuffersInUse() == 0);
-    CHECK(lines == Lines{"NetWkstaUserEnum \"\\\\PC\" 0 -> 5 0 #0"});
+    CHECK(lines == Lines{"NetWkstaUserEnum \"\\\\PC\" 0 -> 5 0 #9"});
 }
 
 TEST_CASE_FIXTURE(Place, "a text of the system needs room for its NUL in 256 characters") {

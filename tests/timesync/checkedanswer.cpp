@@ -27,6 +27,8 @@ struct Connected : Frame {
         machine.socket.RaiseAll();
         machine.network.dialUpConnections = 1;
         form.SetPointer(toolkit::Hourglass);
+        synchronization.Stop_tmrUhrzeit();
+        form.Find<toolkit::Label>("lblDateAndTime").SetCaption("angefordert");
         machine.journal.Clear();
         told = Shown().size();
     }
@@ -40,11 +42,24 @@ struct Connected : Frame {
 TEST_CASE_FIXTURE(Connected, "the seconds of the day of connecting are added to the answer") {
     Apply(Answer);
     // 50829.5 seconds, and a half goes to the even neighbour.
-    CHECK(ClockCalls() == Lines{"SetSystemTime 2004-03-06 03:14:19"});
+    CHECK(lines == Lines{"SetSystemTime 2004-03-06 03:14:19", "RasEnumConnectionsA -> 0 1",
+                         "Pointer 0", "Label \"\"",
+                         "MessageBox \"Einstellungen aktualisiert\" 64 \"Datum und Uhrzeit "
+                         "erfolgreich synchronisiert!\" -> 1",
+                         "SetTimer 1000 -> #3"});
     CHECK(Shown().back() == Success);
     CHECK(Label() == "");
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
-    CHECK(Runs());
+}
+
+TEST_CASE_FIXTURE(Frame, "half a second goes down where the even neighbour is below") {
+    machine.clock.now.second = 8;
+    machine.socket.Serve(37, {{}, ServerAnswer::End::Stays});
+    Press();
+    machine.clock.Advance(500);
+    machine.socket.RaiseAll();
+    machine.network.dialUpConnections = 1;
+    synchronization.ApplyTimeAnswerChecked(Answer);
+    CHECK(ClockCalls() == Lines{"SetSystemTime 2004-03-06 03:14:17"});
 }
 
 TEST_CASE_FIXTURE(Connected, "without a dial-up connection the clock is set and a warning shown") {
@@ -52,11 +67,14 @@ TEST_CASE_FIXTURE(Connected, "without a dial-up connection the clock is set and 
     bool hourglass = false;
     machine.messages.WhileOpen(NoConnection.title,
                                [&] { hourglass = form.Pointer() == toolkit::Hourglass; });
+    CHECK_FALSE(Runs());
     Apply(Answer);
     CHECK(ClockCalls().size() == 1);
     CHECK(Shown().size() == told + 1);
     CHECK(Shown().back() == NoConnection);
     CHECK(hourglass);
+    CHECK(Label() == "");
+    CHECK(machine.journal.Calls("Label") == Lines{"Label \"\""});
     CHECK(form.Pointer() == toolkit::DefaultPointer);
     CHECK(Runs());
 }
@@ -65,10 +83,16 @@ TEST_CASE_FIXTURE(Connected, "an answer of the wrong length is not expected any 
     Apply("\xC3\xF2\xF9 ");
     CHECK(lines.empty());
     CHECK(Shown().size() == told);
+    CHECK(Label() == "angefordert");
+    CHECK_FALSE(Runs());
     Apply(Answer);
     CHECK(ClockCalls().size() == 1);
     CHECK(Shown().back() == LaterAgain);
+    // Emptied, but not painted at once.
+    CHECK(Label() == "");
+    CHECK(machine.journal.Calls("Label").empty());
     CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(Runs());
 }
 
 TEST_CASE_FIXTURE(Frame, "an answer that nobody asked for is told as a failure, after being used") {

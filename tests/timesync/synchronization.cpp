@@ -39,6 +39,25 @@ TEST_CASE_FIXTURE(Frame, "date and time run once a second, from the first second
     CHECK(Label() == "Montag, 02. November 2026, 08:04 Uhr");
 }
 
+TEST_CASE_FIXTURE(Frame, "every day of the week and every month has its German name") {
+    const char* const days[] = {"Montag",  "Dienstag", "Mittwoch", "Donnerstag",
+                                "Freitag", "Samstag",  "Sonntag"};
+    const char* const months[] = {"Januar",    "Februar", "März",     "April",
+                                  "Mai",       "Juni",    "Juli",     "August",
+                                  "September", "Oktober", "November", "Dezember"};
+    // 2018-01-01 was a Monday, and no month of that year has fewer than 28 days.
+    const int daysBefore[] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
+    for (int month = 1; month <= 12; ++month) {
+        for (int day = 1; day <= 28; ++day) {
+            machine.clock.now = {2018, month, day, 8, 4, 0};
+            machine.clock.Advance(1000);
+            const std::string number = (day < 10 ? "0" : "") + std::to_string(day);
+            CHECK(Label() == std::string(days[(daysBefore[month - 1] + day - 1) % 7]) + ", " +
+                                 number + ". " + months[month - 1] + " 2018, 08:04 Uhr");
+        }
+    }
+}
+
 TEST_CASE_FIXTURE(Frame, "starting the running clock again does not start a second one") {
     synchronization.Start_tmrUhrzeit();
     CHECK(machine.clock.RunningTimers() == 1);

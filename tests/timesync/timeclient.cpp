@@ -169,6 +169,19 @@ TEST_CASE_FIXTURE(Client, "the moment of connecting is kept, in seconds since mi
     CHECK(client.connectTime == 14 * 3600 + 7 * 60 + 9 + 0.5f);
 }
 
+TEST_CASE_FIXTURE(Client, "bytes that cannot be taken are the failure of their arrival") {
+    machine.faults.FailAll("Socket.GetData", 10053);
+    form.SetPointer(toolkit::Hourglass);
+    machine.socket.Serve(37, {{Answer}});
+    client.Request();
+    CHECK(machine.socket.RaiseNext());
+    CHECK(FailureOf([&] { machine.socket.RaiseNext(); }) == 10053);
+    CHECK(form.Pointer() == toolkit::Hourglass);
+    machine.socket.RaiseAll();
+    CHECK(machine.journal.Calls("SetSystemTime").empty());
+    CHECK(machine.socket.State() == Socket::Closed);
+}
+
 TEST_CASE_FIXTURE(Client, "a system without a network fails the request") {
     machine.faults.FailAll("Socket.Connect", 429);
     CHECK(FailureOf([&] { client.Request(); }) == 429);

@@ -18,11 +18,12 @@ std::uint32_t Workstation::EnumerateUsers(const std::string& server,
         });
         return code;
     };
-    enumeration.buffer = 0;
+    // A failing call leaves the buffer of the batch before where it is.
     enumeration.users.clear();
     if (const auto code = faults_.Check("NetWkstaUserEnum", server)) {
         return answer(static_cast<std::uint32_t>(*code));
     }
+    enumeration.buffer = 0;
     if (enumeration.resume >= batches.size()) return answer(Success);
     enumeration.users = batches[enumeration.resume++];
     if (!enumeration.users.empty()) enumeration.buffer = static_cast<std::uintptr_t>(++given_);

@@ -4,6 +4,8 @@
 #include <winsock2.h>
 
 #include "contract/machine.h"
+#include "timesync/timeclient.h"
+#include "toolkit/form.h"
 
 namespace {
 
@@ -48,6 +50,25 @@ TEST_CASE_FIXTURE(Fixture,
     Send(First, FD_CLOSE, 0);
     Send(First, FD_READ, 0);
     CHECK(events == "cde10054");
+}
+
+TEST_CASE_FIXTURE(Fixture, "four bytes of a connection that then breaks off set no clock") {
+    socket.Close();
+    toolkit::Form form(machine.Services().forms, "frmMain", "", {});
+    timesync::TimeClient client(
+        form, socket, machine.Services().clock, machine.NotingClock(),
+        {"127.0.0.1", machine.Serve({{{"\xC3\xF2\xF9\xFD"}, ServerAnswer::End::Stays}})});
+    bool arrived = false;
+    const auto take = socket.onDataArrival;
+    socket.onDataArrival = [&] {
+        take();
+        arrived = true;
+    };
+    client.Request();
+    REQUIRE(machine.PassTime(20000, [&] { return arrived; }));
+    Send(First + 1, FD_CLOSE, WSAECONNRESET);
+    CHECK(socket.State() == Socket::Closed);
+    CHECK(machine.ClockSettings().empty());
 }
 
 TEST_CASE_FIXTURE(Fixture, "what was under way for the connection before is passed over") {
