@@ -39,7 +39,8 @@ std::string clsGetDriveSpace::TotalSize(std::string_view drive) const {
 
 std::string clsGetDriveSpace::UsedSize(std::string_view drive) const {
     const platform::DiskSpace space = facts_.Space(drive);
-    return Formatted(Raw(space.total - space.free));
+    // Where a quota limits the user, the total is his share, and more than that may be free.
+    return Formatted(Raw(space.free < space.total ? space.total - space.free : 0));
 }
 
 std::string clsGetDriveSpace::SizeLeft(std::string_view drive) const {

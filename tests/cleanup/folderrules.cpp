@@ -63,7 +63,7 @@ TEST_CASE_FIXTURE(Fixture, "rule 5: All Users in the Windows directory, but not 
     CHECK_FALSE(Excluded("D:\\Win\\All Users\\x"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "rule 6: SendTo in the Windows directory") {
+TEST_CASE_FIXTURE(Fixture, "rule 6, which rule 2 goes before: SendTo in the Windows directory") {
     CHECK(Excluded("D:\\Win\\SendTo"));
     CHECK(Excluded("d:\\win\\SENDTO"));
 }
@@ -75,7 +75,8 @@ TEST_CASE_FIXTURE(Fixture, "rule 7: the system directory and whatever begins lik
     CHECK_FALSE(Excluded("D:\\Win\\Sy"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "rules 8 to 10: Security, catroot2 and usmt in the system directory") {
+TEST_CASE_FIXTURE(
+    Fixture, "rules 8 to 10, which rule 7 goes before: three folders of the system directory") {
     for (const char* path : {"D:\\Win\\Sys\\Security", "D:\\Win\\Sys\\CatRoot2\\x",
                              "D:\\Win\\Sys\\USMT", "d:\\win\\sys\\usmt\\x"}) {
         CHECK(Excluded(path));

@@ -39,6 +39,33 @@ TEST_CASE_FIXTURE(Bin, "after Yes the bins of all drives are empty, though one d
     CHECK(form.Pointer() == toolkit::DefaultPointer);
 }
 
+TEST_CASE_FIXTURE(Bin, "while the bins are emptied the hourglass and a painted line say so") {
+    struct Painting final : toolkit::ControlView {
+        Painting(Bin& bin) : on(bin) { on.frame.lblScannedFiles.SetView(this); }
+        ~Painting() override { on.frame.lblScannedFiles.SetView(nullptr); }
+        void PaintNow() override {
+            painted.push_back(on.frame.lblScannedFiles.Caption());
+            hourglass = on.form.Pointer() == toolkit::Hourglass;
+            before = on.machine.journal.Calls("SHEmptyRecycleBinA").empty();
+        }
+        void Refresh(toolkit::Aspect) override {}
+        void Repaint() override {}
+        bool PointerIsOver() const override { return false; }
+        void TakeFocus() override {}
+        void CaptureMouse() override {}
+        void MoveFocus(bool) override {}
+
+        Bin& on;
+        Lines painted;
+        bool hourglass = false;
+        bool before = false;
+    } painting(*this);
+    Press(platform::message::Yes);
+    CHECK(painting.painted == Lines{"Lösche Papierkorb von Laufwerk 'd:' ..."});
+    CHECK(painting.hourglass);
+    CHECK(painting.before);
+}
+
 TEST_CASE_FIXTURE(Bin, "any answer but Yes leaves bins and labels as they are") {
     for (int answer : {platform::message::No, platform::message::Cancel}) {
         Press(answer);

@@ -181,6 +181,18 @@ TEST_CASE_FIXTURE(Found, "a path that stands twice in the list is deleted once, 
     CHECK(frame.lblHinweisTemp.Caption().starts_with("0 "));
 }
 
+TEST_CASE_FIXTURE(Fixture, "an empty temp file, found by name and by size, goes once, in silence") {
+    File("C:\\x\\empty.tmp", 32, "");
+    Tick(frame.chkNullByteFiles);
+    Search();
+    REQUIRE(Rows() == Lines{"c:\\x\\empty.tmp", "c:\\x\\empty.tmp"});
+    Clean();
+    CHECK(disk.Find("C:\\x\\empty.tmp") == nullptr);
+    CHECK(list.Count() == 0);
+    CHECK(frame.lblHinweisTemp.Caption().starts_with("0 "));
+    CHECK(machine.messages.Shown().size() == 1);
+}
+
 TEST_CASE_FIXTURE(Found, "a failing deletion, whatever its number, leaves the others their turn") {
     for (int number : {5, 53, 70, 75, 76}) {
         File("C:\\x\\a.tmp");

@@ -104,11 +104,15 @@ const Shape Shapes[] = {
      "C:\\UserTemp\\a", nullptr},
     {"a junction in a folder into another tree",
      [](Bounds& on) {
-         on.disk.MakeLink("C:\\UserTemp\\a\\link", "D:\\data");
+         on.disk.MakeLink("C:\\UserTemp\\a\\link", "C:\\data");
          on.File("C:\\UserTemp\\a\\c.dat");
      },
      // The files behind it are rows of their own; unticked they stay.
-     [](Bounds& on) { on.TickLastAlone(); }, "C:\\UserTemp\\a", "D:\\data\\deep\\precious.tmp"},
+     [](Bounds& on) {
+         REQUIRE(on.list.Text(0).starts_with("C:\\UserTemp\\a\\link\\"));
+         on.TickLastAlone();
+     },
+     "C:\\UserTemp\\a", "C:\\data\\deep\\precious.tmp"},
     {"a folder row that is a junction into another tree",
      [](Bounds& on) { on.disk.MakeLink("C:\\UserTemp\\link", "D:\\data"); },
      [](Bounds& on) { on.TickLastAlone(); }, "C:\\UserTemp\\link", "D:\\data\\precious.txt"},

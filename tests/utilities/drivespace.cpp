@@ -46,6 +46,16 @@ TEST_CASE_FIXTURE(Fixture, "free, total and left are three different numbers of 
     CHECK(space.SizeLeft("D:\\") == "3.000.000");
 }
 
+TEST_CASE_FIXTURE(Fixture, "what is used is the total without all that is free, quota or not") {
+    machine.facts.SetSpace('D', {1000, 20003880960, 3000000});
+    CHECK(space.UsedSize("D:\\") == "20.000.880.960");
+    machine.facts.SetSpace('D', {1000, 5000, 5000});
+    CHECK(space.UsedSize("D:\\") == "");
+    // The user's share is smaller than what is free for all.
+    machine.facts.SetSpace('D', {1000, 5000, 3000000});
+    CHECK(space.UsedSize("D:\\") == "");
+}
+
 TEST_CASE_FIXTURE(Fixture, "the system is asked for the drive as it was named") {
     space.UserFree("C:\\");
     CHECK(machine.journal.Lines().size() == 1);
