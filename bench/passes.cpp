@@ -14,7 +14,7 @@
 #include "calls.h"
 #include "platform/simulated/machine.h"
 #include "support/optionsform.h"
-#include "withregistry.h"
+#include "withservices.h"
 
 namespace {
 
@@ -34,7 +34,7 @@ struct BothPasses {
 BothPasses RecordedPasses(const std::string& baseline) {
     BaselineMachine machine(baseline);
     bench::Recorder recorder(machine.registry);
-    const auto services = bench::WithRegistry(machine.services, recorder, machine.locale);
+    const auto services = bench::With(machine.services, {.registry = &recorder});
     tweak_tests::OptionsForm form(services);
     tweaks::Passes passes(form, services);
     recorder.Take();

@@ -21,7 +21,7 @@
 #include "platform/win32/registry.h"
 #include "support/optionsform.h"
 #include "tweaks/passes.h"
-#include "withregistry.h"
+#include "withservices.h"
 
 namespace {
 
@@ -144,7 +144,7 @@ void Fill(const platform::simulated::Registry& from, platform::Registry& registr
 // A form with its passes on the given registry. Each is used once, as the program does.
 struct Options {
     explicit Options(platform::Registry& registry)
-        : services(bench::WithRegistry(simulated.services, registry, locale)),
+        : services(bench::With(simulated.services, {.registry = &registry, .locale = &locale})),
           form(services),
           passes(form, services) {
         simulated.journal.Record(false);

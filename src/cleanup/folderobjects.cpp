@@ -7,7 +7,9 @@ namespace cleanup {
 using platform::FolderEntry;
 
 std::string PathIn(std::string_view folder, std::string_view name) {
-    std::string path(folder);
+    std::string path;
+    path.reserve(folder.size() + 1 + name.size());
+    path = folder;
     if (!folder.ends_with('\\')) path += '\\';
     return path.append(name);
 }

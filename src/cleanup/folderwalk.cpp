@@ -64,9 +64,12 @@ void FolderWalk::ScanFolder(const Folder& folder, bool addAll) {
 void FolderWalk::ScanFile(const std::string& path, const FolderEntry& file, bool addAll) {
     frame_.lblScannedFiles.SetToolTip(path);
     if (scannedFiles_ < std::numeric_limits<std::int32_t>::max()) ++scannedFiles_;
-    frame_.lblHinweisTemp.SetCaption(
-        "Gescannte Dateien: " + std::to_string(scannedFiles_) +
-        " - davon Tempdateien: " + std::to_string(frame_.lvwFiles.Count()));
+    std::string counts;
+    // Made anew for each file, so in one piece.
+    counts.reserve(80);
+    counts.append("Gescannte Dateien: ").append(std::to_string(scannedFiles_));
+    counts.append(" - davon Tempdateien: ").append(std::to_string(frame_.lvwFiles.Count()));
+    frame_.lblHinweisTemp.SetCaption(std::move(counts));
     frame_.ShowProgress(TrimAtNul(machine_.display.CompactPath(frame_.form, path, TextWidth)));
     const auto add = [&] {
         runtime::Skip([&] {

@@ -4,8 +4,10 @@
 
 namespace cleanup {
 
-std::string TrimAtNul(std::string_view text) {
-    return std::string(text.substr(0, text.find('\0')));
+std::string TrimAtNul(std::string text) {
+    const std::size_t end = text.find('\0');
+    if (end != std::string::npos) text.resize(end);
+    return text;
 }
 
 std::string DateText(const platform::Locale& locale, const platform::LocalTime& time) {

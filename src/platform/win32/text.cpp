@@ -6,18 +6,24 @@ namespace platform::win32 {
 
 namespace {
 
+// No code page makes more characters than there are bytes.
 std::wstring Widen(UINT codePage, std::string_view bytes) {
     const int length = static_cast<int>(bytes.size());
-    std::wstring wide(static_cast<std::size_t>(
-                          MultiByteToWideChar(codePage, 0, bytes.data(), length, nullptr, 0)),
-                      L'\0');
-    MultiByteToWideChar(codePage, 0, bytes.data(), length, wide.data(),
-                        static_cast<int>(wide.size()));
+    std::wstring wide(bytes.size(), L'\0');
+    wide.resize(static_cast<std::size_t>(
+        MultiByteToWideChar(codePage, 0, bytes.data(), length, wide.data(), length)));
     return wide;
 }
 
 std::string Narrow(UINT codePage, std::wstring_view wide) {
     const int length = static_cast<int>(wide.size());
+    // Most texts are short, and asking for the length takes as long as converting them.
+    constexpr std::size_t BytesOfCharacter = 3;
+    char room[256];
+    if (wide.size() <= sizeof room / BytesOfCharacter) {
+        return {room, static_cast<std::size_t>(WideCharToMultiByte(
+                          codePage, 0, wide.data(), length, room, sizeof room, nullptr, nullptr))};
+    }
     std::string bytes(static_cast<std::size_t>(WideCharToMultiByte(codePage, 0, wide.data(), length,
                                                                    nullptr, 0, nullptr, nullptr)),
                       '\0');

@@ -4,17 +4,28 @@
 
 namespace bench {
 
-// The same machine with another registry and locale.
-inline platform::Machine WithRegistry(const platform::Machine& machine,
-                                      platform::Registry& registry, platform::Locale& locale) {
+// What stands in for a machine's own; nullptr leaves it.
+struct Services {
+    platform::Registry* registry = nullptr;
+    platform::Folders* folders = nullptr;
+    platform::Shell* shell = nullptr;
+    platform::Locale* locale = nullptr;
+};
+
+template <typename Service>
+Service& Or(Service* other, Service& own) {
+    return other ? *other : own;
+}
+
+inline platform::Machine With(const platform::Machine& machine, const Services& other) {
     return {
         .forms = machine.forms,
-        .registry = registry,
+        .registry = Or(other.registry, machine.registry),
         .settings = machine.settings,
         .files = machine.files,
-        .folders = machine.folders,
+        .folders = Or(other.folders, machine.folders),
         .processes = machine.processes,
-        .shell = machine.shell,
+        .shell = Or(other.shell, machine.shell),
         .session = machine.session,
         .autostart = machine.autostart,
         .system = machine.system,
@@ -30,7 +41,7 @@ inline platform::Machine WithRegistry(const platform::Machine& machine,
         .network = machine.network,
         .workstation = machine.workstation,
         .socket = machine.socket,
-        .locale = locale,
+        .locale = Or(other.locale, machine.locale),
         .clipboard = machine.clipboard,
         .beeper = machine.beeper,
         .browser = machine.browser,
