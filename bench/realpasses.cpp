@@ -82,6 +82,12 @@ class BareRegistry final : public platform::Registry {
     Result RemoveKey(Key parent, std::string_view path) override {
         return RegDeleteKeyA(Native(parent), path.data());
     }
+    // The passes know their keys and values by name.
+    Result EnumerateKey(Key, std::uint32_t, std::string&) override { return NoMoreItems; }
+    Result LongestValueName(Key, std::uint32_t&) override { return NoMoreItems; }
+    Result EnumerateValue(Key, std::uint32_t, std::uint32_t, std::string&) override {
+        return NoMoreItems;
+    }
     Result Close(Key key) override { return RegCloseKey(Native(key)); }
 
   private:

@@ -47,6 +47,7 @@ inline platform::Machine With(const platform::Machine& machine, const Services& 
         .browser = machine.browser,
         .messages = machine.messages,
         .menus = machine.menus,
+        .toolTips = machine.toolTips,
         .tray = machine.tray,
         .program = machine.program,
     };

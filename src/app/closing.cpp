@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/programoptions.h"
+#include "controls/ctooltip.h"
 #include "platform/locale.h"
 #include "platform/program.h"
 #include "platform/settings.h"
@@ -32,7 +33,8 @@ void StoreWindowFacts(const toolkit::Form& form, const platform::Machine& machin
 
 }  // namespace
 
-void CloseProgram(toolkit::Form& form, const platform::Machine& machine) {
+void CloseProgram(toolkit::Form& form, const platform::Machine& machine,
+                  std::optional<controls::cToolTip>& tips) {
     platform::Settings settings(machine.settings);
 
     // A window that hides in the tray has no place worth remembering; that the server name typed
@@ -45,6 +47,7 @@ void CloseProgram(toolkit::Form& form, const platform::Machine& machine) {
 
     // A window hidden in the tray must exist visibly while the forms close.
     form.Show();
+    tips.reset();
     machine.tray.SetShown(false);
     for (toolkit::Form* open : machine.forms.OpenForms()) {
         if (open != &form) open->Unload();

@@ -16,6 +16,7 @@
 #include "runtime/failure.h"
 #include "toolkit/controls.h"
 #include "tweaks/autotuning.h"
+#include "tweaks/helptexts.h"
 #include "tweaks/networksets.h"
 #include "tweaks/pathspage.h"
 #include "tweaks/presets.h"
@@ -50,6 +51,8 @@ frmMain::frmMain(const platform::Machine& machine)
       about_(machine_, version_),
       systemInformation_(machine_),
       loggedInUsers_(machine_),
+      installedSoftware_(machine_),
+      virtualDrive_(machine_),
       apply_(*this, password_, machine_,
              {.saveProgramOptions = [this] { SaveProgramOptions(*this, machine_); },
               .writeRegistry = [this] { WriteRegistry(); }}),
@@ -78,6 +81,10 @@ void frmMain::WriteRegistry() {
 void frmMain::BuildVersion() {
     version_ = VersionText(MajorVersion, MinorVersion, Revision);
     SetCaption(std::string(platform::ProgramTitle) + " " + version_);
+}
+
+void frmMain::SetHelpTexts() {
+    tweaks::HangHelpTexts(*this, toolTip_.emplace(machine_.toolTips));
 }
 
 void frmMain::DoLogoff() {
@@ -131,11 +138,13 @@ void frmMain::OnMouseMove() {
 void frmMain::OnQueryUnload() {
     synchronization_.Stop_tmrUhrzeit();
     if (!warningAccepted_) machine_.program.End();
-    log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_); });
+    log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_, toolTip_); });
 }
 
-// A hidden dialog must not keep the process alive when closing could not end it.
+// A hidden dialog must not keep the process alive when closing could not end it. The tooltip object
+// is still there then, too, and must leave the controls before their windows go.
 void frmMain::OnUnload() {
+    toolTip_.reset();
     machine_.tray.SetShown(false);
     password_.Unload();
 }
@@ -149,6 +158,12 @@ void frmMain::Connect() {
     };
     Find<controls::chameleonButton>("cmdShowAllLoggedOnUsers").onClick = [this] {
         ShowDialog(loggedInUsers_);
+    };
+    Find<controls::chameleonButton>("cmdInstalledSoftware").onClick = [this] {
+        ShowDialog(installedSoftware_);
+    };
+    Find<controls::chameleonButton>("cmdVirtualDrive").onClick = [this] {
+        ShowDialog(virtualDrive_);
     };
     Find<controls::chameleonButton>("cmdSynchronizeDateTime").onClick = [this] {
         synchronization_.cmdSynchronizeDateTime_Click();
@@ -174,6 +189,8 @@ void frmMain::OpenTrayMenu() {
 }
 
 void frmMain::ShowDialog(Form& dialog) {
+    // One that lets events through as it loads is shown once, however often its button is pressed.
+    if (dialog.Loaded()) return;
     try {
         dialog.Load();
         controls::fFormInFormZentrieren(dialog, *this, machine_.forms.WorkArea());

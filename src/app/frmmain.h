@@ -5,6 +5,7 @@
 
 #include "app/errorlog.h"
 #include "cleanup/cleanuppage.h"
+#include "controls/ctooltip.h"
 #include "controls/frmabout.h"
 #include "controls/frmpassword.h"
 #include "platform/machine.h"
@@ -13,8 +14,10 @@
 #include "toolkit/popupmenu.h"
 #include "tweaks/apply.h"
 #include "tweaks/passes.h"
+#include "utilities/frminstalledsoftware.h"
 #include "utilities/frmshowallloggedinusers.h"
 #include "utilities/frmsysteminformation.h"
+#include "utilities/frmvirtualdrive.h"
 #include "utilities/launchers.h"
 
 namespace app {
@@ -45,6 +48,9 @@ class frmMain final : public toolkit::Form {
     void LockStation();
 
     cleanup::CleanUpPage& CleanUp() { return *cleanUp_; }
+
+    // Makes the tooltip object and gives the controls their help texts.
+    void SetHelpTexts();
 
     // Builds strVersion and puts it into the caption.
     void BuildVersion();
@@ -77,8 +83,11 @@ class frmMain final : public toolkit::Form {
     controls::frmAbout about_;
     utilities::frmSystemInformation systemInformation_;
     utilities::frmShowAllLoggedInUsers loggedInUsers_;
+    utilities::frmInstalledSoftware installedSoftware_;
+    utilities::frmVirtualDrive virtualDrive_;
     tweaks::Apply apply_;
     toolkit::PopupMenu mnuPopUpTray_;
+    std::optional<controls::cToolTip> toolTip_;
 };
 
 }  // namespace app

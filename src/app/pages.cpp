@@ -43,17 +43,19 @@ Box AddPages(frmMain& form, platform::Machine& machine, const utilities::Launche
 }
 
 Box AddWindowButtons(frmMain& form, const platform::Machine& machine) {
-    const auto button = [&](const char* name, const char* caption) {
-        return toolkit::Leaf(form.Add<controls::chameleonButton>(name, caption, machine.clock));
+    const auto button = [&](const char* name, const char* properties) {
+        return toolkit::Leaf(form.Add<controls::chameleonButton>(
+            name, controls::Persisted{properties}, machine.clock));
     };
     std::vector<Box> row;
-    row.push_back(button("cmdSetAllOptimal", "AutoTuning"));
-    row.push_back(button("cmdSysInfo", "SysInfo"));
-    row.push_back(button("cmdHilfe", "Hilfe"));
-    row.push_back(button("cmdAbout", "Info"));
+    row.push_back(button("cmdSetAllOptimal", "TX=AutoTuning"));
+    form.FindControl("cmdSetAllOptimal")->SetToolTip("Alle Einstellungen auf 'Empfohlen' setzen.");
+    row.push_back(button("cmdSysInfo", "TX=SysInfo"));
+    row.push_back(button("cmdHilfe", "TX=Hilfe"));
+    row.push_back(button("cmdAbout", "TX=Info"));
     row.push_back(toolkit::Filler());
-    row.push_back(button("cmdApply", "Übernehmen"));
-    row.push_back(button("cmdEnd", "Beenden"));
+    row.push_back(button("cmdApply", "TX=Übernehmen"));
+    row.push_back(button("cmdEnd", "TX=Beenden"));
     return toolkit::Gap(toolkit::Row(std::move(row)), 8);
 }
 

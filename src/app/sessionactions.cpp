@@ -69,16 +69,17 @@ void DoShutdown(toolkit::Form& mainForm, const platform::Machine& machine) {
 
 toolkit::Box AddSessionButtons(frmMain& form, platform::Clock& clock) {
     auto& frame = form.Add<toolkit::Frame>("Frame6", "Sitzung");
-    const auto button = [&](const char* name, const char* caption, toolkit::Handler onClick) {
-        auto& made = form.Add<controls::chameleonButton>(name, caption, clock);
+    const auto button = [&](const char* name, const char* properties, toolkit::Handler onClick) {
+        auto& made =
+            form.Add<controls::chameleonButton>(name, controls::Persisted{properties}, clock);
         made.onClick = std::move(onClick);
         return toolkit::Stretch(toolkit::Leaf(made));
     };
     std::vector<toolkit::Box> cells;
-    cells.push_back(button("cmdShutdown(0)", "Ausschalten", [&form] { form.DoShutdown(); }));
-    cells.push_back(button("cmdShutdown(1)", "Neu starten", [&form] { form.DoReboot(); }));
-    cells.push_back(button("cmdShutdown(2)", "Abmelden", [&form] { form.DoLogoff(); }));
-    cells.push_back(button("cmdLockWS", "Sperren", [&form] { form.LockStation(); }));
+    cells.push_back(button("cmdShutdown(0)", "TX=Ausschalten", [&form] { form.DoShutdown(); }));
+    cells.push_back(button("cmdShutdown(1)", "TX=Neu starten", [&form] { form.DoReboot(); }));
+    cells.push_back(button("cmdShutdown(2)", "TX=Abmelden", [&form] { form.DoLogoff(); }));
+    cells.push_back(button("cmdLockWS", "TX=Sperren", [&form] { form.LockStation(); }));
     return toolkit::InFrame(frame, toolkit::Grid(2, std::move(cells)));
 }
 

@@ -150,6 +150,7 @@ void StartUp(frmMain& form, const platform::Machine& machine) {
     Skip([&] { cleanUp.internetCache.Fill(); });
     RestoreProgramOptions(form, machine);
     Skip([&] { ShowServicePack(form, machine); });
+    Skip([&] { form.SetHelpTexts(); });
     Skip([&] {
         form.Find<toolkit::TextBox>("txtSyncServer")
             .SetText(settings.GetSetting("Options", "ServerName"));

@@ -28,18 +28,17 @@ Box AddOptions(frmMain& form) {
     return toolkit::InFrame(frame, toolkit::Column(std::move(column)));
 }
 
-// Each of them opens a dialog; a button whose dialog is not there yet is disabled.
+// Each of them opens a dialog.
 Box AddDialogButtons(frmMain& form, platform::Clock& clock) {
-    const auto button = [&](const char* name, const char* caption, bool enabled) {
-        auto& made = form.Add<controls::chameleonButton>(name, caption, clock);
-        made.SetEnabled(enabled);
-        return Leaf(made);
+    const auto button = [&](const char* name, const char* properties) {
+        return Leaf(
+            form.Add<controls::chameleonButton>(name, controls::Persisted{properties}, clock));
     };
     std::vector<Box> column;
     column.push_back(button("cmdShowAllLoggedOnUsers",
-                            "Alle gerade am System angemeldeten Benutzer anzeigen", true));
-    column.push_back(button("cmdInstalledSoftware", "Installierte Software", false));
-    column.push_back(button("cmdVirtualDrive", "Virtuelle Laufwerke verwalten", false));
+                            "TX=Alle gerade am System angemeldeten Benutzer anzeigen"));
+    column.push_back(button("cmdInstalledSoftware", "TX=Installierte Software"));
+    column.push_back(button("cmdVirtualDrive", "TX=Virtuelle Laufwerke verwalten"));
     return toolkit::Column(std::move(column));
 }
 

@@ -17,8 +17,10 @@ InternetCacheFrame::InternetCacheFrame(toolkit::Form& owner, platform::InternetC
       lblStatusIEClear(form.Add<toolkit::Label>("lblStatusIEClear", "Status Löschvorgang:")),
       prgbarIE1(form.Add<toolkit::ProgressBar>("prgbarIE1")),
       chkDeleteCookies(form.Add<toolkit::CheckBox>("chkDeleteCookies", "inkl. Cookies löschen")),
-      cmdUpdateIECache(form.Add<chameleonButton>("cmdUpdateIECache", "&Aktualisieren", clock)),
-      cmdClearIECache(form.Add<chameleonButton>("cmdClearIECache", "Cache löschen", clock)),
+      cmdUpdateIECache(form.Add<chameleonButton>("cmdUpdateIECache",
+                                                 controls::Persisted{"TX=&Aktualisieren"}, clock)),
+      cmdClearIECache(form.Add<chameleonButton>("cmdClearIECache",
+                                                controls::Persisted{"TX=Cache löschen"}, clock)),
       cache_(cache),
       locale_(locale) {
     cmdClearIECache.SetEnabled(false);

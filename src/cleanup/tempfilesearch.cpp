@@ -14,6 +14,7 @@
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "runtime/text.h"
+#include "toolkit/listhelpers.h"
 #include "utilities/systemdirectorypaths.h"
 #include "utilities/systemfacts.h"
 
@@ -142,7 +143,7 @@ void TempFileSearch::AddSizes(std::int32_t& total) const {
 
 void TempFileSearch::End(std::int32_t total) {
     frame_.lvwFiles.UnlockWindow();
-    AdjustColumnWidth(frame_.lvwFiles, true, 1);
+    toolkit::AdjustColumnWidth(frame_.lvwFiles, true, 1);
     frame_.lblScannedFiles.SetCaption("Suchvorgang abgeschlossen!");
     const int rows = frame_.lvwFiles.Count();
     frame_.lblHinweisTemp.SetCaption(

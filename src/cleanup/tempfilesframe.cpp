@@ -1,10 +1,9 @@
 #include "cleanup/tempfilesframe.h"
 
-#include <algorithm>
-
 #include "platform/machine.h"
 #include "platform/menus.h"
 #include "toolkit/form.h"
+#include "toolkit/listhelpers.h"
 
 namespace cleanup {
 
@@ -33,10 +32,12 @@ TempFilesFrame::TempFilesFrame(toolkit::Form& owner, platform::Machine& machine)
       lvwFiles(form.Add<toolkit::ListView>("lvwFiles", toolkit::ListViewStyle{.checkBoxes = true})),
       lblScannedFiles(form.Add<Label>("lblScannedFiles", "", toolkit::LabelStyle::Path)),
       chkCleanRecycleBin(form.Add<CheckBox>("chkCleanRecycleBin", "Papierkorb leeren")),
-      cmdCleanBinDirect(form.Add<chameleonButton>("cmdCleanBinDirect", "Sofort", machine.clock)),
-      cmdSearchTempFiles(form.Add<chameleonButton>("cmdSearchTempFiles", "Suchen", machine.clock)),
-      cmdCleanTempFiles(
-          form.Add<chameleonButton>("cmdCleanTempFiles", "Dateien löschen", machine.clock)),
+      cmdCleanBinDirect(form.Add<chameleonButton>("cmdCleanBinDirect",
+                                                  controls::Persisted{"TX=Sofort"}, machine.clock)),
+      cmdSearchTempFiles(form.Add<chameleonButton>(
+          "cmdSearchTempFiles", controls::Persisted{"TX=Suchen"}, machine.clock)),
+      cmdCleanTempFiles(form.Add<chameleonButton>(
+          "cmdCleanTempFiles", controls::Persisted{"TX=Dateien löschen"}, machine.clock)),
       mnuTempFiles{"mnuTempFiles",
                    {{"mnuSelectAll", "Alle markieren", [this] { TickAll(true); }},
                     {"mnuDeselectAll", "Alle Markierungen aufheben", [this] { TickAll(false); }}}},
@@ -45,7 +46,9 @@ TempFilesFrame::TempFilesFrame(toolkit::Form& owner, platform::Machine& machine)
         lvwFiles.AddColumn(header);
     }
     cmdCleanTempFiles.SetEnabled(false);
-    lvwFiles.onColumnClick = [this](int header) { SortBy(header); };
+    lvwFiles.onColumnClick = [this](int header) {
+        toolkit::SortByHeader(lvwFiles, header, sortDescending_);
+    };
     lvwFiles.onRightButton = [this] { OpenMenu(); };
 }
 
@@ -60,14 +63,6 @@ void TempFilesFrame::TickAll(bool ticked) {
 void TempFilesFrame::ShowProgress(std::string text) {
     lblScannedFiles.SetCaption(std::move(text));
     if (lblScannedFiles.View()) lblScannedFiles.View()->PaintNow();
-}
-
-void TempFilesFrame::SortBy(int header) {
-    sortDescending_ = !sortDescending_;
-    lvwFiles.SetSortKey(header);
-    lvwFiles.SetSortOrder(sortDescending_ ? toolkit::ListView::Descending
-                                          : toolkit::ListView::Ascending);
-    lvwFiles.SetSorted(true);
 }
 
 void TempFilesFrame::OpenMenu() {
@@ -87,12 +82,6 @@ toolkit::Box TempFilesFrame::Layout() const {
                 Leaf(lblHinweisTemp), Stretch(Leaf(lvwFiles)), Leaf(lblScannedFiles),
                 Row({Leaf(chkCleanRecycleBin), Leaf(cmdCleanBinDirect), Filler(),
                      Leaf(cmdSearchTempFiles), Leaf(cmdCleanTempFiles)})}));
-}
-
-void AdjustColumnWidth(toolkit::ListView& list, bool accountForHeaders, int endColumnsToExclude) {
-    const int count = static_cast<int>(list.Columns().size());
-    const int last = std::min(count - endColumnsToExclude, count - 1);
-    for (int index = 0; index <= last; ++index) list.FitColumn(index, accountForHeaders);
 }
 
 }  // namespace cleanup

@@ -65,17 +65,11 @@ class TempFilesFrame {
     toolkit::PopupMenu mnuTempFiles;
 
   private:
-    void SortBy(int header);
     void OpenMenu();
 
     platform::Machine& machine_;
-    // Not reset by a search, so the first click of all sorts descending and each further one, on
-    // whichever header, the other way round.
+    // Not reset by a search.
     bool sortDescending_ = false;
 };
-
-// Sends the columns from 0 to the number of columns minus `endColumnsToExclude`, that one included,
-// to the width of their widest text, or of their header if that is wider and counts.
-void AdjustColumnWidth(toolkit::ListView& list, bool accountForHeaders, int endColumnsToExclude);
 
 }  // namespace cleanup

@@ -1,15 +1,36 @@
 #pragma once
 
-#include <string_view>
-
+#include "controls/buttoncolours.h"
+#include "controls/buttonproperties.h"
+#include "controls/buttonshape.h"
 #include "toolkit/canvas.h"
 
 namespace controls {
 
-// What one picture of a button depends on.
+// The picture that a button shows.
+enum class ButtonState { Normal = 0, Hovered = 1, Pressed = 2 };
+
+// The shape of a ButtonType; a number that has no look has that of the default, 2.
+Shape ShapeOf(std::int16_t buttonType);
+// Whether the look begins with what the parent shows behind the button.
+bool IsTransparent(std::int16_t buttonType);
+
+// Where caption and picture stand while the button is not down.
+struct Places {
+    toolkit::Rect text;
+    toolkit::Point picture;
+};
+
+// Measures the caption; where it is too wide for the button it gets several lines.
+Places PlaceContents(const toolkit::Canvas& canvas, toolkit::Rect client,
+                     const ButtonProperties& properties);
+
+// What one picture of a button depends on beside its properties.
 struct ButtonFace {
-    std::string_view caption;
-    bool enabled = true;
+    const ButtonProperties& properties;
+    const WorkingColours& colours;
+    const Places& places;
+    ButtonState state = ButtonState::Normal;
     // Pressed now, or kept pressed as a check box.
     bool down = false;
     // The button that Return presses.
@@ -17,9 +38,7 @@ struct ButtonFace {
     bool focusRect = false;
 };
 
-// The look of ButtonType 2: a face with a bevel of two lines, which turns inside out when the
-// button goes down. It knows no hovered picture of its own. Drawn in a fixed order: face and frame,
-// caption, edges, focus rectangle.
+// Draws in a fixed order: face and frame, picture and caption, edges, focus rectangle.
 void DrawButton(toolkit::Canvas& canvas, toolkit::Rect client, const ButtonFace& face);
 
 }  // namespace controls

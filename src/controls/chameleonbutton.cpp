@@ -1,8 +1,9 @@
 #include "controls/chameleonbutton.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "controls/buttonlook.h"
+#include "controls/propertystore.h"
 
 namespace controls {
 
@@ -18,33 +19,35 @@ constexpr int UpKey = 38;
 constexpr int RightKey = 39;
 constexpr int DownKey = 40;
 
-void Raise(const toolkit::Handler& handler) {
-    if (handler) handler();
+template <typename Handler, typename... Facts>
+void Raise(const Handler& handler, const Facts&... facts) {
+    if (handler) handler(facts...);
 }
 
 }  // namespace
 
-chameleonButton::chameleonButton(toolkit::Form& form, std::string name, std::string caption,
+chameleonButton::chameleonButton(toolkit::Form& form, std::string name, Persisted properties,
                                  platform::Clock& clock)
-    : DrawnControl(form, toolkit::ControlKind::Drawn, std::move(name), std::move(caption), true),
-      clock_(clock) {}
+    : DrawnControl(form, toolkit::ControlKind::Drawn, std::move(name), "", true), clock_(clock) {
+    ReadProperties(PropertyStore(properties.lines));
+}
 
 chameleonButton::~chameleonButton() {
     StopWatching();
 }
 
-void chameleonButton::SetShowFocusRect(bool shown) {
-    showFocusRect_ = shown;
-    Redraw(state_, true);
-}
-
-void chameleonButton::SetCheckBoxBehaviour(bool on) {
-    checkBoxBehaviour_ = on;
-    Redraw(state_, true);
-}
-
-void chameleonButton::SetValue(bool value) {
-    value_ = value;
+// The colours and the places follow with the next picture; the access key is the window's, by its
+// text.
+void chameleonButton::ReadProperties(const PropertyStore& store) {
+    // What is read is nobody's change.
+    reading_ = true;
+    properties_ = ReadButtonProperties(store);
+    SetEnabled(properties_.enabled);
+    SetCaption(properties_.caption);
+    reading_ = false;
+    colours_.reset();
+    places_.reset();
+    ShapeChanged();
     Redraw(state_, true);
 }
 
@@ -56,56 +59,141 @@ toolkit::Size chameleonButton::NaturalSize(toolkit::Size text) const {
     return {std::max(text.width + scaled(20), scaled(75)), scaled(23)};
 }
 
+// While the mouse is over a button of the second scheme, its other background takes the place of
+// the usual one for the length of the drawing.
 void chameleonButton::Paint(toolkit::Canvas& canvas, toolkit::Rect client) {
+    if (settingUp_) return;
+    if (!properties_.font.name.empty()) canvas.UseFont(properties_.font);
+    if (client != client_) places_.reset();
+    client_ = client;
+    const bool swaps = properties_.colorScheme == 2 && state_ == ButtonState::Hovered;
+    const auto swapped = [&] {
+        if (!swaps) return;
+        std::swap(properties_.backColor, properties_.backOver);
+        colours_.reset();
+    };
+    swapped();
+    if (!colours_) colours_.emplace(canvas, properties_);
+    if (!places_) places_ = PlaceContents(canvas, client, properties_);
     DrawButton(canvas, client,
-               {.caption = Caption(),
-                .enabled = Enabled(),
-                .down = state_ == DrawState::Pressed || (checkBoxBehaviour_ && value_),
+               {.properties = properties_,
+                .colours = *colours_,
+                .places = *places_,
+                .state = state_,
+                .down = state_ == ButtonState::Pressed ||
+                        (properties_.checkBoxBehaviour && properties_.value),
                 .isDefault = isDefault_,
-                .focusRect = hasFocus_ && showFocusRect_});
+                .focusRect = hasFocus_ && properties_.showFocusRect});
+    swapped();
+}
+
+void chameleonButton::Show(toolkit::Rect client) {
+    settingUp_ = false;
+    client_ = client;
+    ShapeChanged();
+}
+
+void chameleonButton::Resize(toolkit::Rect client) {
+    client_ = client;
+    places_.reset();
+    ShapeChanged();
+    Redraw(state_, true);
+}
+
+void chameleonButton::SettingsChanged() {
+    Refresh();
+}
+
+// What happened meanwhile was not drawn, the leaving of the mouse neither.
+void chameleonButton::Refresh() {
+    settingUp_ = false;
+    colours_.reset();
+    places_.reset();
+    ShapeChanged();
+    Redraw(PointerIsOver() ? state_ : ButtonState::Normal, true);
+}
+
+toolkit::Pointer chameleonButton::MousePicture() const {
+    if (properties_.handPointer) return {toolkit::Pointer::Hand};
+    return {properties_.mousePointer, properties_.mouseIcon.get()};
+}
+
+void chameleonButton::Changed(toolkit::Aspect what) {
+    DrawnControl::Changed(what);
+    if (what == toolkit::Aspect::Caption) {
+        properties_.caption = Caption();
+        Stored(key::Caption, Concerns::Contents);
+    } else if (what == toolkit::Aspect::Enabled) {
+        properties_.enabled = Enabled();
+        Stored(key::Enabled, Concerns::Picture);
+    }
+}
+
+void chameleonButton::Stored(const char* key, Concerns what) {
+    if (what == Concerns::Colours || what == Concerns::Shape) colours_.reset();
+    if (what == Concerns::Contents || what == Concerns::Shape) places_.reset();
+    if (what == Concerns::Shape) ShapeChanged();
+    if (what != Concerns::Nothing) Redraw(state_, true);
+    if (onPropertyChanged && !reading_) onPropertyChanged(key);
+}
+
+// A window that never had a shape is not told that it has none, which would cost each start.
+void chameleonButton::ShapeChanged() {
+    if (settingUp_ || !View()) return;
+    const Shape shape = ShapeOf(properties_.buttonType);
+    const bool hasShape = shape.corner != Corner::Square;
+    if (hasShape || hadShape_) View()->SetRegion(RegionOf(client_, shape));
+    hadShape_ = hasShape;
+    const bool isTransparent = IsTransparent(properties_.buttonType);
+    if (isTransparent || wasTransparent_) View()->KeepBackground(isTransparent);
+    wasTransparent_ = isTransparent;
 }
 
 // Entering with the button held shows the pressed picture without a MouseOver; that comes with the
 // first move after the release, so that each MouseOver still has its MouseOut.
-void chameleonButton::MouseMove(MouseButton held) {
+void chameleonButton::MouseMove(toolkit::Mouse mouse) {
+    Raise(onMouseMove, mouse);
     if (!PointerIsOver()) {
-        Redraw(DrawState::Normal);
-    } else if (held == MouseButton::None && overTimer_ == NoTimer) {
+        Redraw(ButtonState::Normal);
+    } else if (mouse.button == MouseButton::None && overTimer_ == NoTimer) {
         WatchPointer();
-        Redraw(DrawState::Hovered);
+        Redraw(ButtonState::Hovered);
         Raise(onMouseOver);
-    } else if (held == MouseButton::Left) {
-        Redraw(DrawState::Pressed);
+    } else if (mouse.button == MouseButton::Left) {
+        Redraw(ButtonState::Pressed);
     }
 }
 
-void chameleonButton::MouseDown(MouseButton button) {
-    leftPress_ = button == MouseButton::Left;
-    if (button == MouseButton::Right) return;
+void chameleonButton::MouseDown(toolkit::Mouse mouse) {
+    Raise(onMouseDown, mouse);
+    leftPress_ = mouse.button == MouseButton::Left;
+    if (mouse.button == MouseButton::Right) return;
     CaptureMouse();
-    Redraw(DrawState::Pressed);
+    Redraw(ButtonState::Pressed);
 }
 
 // A release outside shows the hovered picture too, on purpose: the look of a button depends on the
 // button released, and its click alone on where the mouse is.
-void chameleonButton::MouseUp(MouseButton button) {
-    if (button == MouseButton::Right) return;
-    Redraw(DrawState::Hovered);
+void chameleonButton::MouseUp(toolkit::Mouse mouse) {
+    Raise(onMouseUp, mouse);
+    if (mouse.button == MouseButton::Right) return;
+    Redraw(ButtonState::Hovered);
     const bool clicked = leftPress_ && PointerIsOver();
     leftPress_ = false;
     if (clicked) Click();
 }
 
-void chameleonButton::DoubleClick(MouseButton button) {
-    if (button != MouseButton::Left) return;
-    CaptureMouse();
+void chameleonButton::DoubleClick(toolkit::Mouse mouse) {
+    if (mouse.button != MouseButton::Left) return;
     Raise(onDblClick);
+    CaptureMouse();
 }
 
-void chameleonButton::KeyDown(int virtualKey) {
-    switch (virtualKey) {
+void chameleonButton::KeyDown(toolkit::Key key) {
+    Raise(onKeyDown, key);
+    switch (key.code) {
         case SpaceKey:
-            Redraw(DrawState::Pressed);
+            Redraw(ButtonState::Pressed);
             break;
         case LeftKey:
         case UpKey:
@@ -120,8 +208,13 @@ void chameleonButton::KeyDown(int virtualKey) {
     }
 }
 
-void chameleonButton::KeyUp(int virtualKey) {
-    if (virtualKey == SpaceKey) Click();
+void chameleonButton::KeyPress(char16_t character) {
+    Raise(onKeyPress, character);
+}
+
+void chameleonButton::KeyUp(toolkit::Key key) {
+    Raise(onKeyUp, key);
+    if (key.code == SpaceKey) Click();
 }
 
 // Without the focus the space key's release goes elsewhere, so the button comes up by itself.
@@ -129,8 +222,8 @@ void chameleonButton::FocusChanged(bool focused) {
     hasFocus_ = focused;
     // A button that was left with the keyboard while it was held is not to click later.
     if (!focused) leftPress_ = false;
-    const bool comesUp = !focused && state_ == DrawState::Pressed;
-    Redraw(comesUp ? DrawState::Normal : state_, true);
+    const bool comesUp = !focused && state_ == ButtonState::Pressed;
+    Redraw(comesUp ? ButtonState::Normal : state_, true);
 }
 
 void chameleonButton::MarkDefault(bool marked) {
@@ -151,7 +244,7 @@ void chameleonButton::StopWatching() {
 void chameleonButton::OverTimerTick() {
     if (PointerIsOver()) return;
     StopWatching();
-    Redraw(DrawState::Normal);
+    Redraw(ButtonState::Normal);
     Raise(onMouseOut);
 }
 
@@ -167,13 +260,14 @@ void chameleonButton::MoveFocus(bool forward) {
 
 void chameleonButton::Click() {
     if (!Enabled()) return;
-    if (checkBoxBehaviour_) value_ = !value_;
-    Redraw(PointerIsOver() ? DrawState::Hovered : DrawState::Normal, true);
+    if (properties_.checkBoxBehaviour) properties_.value = !properties_.value;
+    Redraw(PointerIsOver() ? ButtonState::Hovered : ButtonState::Normal, true);
+    if (View()) View()->PaintNow();
     Raise(onClick);
 }
 
-void chameleonButton::Redraw(DrawState state, bool force) {
-    if (state == state_ && !force) return;
+void chameleonButton::Redraw(ButtonState state, bool force) {
+    if (settingUp_ || (state == state_ && !force)) return;
     state_ = state;
     if (View()) View()->Repaint();
 }

@@ -47,7 +47,7 @@ frmAbout::frmAbout(const platform::Machine& machine, const std::string& strVersi
     auto& risk = Add<toolkit::Label>("Label4", Risk);
     auto& internet = Add<toolkit::Label>("Label5", "Im Internet:");
     auto& webPage = Add<toolkit::Label>("Label1", WebPage);
-    auto& cmdOK = Add<chameleonButton>("cmdOK", "OK", machine.clock);
+    auto& cmdOK = Add<chameleonButton>("cmdOK", Persisted{"TX=OK"}, machine.clock);
     webPage.SetTextColour(Blue);
     webPage.onClick = [this] { Label1_Click(); };
     cmdOK.onClick = [this] { FadeOut(); };

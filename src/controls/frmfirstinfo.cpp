@@ -28,8 +28,8 @@ frmFirstInfo::frmFirstInfo(const platform::Machine& machine)
     : Form(machine.forms, "frmFirstInfo", "Warnung", {}), settings_(machine.settings) {
     auto& warning = Add<toolkit::Label>("Label1", Warning);
     auto& declaration = Add<toolkit::Label>("Label2", Declaration);
-    auto& accept = Add<chameleonButton>("Command2", "Akzeptieren", machine.clock);
-    auto& refuse = Add<chameleonButton>("Command1", "Ablehnen", machine.clock);
+    auto& accept = Add<chameleonButton>("Command2", Persisted{"TX=Akzeptieren"}, machine.clock);
+    auto& refuse = Add<chameleonButton>("Command1", Persisted{"TX=Ablehnen"}, machine.clock);
     accept.onClick = [this] { Accept(); };
     refuse.onClick = [this] { Unload(); };
 

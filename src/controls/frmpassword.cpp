@@ -15,8 +15,8 @@ frmPassword::frmPassword(const platform::Machine& machine)
         Add<toolkit::Label>("Label2", "Bitte geben Sie das Auto-Login-Passwort noch einmal ein:");
     auto& txtPasswort =
         Add<toolkit::TextBox>("txtPasswort", toolkit::TextBoxStyle{.password = true});
-    auto& cmdOK = Add<chameleonButton>("cmdOK", "OK", machine.clock);
-    auto& cmdCancel = Add<chameleonButton>("cmdCancel", "Abbrechen", machine.clock);
+    auto& cmdOK = Add<chameleonButton>("cmdOK", Persisted{"TX=OK"}, machine.clock);
+    auto& cmdCancel = Add<chameleonButton>("cmdCancel", Persisted{"TX=Abbrechen"}, machine.clock);
     cmdOK.onClick = [this] { Hide(); };
     cmdCancel.onClick = [this, &txtPasswort] {
         txtPasswort.SetText("");

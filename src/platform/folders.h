@@ -48,9 +48,21 @@ class Folders {
     // GetFileAttributesExW: what stands at the path, named as asked for; nothing where nothing is.
     virtual std::optional<FolderEntry> Find(std::string_view path) const = 0;
 
-    // GetFullPathNameW: without "." and "..", from a drive on; whether anything is there or not.
+    // GetFullPathNameW: without "." and "..", from a drive on; whether anything is there or not. A
+    // drive alone ("C:") is its current directory, with or without a backslash at its end.
     // "" for an empty path.
     virtual std::string FullPath(std::string_view path) const = 0;
+
+    // SetCurrentDirectoryW: programs started later begin there. Throws Failure PathNotFound where
+    // there is no such folder, and PermissionDenied for one that may not be used.
+    virtual void MakeCurrent(std::string_view path) = 0;
+
+    // GetShortPathNameA, told to use that many characters, the NUL among them: each name of the
+    // path in its 8.3 form. "" when nothing is there or it does not fit.
+    virtual std::string ShortPath(std::string_view path, std::size_t room) const = 0;
+
+    // GetLongPathNameW: the opposite; the path itself when nothing is there.
+    virtual std::string LongPath(std::string_view path) const = 0;
 
     // RemoveDirectoryW: an empty folder, or a link to a folder, which goes by itself and leaves
     // what it leads to. One with the read-only attribute goes with `force` only. Throws Failure

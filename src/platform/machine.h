@@ -33,6 +33,7 @@ class Socket;
 class SystemClock;
 class SystemFacts;
 class SystemInformation;
+class ToolTips;
 class Tray;
 class Workstation;
 
@@ -66,6 +67,7 @@ struct Machine {
     Browser& browser;
     Messages& messages;
     Menus& menus;
+    ToolTips& toolTips;
     Tray& tray;
     Program& program;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace platform {
@@ -10,6 +11,10 @@ class Processes {
   public:
     // 0 is no process.
     using Handle = std::uintptr_t;
+
+    static constexpr std::uint32_t StillActive = 259;
+    // All that XP lets one do with a process.
+    static constexpr std::uint32_t AllAccess = 0x1F0FFF;
 
     // The record that goes into CreateProcessA, as far as the program fills it; the rest is zero.
     struct StartupInfo {
@@ -27,9 +32,18 @@ class Processes {
 
     // Starts a process by command line and does not wait: CreateProcessA with nothing inherited and
     // the window style (0 hidden, 1 normal, ...) in the startup record; all handles are closed.
+    // Returns the process's id, which stands for it as long as it runs.
     // Throws Failure FileNotFound, PathNotFound, PermissionDenied, or InvalidProcedureCall for
     // everything else, such as a file that is no program.
-    virtual void Start(std::string_view commandLine, std::int32_t windowStyle) = 0;
+    virtual std::uint32_t Start(std::string_view commandLine, std::int32_t windowStyle) = 0;
+
+    // OpenProcess, nothing inherited: 0 for an id that belongs to no process, and for one that may
+    // not be opened so. A process that has ended may still be there for a while.
+    virtual Handle Open(std::uint32_t access, std::uint32_t processId) = 0;
+
+    // GetExitCodeProcess: StillActive as long as the process runs. Nothing for a handle that is
+    // none.
+    virtual std::optional<std::uint32_t> ExitCode(Handle process) = 0;
 
     // WaitForSingleObject without a limit: blocks, and lets no event through. Returns at once for
     // a handle that is none.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace platform {
@@ -24,6 +25,7 @@ class Registry {
     static constexpr Result InvalidHandle = 6;
     static constexpr Result InvalidParameter = 87;
     static constexpr Result MoreData = 234;
+    static constexpr Result NoMoreItems = 259;
 
     // Value types.
     static constexpr std::uint32_t None = 0;
@@ -31,11 +33,14 @@ class Registry {
     static constexpr std::uint32_t ExpandString = 2;
     static constexpr std::uint32_t Binary = 3;
     static constexpr std::uint32_t Dword = 4;
+    static constexpr std::uint32_t BigEndianDword = 5;
     static constexpr std::uint32_t MultiString = 7;
 
     // Access rights.
+    static constexpr std::uint32_t MayQueryValue = 0x01;
     static constexpr std::uint32_t MaySetValue = 0x02;
     static constexpr std::uint32_t MayCreateSubKey = 0x04;
+    static constexpr std::uint32_t MayEnumerateSubKeys = 0x08;
     static constexpr std::uint32_t MayDoAll = 0x3F;
 
     virtual ~Registry() = default;
@@ -64,6 +69,21 @@ class Registry {
 
     // RegDeleteKeyA. A key with sub-keys stays and gives AccessDenied.
     virtual Result RemoveKey(Key parent, std::string_view path) = 0;
+
+    // RegEnumKeyA in a buffer of 255 characters: the sub-key of that index, counted from 0.
+    // NoMoreItems behind the last one. A name of 255 characters, the longest that there is, leaves
+    // no room for its NUL and gives MoreData.
+    virtual Result EnumerateKey(Key key, std::uint32_t index, std::string& name) = 0;
+
+    // RegQueryInfoKeyA, asked for one thing only: the length of the longest name among the key's
+    // values, without a NUL.
+    virtual Result LongestValueName(Key key, std::uint32_t& length) = 0;
+
+    // RegEnumValueA, asked for the name only: the value of that index, counted from 0. `room` is
+    // the size of the buffer, the NUL included; a longer name gives MoreData. NoMoreItems behind
+    // the last one.
+    virtual Result EnumerateValue(Key key, std::uint32_t index, std::uint32_t room,
+                                  std::string& name) = 0;
 
     // RegCloseKey.
     virtual Result Close(Key key) = 0;

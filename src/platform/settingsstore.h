@@ -18,6 +18,10 @@ class SettingsStore {
     // Throws Failure InvalidProcedureCall when the store cannot be written.
     virtual void Save(std::string_view title, std::string_view section, std::string_view key,
                       std::string_view text) = 0;
+
+    // Takes the section away with all its keys; one that is not there is passed over. Throws
+    // Failure InvalidProcedureCall when the store cannot be written.
+    virtual void DeleteSection(std::string_view title, std::string_view section) = 0;
 };
 
 }  // namespace platform

@@ -34,6 +34,10 @@ class SystemFacts {
     // being one.
     virtual std::string UserName() const = 0;
 
+    // ExpandEnvironmentStringsA, first for the size and then into a buffer of that size. What is no
+    // variable of the process stays as it is. "" on failure.
+    virtual std::string ExpandEnvironment(std::string_view text) const = 0;
+
     // GetDiskFreeSpaceExA of the drive on which the directory lies; zeros on failure, a drive
     // without a medium being one. No box asks for the medium.
     virtual DiskSpace Space(std::string_view directory) const = 0;

@@ -31,8 +31,8 @@ Box AddSynchronizeFrame(toolkit::Form& form, platform::Clock& clock) {
         Leaf(form.Add<toolkit::TextBox>("txtSyncServer", toolkit::TextBoxStyle{.columns = 30})));
     column.push_back(
         toolkit::AtLeast(Leaf(form.Add<toolkit::Label>("lblDateAndTime", "")), 0, LineHeight));
-    auto& button =
-        form.Add<controls::chameleonButton>("cmdSynchronizeDateTime", "Synchronisieren", clock);
+    auto& button = form.Add<controls::chameleonButton>(
+        "cmdSynchronizeDateTime", controls::Persisted{"TX=Synchronisieren"}, clock);
     column.push_back(toolkit::Row({toolkit::Filler(), Leaf(button)}));
     return toolkit::InFrame(frame, toolkit::Column(std::move(column)));
 }

@@ -29,6 +29,12 @@ void Control::SetVisible(bool visible) {
     Changed(Aspect::Visible);
 }
 
+void Control::SetToolTip(std::string text) {
+    if (text == toolTip_) return;
+    toolTip_ = std::move(text);
+    Changed(Aspect::ToolTip);
+}
+
 void Control::Changed(Aspect what) {
     if (view_) view_->Refresh(what);
 }

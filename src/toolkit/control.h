@@ -54,6 +54,11 @@ class Control {
     bool Visible() const { return visible_; }
     void SetVisible(bool visible);
 
+    // One line that is shown to a mouse that rests on the control; none while it is "". Of the
+    // labels only those of the style Path show it.
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string text);
+
     // Whether the keyboard reaches the control with the tabulator.
     bool IsTabStop() const { return tabStop_; }
 
@@ -65,13 +70,15 @@ class Control {
   protected:
     Control(Form& form, ControlKind kind, std::string name, std::string caption, bool tabStop);
 
-    void Changed(Aspect what);
+    // Tells the view. For a control that has to do more when its caption or its state changes.
+    virtual void Changed(Aspect what);
 
   private:
     Form& form_;
     ControlKind kind_;
     std::string name_;
     std::string caption_;
+    std::string toolTip_;
     bool tabStop_;
     bool enabled_ = true;
     bool visible_ = true;

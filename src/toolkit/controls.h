@@ -37,10 +37,6 @@ class Label : public Control {
 
     LabelStyle Style() const { return style_; }
 
-    // What the mouse is told that rests on the label; a view asks for it when it is wanted.
-    const std::string& ToolTip() const { return toolTip_; }
-    void SetToolTip(std::string text) { toolTip_ = std::move(text); }
-
     // The system's own colour while there is none.
     std::optional<Colour> TextColour() const { return textColour_; }
     void SetTextColour(Colour colour);
@@ -56,7 +52,6 @@ class Label : public Control {
   private:
     LabelStyle style_;
     std::optional<Colour> textColour_;
-    std::string toolTip_;
 };
 
 // A group box: a caption and a line around the controls that the layout puts into it. For its

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -223,6 +224,8 @@ class FormHost {
     virtual Bounds WorkArea() const = 0;
     // The program's loaded forms, in the order of their loading.
     virtual std::vector<Form*> OpenForms() const = 0;
+    // The number by which the system knows the control's window; 0 while there is none.
+    virtual std::uintptr_t HandleOf(const Control&) const { return 0; }
     // Serves the events that are waiting, those of all forms, and returns when none waits any more.
     virtual void DoEvents() {}
     // Bytes that compare as the texts do in the order of the user's language, in which letters'

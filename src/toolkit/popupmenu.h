@@ -13,6 +13,8 @@ struct MenuItem {
     std::string name;
     std::string caption;
     Handler onClick;
+    // A disabled item is shown grey and cannot be chosen.
+    bool enabled = true;
 
     bool IsSeparator() const { return caption.empty(); }
 };

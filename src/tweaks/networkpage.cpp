@@ -91,7 +91,10 @@ Box OutlookGroup(Form& form, platform::Clock& clock) {
     Box extensions =
         CheckBoxOn(form, {"chkIEExtensions", "Folgende Dateierweiterungen bei Anhängen zulassen:"});
     Box list = Stretch(TextBoxOn(form, "txtExtensions"));
-    auto& button = form.Add<controls::chameleonButton>("cmdExtensionDefault", "Standard", clock);
+    list.control->SetToolTip(
+        "Weitere Erweiterung durch ';' (Semikolon) trennen (Beispiel: exe;zip;dll).");
+    auto& button = form.Add<controls::chameleonButton>("cmdExtensionDefault",
+                                                       controls::Persisted{"TX=Standard"}, clock);
     Box tray = CheckBoxOn(
         form, {"chkOutlookTray", "Outlook nach minimieren in die Tray Notification Area legen"});
     return InFrame(group,
@@ -122,8 +125,9 @@ Box AddNetworkPage(Form& form, const platform::Machine& machine) {
     Box explorer = toolkit::Stretch(ExplorerGroup(form));
     Box outlook = OutlookGroup(form, machine.clock);
     Box types = toolkit::Stretch(ConnectionTypesGroup(form));
-    Box buttons = ButtonsOfPage(form, machine.clock,
-                                {{"cmdStandardDfue", "Standard"}, {"cmdOptimalDfue", "Empfohlen"}});
+    Box buttons =
+        ButtonsOfPage(form, machine.clock,
+                      {{"cmdStandardDfue", "TX=Standard"}, {"cmdOptimalDfue", "TX=Empfohlen"}});
     std::vector<Box> rows;
     rows.push_back(heading);
     rows.push_back(toolkit::Row({numbers, network}));

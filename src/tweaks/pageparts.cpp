@@ -48,12 +48,12 @@ Box CheckBoxGroup(Form& form, Named frame, std::initializer_list<Named> boxes) {
     return InFrame(group, CheckBoxColumn(form, boxes));
 }
 
-Box ButtonsOfPage(Form& form, platform::Clock& clock, std::initializer_list<Named> buttons) {
+Box ButtonsOfPage(Form& form, platform::Clock& clock, std::initializer_list<StoredButton> buttons) {
     std::vector<Box> row;
     row.push_back(toolkit::Filler());
-    for (const Named& button : buttons) {
-        row.push_back(
-            Leaf(form.Add<controls::chameleonButton>(button.name, button.caption, clock)));
+    for (const StoredButton& button : buttons) {
+        row.push_back(Leaf(form.Add<controls::chameleonButton>(
+            button.name, controls::Persisted{button.properties}, clock)));
     }
     return Gap(toolkit::Row(std::move(row)), 8);
 }

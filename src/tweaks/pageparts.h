@@ -22,6 +22,12 @@ struct Named {
     const char* caption;
 };
 
+// A button by its name and its properties as chameleonButton keeps them.
+struct StoredButton {
+    const char* name;
+    const char* properties;
+};
+
 toolkit::Box CheckBoxOn(toolkit::Form& form, Named box);
 toolkit::Box LabelOn(toolkit::Form& form, Named label);
 toolkit::Box TextBoxOn(toolkit::Form& form, const char* name, toolkit::TextBoxStyle style = {});
@@ -36,6 +42,6 @@ toolkit::Box CheckBoxGroup(toolkit::Form& form, Named frame, std::initializer_li
 
 // The row of a page's own buttons, at the right end of it.
 toolkit::Box ButtonsOfPage(toolkit::Form& form, platform::Clock& clock,
-                           std::initializer_list<Named> buttons);
+                           std::initializer_list<StoredButton> buttons);
 
 }  // namespace tweaks

@@ -90,8 +90,8 @@ void PathPressed(Form& form, const platform::Machine& machine, std::size_t index
 Box RowOfPath(Form& form, const platform::Machine& machine, std::size_t index) {
     Box name = LabelOn(form, {Member("lblPathNames", index).c_str(), Rows[index].name});
     auto& path = form.Add<Label>(Member("lblVerwaltung", index), "", toolkit::LabelStyle::Path);
-    auto& button =
-        form.Add<controls::chameleonButton>(Member("cmdPath", index), "...", machine.clock);
+    auto& button = form.Add<controls::chameleonButton>(
+        Member("cmdPath", index), controls::Persisted{"TX=..."}, machine.clock);
     button.onClick = [&form, machine, index] { PathPressed(form, machine, index); };
     return Gap(toolkit::Row({AtLeast(name, NameWidth, 0), toolkit::Stretch(Leaf(path)),
                              AtMost(Leaf(button), ButtonSize.width, ButtonSize.height)}),
@@ -121,7 +121,7 @@ Box AddPathsPage(Form& form, const platform::Machine& machine) {
     std::vector<Box> rows;
     for (std::size_t i = 0; i < Rows.size(); ++i) rows.push_back(RowOfPath(form, machine, i));
     Box paths = Gap(toolkit::Column(std::move(rows)), 1);
-    Box buttons = ButtonsOfPage(form, machine.clock, {{"cmdPathDefault", "Standard"}});
+    Box buttons = ButtonsOfPage(form, machine.clock, {{"cmdPathDefault", "TX=Standard"}});
     return Gap(toolkit::Column({heading, hint, paths, toolkit::Filler(), buttons}), 6);
 }
 

@@ -37,6 +37,8 @@ Box VariousGroup(Form& form) {
          {"chkDisableTM", "Taskmanager sperren"});
     pair({"chk1RecycleBinDelete", "Papierkorb von Desktop entfernen"},
          {"chkNTLogin", "'Normaler' NT-Login"});
+    form.FindControl("chk1RecycleBinDelete")
+        ->SetToolTip("Diese Einstellung ist erst nach einem Neustart aktiviert");
     pair({"chkPageFileDelete", "Auslagerungsdatei beim Herunterfahren löschen"},
          {"chkDelegateFolders", "Gemeinsame Dateien entfernen"});
     return InFrame(group, Gap(toolkit::Column(std::move(lines)), 3));
@@ -70,8 +72,9 @@ Box AddSecurityPage(Form& form, const platform::Machine& machine) {
     Box various = VariousGroup(form);
     Box message = toolkit::Stretch(LogonMessageGroup(form));
     Box data = DataGroup(form);
-    Box buttons = ButtonsOfPage(form, machine.clock,
-                                {{"cmdDefaultMisc", "Standard"}, {"cmdOptimalMisc", "Empfohlen"}});
+    Box buttons =
+        ButtonsOfPage(form, machine.clock,
+                      {{"cmdDefaultMisc", "TX=Standard"}, {"cmdOptimalMisc", "TX=Empfohlen"}});
     return Gap(toolkit::Column({heading, various, Gap(toolkit::Row({message, data}), 8),
                                 toolkit::Filler(), buttons}),
                6);

@@ -124,9 +124,9 @@ Box SystemFactsGroup(Form& form) {
 
 Box SystemButtons(Form& form, const platform::Machine& machine) {
     Box buttons = ButtonsOfPage(form, machine.clock,
-                                {{"cmdFreeMemory", "Speicher aufräumen"},
-                                 {"cmdNormal", "Standard"},
-                                 {"cmdOptimal", "Empfohlen"}});
+                                {{"cmdFreeMemory", "TX=Speicher aufräumen"},
+                                 {"cmdNormal", "TX=Standard"},
+                                 {"cmdOptimal", "TX=Empfohlen"}});
     form.Find<controls::chameleonButton>("cmdFreeMemory").onClick = [&form, machine] {
         utilities::ReleaseMemory(form, machine.memory, machine.locale);
     };

@@ -35,6 +35,7 @@ Box VariousGroup(Form& form) {
     pair({"chkOSVersionOnDesktop", "Windows Versionsnummer auf Desktop anzeigen"},
          {"chkOldSearchAssistent", "\"Klassische\" Suche wiederherstellen"});
     pair({"chkBalloonTipps", "BalloonTipps anzeigen"}, {"chkCDAutoPlay", "CD Autostart aktiviert"});
+    form.FindControl("chkCDAutoPlay")->SetToolTip("Nur Windows XP Home Edition");
     pair({"chkDescriptionPopups", "Tooltips anzeigen"},
          {"chkDisableThumbnails", "Thumbnailcache aktiv"});
     pair({"chkBSODAutostart", "Auto Reboot bei BlueScreen (BSOD)"},
@@ -60,9 +61,9 @@ Box VariousGroup(Form& form) {
 Box AddTweaksPage(Form& form, const platform::Machine& machine) {
     Box heading = controls::PageHeading(form, "lblWindows2", "Windows Tuning #2");
     Box group = VariousGroup(form);
-    Box buttons =
-        ButtonsOfPage(form, machine.clock,
-                      {{"cmdNormalWindows2", "Standard"}, {"cmdOptimalWindows2", "Empfohlen"}});
+    Box buttons = ButtonsOfPage(
+        form, machine.clock,
+        {{"cmdNormalWindows2", "TX=Standard"}, {"cmdOptimalWindows2", "TX=Empfohlen"}});
     return Gap(toolkit::Column({heading, group, toolkit::Filler(), buttons}), 6);
 }
 

@@ -37,8 +37,9 @@ frmShowAllLoggedInUsers::frmShowAllLoggedInUsers(const platform::Machine& machin
     auto& heading = Add<toolkit::Label>("Label1", "Alle am System angemeldeten Benutzer:");
     auto& lstUsers = Add<toolkit::ListBox>("lstUsers", Columns, Lines);
     auto& lblWait = Add<toolkit::Label>("lblWait", "Bitte warten ...");
-    auto& cmdRefresh = Add<chameleonButton>("cmdRefresh", "Aktualisieren", machine.clock);
-    auto& cmdOK = Add<chameleonButton>("cmdOK", "OK", machine.clock);
+    auto& cmdRefresh =
+        Add<chameleonButton>("cmdRefresh", controls::Persisted{"TX=Aktualisieren"}, machine.clock);
+    auto& cmdOK = Add<chameleonButton>("cmdOK", controls::Persisted{"TX=OK"}, machine.clock);
     lblWait.SetVisible(false);
     cmdRefresh.onClick = [this] { FillUserList(); };
     cmdOK.onClick = [this] { Unload(); };

@@ -14,8 +14,9 @@ frmSystemInformation::frmSystemInformation(const platform::Machine& machine)
     auto& report = Add<toolkit::TextBox>(
         "txtReport",
         toolkit::TextBoxStyle{.multiLine = true, .readOnly = true, .tabWidth = 20, .columns = 80});
-    auto& copy = Add<chameleonButton>("cmdCopy", "Kopieren", machine.clock);
-    auto& close = Add<chameleonButton>("cmdClose", "Schließen", machine.clock);
+    auto& copy = Add<chameleonButton>("cmdCopy", controls::Persisted{"TX=Kopieren"}, machine.clock);
+    auto& close =
+        Add<chameleonButton>("cmdClose", controls::Persisted{"TX=Schließen"}, machine.clock);
     copy.onClick = [this] { Copy(); };
     close.onClick = [this] { Unload(); };
 

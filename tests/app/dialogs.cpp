@@ -5,6 +5,7 @@
 
 #include "app/program.h"
 #include "toolkit/listbox.h"
+#include "toolkit/listview.h"
 
 using namespace app_test;
 
@@ -83,13 +84,56 @@ TEST_CASE_FIXTURE(Dialogs, "a refused list of users is told before its dialog is
     CHECK(form->Pointer() == 0);
 }
 
+TEST_CASE_FIXTURE(Dialogs, "the installed software is shown over the window's middle, each time") {
+    using platform::simulated::TextValue;
+    for (const char* name : {"Eins", "Zwei"}) {
+        for (const char* value : {"DisplayName", "UninstallString"}) {
+            machine.registry.Put(
+                platform::Registry::LocalMachine,
+                std::string("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\") + name,
+                value, TextValue(name));
+        }
+        Open("cmdInstalledSoftware", "frmInstalledSoftware", [&](toolkit::Form& software) {
+            const auto& list = software.Find<toolkit::ListView>("lvwSoftware");
+            CHECK(list.Text(list.Count() - 1) == name);
+            const toolkit::Bounds& place = software.Place();
+            CHECK(place.left == form->Place().left + (form->Place().width - place.width) / 2);
+        });
+    }
+}
+
+TEST_CASE_FIXTURE(Dialogs, "the virtual drives are shown over the window's middle, each time") {
+    for (int time = 0; time < 2; ++time) {
+        Open("cmdVirtualDrive", "frmVirtualDrive", [&](toolkit::Form& drives) {
+            CHECK(drives.Find<toolkit::ListView>("lstDrives").Count() == 0);
+            const toolkit::Bounds& place = drives.Place();
+            CHECK(place.left == form->Place().left + (form->Place().width - place.width) / 2);
+        });
+    }
+    CHECK(machine.processes.launched.size() == 2);
+}
+
+TEST_CASE_FIXTURE(Dialogs,
+                  "a second press while the drives are being read shows no second dialog") {
+    int events = 0;
+    machine.forms.onEvents = [&] {
+        if (++events == 1) Press("cmdVirtualDrive");
+    };
+    Open("cmdVirtualDrive", "frmVirtualDrive", [](toolkit::Form&) {});
+    CHECK(events == 1);
+    CHECK(machine.processes.launched.size() == 1);
+}
+
 TEST_CASE_FIXTURE(Dialogs, "the dialogs are there when nothing can be read") {
     for (const char* call : {"GetVersionExA", "GetSystemInfo", "GlobalMemoryStatusEx",
                              "GetLogicalDrives", "GetDeviceCaps", "RegOpenKeyExA",
-                             "GetComputerNameA", "NetWkstaUserEnum", "FormatMessageA"}) {
+                             "GetComputerNameA", "NetWkstaUserEnum", "FormatMessageA", "Start",
+                             "SetCurrentDirectoryW", "GetSetting", "GetVolumeInformationA"}) {
         machine.faults.FailAll(call, 5);
     }
     Open("cmdAbout", "frmAbout", [](toolkit::Form&) {});
     Open("cmdSysInfo", "frmSystemInformation", [](toolkit::Form&) {});
     Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [](toolkit::Form&) {});
+    Open("cmdInstalledSoftware", "frmInstalledSoftware", [](toolkit::Form&) {});
+    Open("cmdVirtualDrive", "frmVirtualDrive", [](toolkit::Form&) {});
 }

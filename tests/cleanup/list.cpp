@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "cleanup/fixture.h"
+#include "toolkit/listhelpers.h"
 
 using cleanup_test::Fixture;
 using cleanup_test::Lines;
@@ -90,7 +91,7 @@ TEST_CASE_FIXTURE(Fixture, "over an empty list no menu opens, and ticking all do
 TEST_CASE_FIXTURE(Fixture, "columns are fitted up to the number of columns minus those excluded") {
     const auto sent = [&](bool headers, int excluded) {
         machine.journal.Clear();
-        cleanup::AdjustColumnWidth(list, headers, excluded);
+        toolkit::AdjustColumnWidth(list, headers, excluded);
         return machine.journal.Lines();
     };
     CHECK(sent(false, 3) ==

@@ -6,6 +6,7 @@
 
 #include "contract/machine.h"
 #include "platform/files.h"
+#include "platform/locale.h"
 #include "runtime/failure.h"
 
 namespace {
@@ -140,6 +141,41 @@ TEST_CASE_FIXTURE(Fixture, "a full path has no dots and starts at a drive") {
     CHECK(folders.FullPath("") == "");
     CHECK(folders.FullPath("\\").substr(1) == ":\\");
     CHECK(folders.FullPath("\\Temp").substr(1) == ":\\Temp");
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "the short path of a folder has no blanks and leads to the same folder") {
+    machine.MakeFolder(In("Größe und Öl"));
+    Put(In("Größe und Öl\\file"), "x");
+    const std::string path = folders.ShortPath(In("Größe und Öl"), 164);
+    REQUIRE_FALSE(path.empty());
+    CHECK(path.find(' ') == std::string::npos);
+    CHECK(folders.Find(path + "\\file"));
+    CHECK(folders.LongPath(path).ends_with("\\Größe und Öl"));
+    const std::size_t length = machine.Services().locale.ToAnsi(path).size();
+    CHECK(folders.ShortPath(In("Größe und Öl"), length) == "");
+    CHECK(folders.ShortPath(In("Größe und Öl"), length + 1) == path);
+}
+
+TEST_CASE_FIXTURE(Fixture, "what is not there has no short path, and its long one is itself") {
+    CHECK(folders.ShortPath(In("absent"), 164) == "");
+    CHECK(folders.ShortPath("", 164) == "");
+    CHECK(folders.LongPath(In("ABSENT~1")) == In("ABSENT~1"));
+    CHECK(folders.LongPath("") == "");
+}
+
+TEST_CASE_FIXTURE(Fixture, "a drive alone is its current directory") {
+    const std::string drive = top.substr(0, 2);
+    const std::string before = folders.FullPath(drive);
+    folders.MakeCurrent(top);
+    // Wine tells it with a backslash at its end.
+    CHECK(folders.FullPath(drive).substr(0, top.size()) == top);
+    CHECK(NumberOf([&] { folders.MakeCurrent(In("absent")); }) == runtime::PathNotFound);
+    CHECK(NumberOf([&] { folders.MakeCurrent(""); }) == runtime::PathNotFound);
+    CHECK(folders.FullPath(drive).substr(0, top.size()) == top);
+    folders.MakeCurrent(drive + '\\');
+    CHECK(folders.FullPath(drive) == drive + '\\');
+    folders.MakeCurrent(before);
 }
 
 TEST_CASE_FIXTURE(Fixture, "an empty folder is removed, a full one, a file and an absent one not") {

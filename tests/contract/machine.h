@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "contract/serveranswer.h"
@@ -13,6 +14,7 @@
 #include "platform/machine.h"
 #include "platform/otherwindows.h"
 #include "platform/registry.h"
+#include "platform/tooltips.h"
 
 // One suite for two machines. The cases below know the services by their interfaces only; which
 // machine stands behind them is decided by the source that is linked: machine_simulated.cpp in the
@@ -45,6 +47,18 @@ struct WindowLook {
     int redraws = 0;
 
     bool operator==(const WindowLook&) const = default;
+};
+
+// What a tooltip window has been told.
+struct TipLook {
+    std::uint32_t textColour = 0;
+    std::uint32_t backColour = 0;
+    int visibleTime = 0;
+    int delayTime = 0;
+    int width = 0;
+    int tools = 0;
+
+    bool operator==(const TipLook&) const = default;
 };
 
 // What a clock was set to.
@@ -85,6 +99,13 @@ class TestMachine {
                                               platform::OtherWindows::Handle parent = 0);
     void EndWindow(platform::OtherWindows::Handle window);
     WindowLook LookAt(platform::OtherWindows::Handle window) const;
+
+    TipLook LookAtTips(platform::ToolTips::Handle window) const;
+    // The height as in the system's record, and the face, of a font that has been set.
+    std::pair<int, std::string> TipFont(platform::ToolTips::Handle window) const;
+    // The text of a tool; "" when there is none.
+    std::string TipText(platform::ToolTips::Handle window, std::uintptr_t tool,
+                        std::uintptr_t id) const;
 
     // What the program holds in memory.
     std::size_t ResidentBytes() const;

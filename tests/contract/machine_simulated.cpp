@@ -114,6 +114,28 @@ WindowLook TestMachine::LookAt(platform::OtherWindows::Handle window) const {
             seen.place,         seen.visible, seen.redraws};
 }
 
+TipLook TestMachine::LookAtTips(platform::ToolTips::Handle window) const {
+    const auto& seen = inside_->machine.toolTips.At(window);
+    return {static_cast<std::uint32_t>(seen.textColour),
+            static_cast<std::uint32_t>(seen.backColour),
+            static_cast<int>(seen.visibleTime),
+            static_cast<int>(seen.delayTime),
+            static_cast<int>(seen.width),
+            static_cast<int>(seen.tools.size())};
+}
+
+std::pair<int, std::string> TestMachine::TipFont(platform::ToolTips::Handle window) const {
+    const auto& tips = inside_->machine.toolTips;
+    const auto& font = tips.FontAt(tips.At(window).font);
+    return {font.height, font.font.name};
+}
+
+std::string TestMachine::TipText(platform::ToolTips::Handle window, std::uintptr_t tool,
+                                 std::uintptr_t id) const {
+    const auto* found = inside_->machine.toolTips.At(window).Find(tool, id);
+    return found ? found->text : "";
+}
+
 std::size_t TestMachine::ResidentBytes() const {
     return inside_->machine.memory.Held();
 }

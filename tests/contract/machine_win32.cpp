@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <commctrl.h>
 #include <psapi.h>
 #include <shlwapi.h>
 #include <winternl.h>
@@ -286,6 +287,39 @@ void TestMachine::EndWindow(platform::OtherWindows::Handle window) {
 
 WindowLook TestMachine::LookAt(platform::OtherWindows::Handle window) const {
     return inside_->windows.LookAt(reinterpret_cast<HWND>(window));
+}
+
+TipLook TestMachine::LookAtTips(platform::ToolTips::Handle window) const {
+    const auto ask = [&](UINT message, WPARAM which = 0) {
+        return SendMessageW(reinterpret_cast<HWND>(window), message, which, 0);
+    };
+    return {static_cast<std::uint32_t>(ask(TTM_GETTIPTEXTCOLOR)),
+            static_cast<std::uint32_t>(ask(TTM_GETTIPBKCOLOR)),
+            ask(TTM_GETDELAYTIME, TTDT_AUTOPOP),
+            ask(TTM_GETDELAYTIME, TTDT_INITIAL),
+            ask(TTM_GETMAXTIPWIDTH),
+            ask(TTM_GETTOOLCOUNT)};
+}
+
+// The window may have made a copy of the font.
+std::pair<int, std::string> TestMachine::TipFont(platform::ToolTips::Handle window) const {
+    const auto font = SendMessageW(reinterpret_cast<HWND>(window), WM_GETFONT, 0, 0);
+    LOGFONTW facts = {};
+    GetObjectW(reinterpret_cast<HFONT>(font), sizeof facts, &facts);
+    return {facts.lfHeight, win32::FromWide(facts.lfFaceName)};
+}
+
+std::string TestMachine::TipText(platform::ToolTips::Handle window, std::uintptr_t tool,
+                                 std::uintptr_t id) const {
+    std::wstring text(8192, L'\0');
+    TTTOOLINFOW record = {};
+    record.cbSize = TTTOOLINFOW_V1_SIZE;
+    record.hwnd = reinterpret_cast<HWND>(tool);
+    record.uId = id;
+    record.lpszText = text.data();
+    SendMessageW(reinterpret_cast<HWND>(window), TTM_GETTEXTW, text.size(),
+                 reinterpret_cast<LPARAM>(&record));
+    return win32::FromWide(text.c_str());
 }
 
 std::size_t TestMachine::ResidentBytes() const {

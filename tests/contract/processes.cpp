@@ -57,3 +57,29 @@ TEST_CASE_FIXTURE(Fixture, "starting a program that is not there is a file not f
         CHECK(failure.number == runtime::FileNotFound);
     }
 }
+
+TEST_CASE_FIXTURE(Fixture, "a process that was started is opened by its id until it has ended") {
+    using platform::Processes;
+    const std::uint32_t id = processes.Start(machine.EndingCommand(), 0);
+    REQUIRE(id != 0);
+    const auto process = processes.Open(Processes::AllAccess, id);
+    REQUIRE(process != 0);
+    CHECK(processes.ExitCode(process) == Processes::StillActive);
+    processes.WaitForEnd(process);
+    std::optional<std::uint32_t> code = Processes::StillActive;
+    while (code == Processes::StillActive) code = processes.ExitCode(process);
+    CHECK(code.has_value());
+    CHECK(processes.Close(process));
+    CHECK_FALSE(processes.ExitCode(process));
+    CHECK_FALSE(processes.Close(process));
+    // The system may keep it for a while.
+    const auto later = processes.Open(Processes::AllAccess, id);
+    CHECK(processes.ExitCode(later) != Processes::StillActive);
+    processes.Close(later);
+}
+
+TEST_CASE_FIXTURE(Fixture, "an id that is none opens no process, and no handle has an exit code") {
+    CHECK(processes.Open(platform::Processes::AllAccess, 0) == 0);
+    CHECK(processes.Open(platform::Processes::AllAccess, 0x7FFFFFF0) == 0);
+    CHECK_FALSE(processes.ExitCode(0));
+}

@@ -49,3 +49,16 @@ TEST_CASE_FIXTURE(Fixture, "sections and titles are apart, letters' case is not"
     CHECK(store.Get(Title, "OPTIONS", "tab", "") == "1");
     CHECK(store.Get(std::string(Title) + "2", "Options", "Tab", "none") == "none");
 }
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a section is deleted with all its keys, and an absent one passed over") {
+    store.Save(Title, "Config", "Count", "1");
+    store.Save(Title, "Config", "Drives1", "E:=>");
+    store.Save(Title, "Config2", "Count", "2");
+    store.DeleteSection(Title, "Config");
+    CHECK(store.Get(Title, "Config", "Count", "none") == "none");
+    CHECK(store.Get(Title, "Config", "Drives1", "none") == "none");
+    CHECK(store.Get(Title, "Config2", "Count", "none") == "2");
+    CHECK_NOTHROW(store.DeleteSection(Title, "Config"));
+    CHECK_NOTHROW(store.DeleteSection(std::string(Title) + "2", "Config"));
+}

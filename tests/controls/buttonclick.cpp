@@ -2,7 +2,7 @@
 
 #include "controls/watchedbutton.h"
 
-using controls::DrawState;
+using controls::ButtonState;
 using controls_test::WatchedButton;
 using toolkit::MouseButton;
 using Events = std::vector<std::string>;
@@ -22,28 +22,28 @@ struct HoveredButton : WatchedButton {
 TEST_CASE("a press and a release of the left button over the button are one click") {
     HoveredButton test;
     test.button.MouseDown(MouseButton::Left);
-    CHECK(test.button.State() == DrawState::Pressed);
+    CHECK(test.button.State() == ButtonState::Pressed);
     CHECK(test.events.empty());
     test.button.MouseUp(MouseButton::Left);
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
     CHECK(test.events == Events{"Click"});
 }
 
 TEST_CASE("the button is drawn released before its click is raised") {
     HoveredButton test;
-    DrawState seen = DrawState::Pressed;
+    ButtonState seen = ButtonState::Pressed;
     test.button.onClick = [&] { seen = test.button.State(); };
     test.button.MouseDown(MouseButton::Left);
     test.button.MouseUp(MouseButton::Left);
-    CHECK(seen == DrawState::Hovered);
+    CHECK(seen == ButtonState::Hovered);
 }
 
 TEST_CASE("the right button never shows the pressed picture and causes no click") {
     HoveredButton test;
     test.button.MouseDown(MouseButton::Right);
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
     test.button.MouseUp(MouseButton::Right);
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
     CHECK(test.events.empty());
 }
 
@@ -52,7 +52,7 @@ TEST_CASE("a right press during a left one takes the click away") {
     test.button.MouseDown(MouseButton::Left);
     test.button.MouseDown(MouseButton::Right);
     test.button.MouseUp(MouseButton::Right);
-    CHECK(test.button.State() == DrawState::Pressed);
+    CHECK(test.button.State() == ButtonState::Pressed);
     test.button.MouseUp(MouseButton::Left);
     CHECK(test.events.empty());
 }
@@ -61,7 +61,7 @@ TEST_CASE("the mouse leaving with the button held shows the normal picture; no c
     HoveredButton test;
     test.button.MouseDown(MouseButton::Left);
     test.MouseLeaves(MouseButton::Left);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     test.button.MouseUp(MouseButton::Left);
     CHECK(test.events.empty());
 }
@@ -71,7 +71,7 @@ TEST_CASE("the mouse coming back with the button held presses again and then cli
     test.button.MouseDown(MouseButton::Left);
     test.MouseLeaves(MouseButton::Left);
     test.MouseEnters(MouseButton::Left);
-    CHECK(test.button.State() == DrawState::Pressed);
+    CHECK(test.button.State() == ButtonState::Pressed);
     test.button.MouseUp(MouseButton::Left);
     CHECK(test.events == Events{"Click"});
 }
@@ -88,9 +88,9 @@ TEST_CASE("a release outside leaves the hovered picture, and the next move outsi
     test.button.MouseDown(MouseButton::Left);
     test.MouseLeaves(MouseButton::Left);
     test.button.MouseUp(MouseButton::Left);
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
     test.button.MouseMove(MouseButton::None);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
 }
 
 TEST_CASE("a press with the left button captures the mouse, one with the right does not") {
@@ -123,13 +123,13 @@ TEST_CASE("pressing by access key or script clicks wherever the mouse is") {
     WatchedButton test;
     test.button.Press();
     CHECK(test.events == Events{"Click"});
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
 }
 
 TEST_CASE("pressing works without a window and without a listener") {
     platform::simulated::Machine machine;
     toolkit::Form form(machine.forms, "frmTest", "", {});
-    auto& button = form.Add<controls::chameleonButton>("cmdTest", "Test", machine.clock);
+    auto& button = form.Add<controls::chameleonButton>("cmdTest", machine.clock);
     button.SetCheckBoxBehaviour(true);
     button.Press();
     CHECK(button.Value());

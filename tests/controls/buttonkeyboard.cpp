@@ -2,7 +2,7 @@
 
 #include "controls/watchedbutton.h"
 
-using controls::DrawState;
+using controls::ButtonState;
 using controls_test::WatchedButton;
 using Events = std::vector<std::string>;
 
@@ -19,10 +19,10 @@ constexpr int DownKey = 40;
 TEST_CASE("the space key presses when it goes down and clicks when it comes up") {
     WatchedButton test;
     test.button.KeyDown(SpaceKey);
-    CHECK(test.button.State() == DrawState::Pressed);
+    CHECK(test.button.State() == ButtonState::Pressed);
     CHECK(test.events.empty());
     test.button.KeyUp(SpaceKey);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events == Events{"Click"});
 }
 
@@ -31,7 +31,7 @@ TEST_CASE("the space key under the mouse leaves the hovered picture") {
     test.MouseEnters();
     test.button.KeyDown(SpaceKey);
     test.button.KeyUp(SpaceKey);
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
 }
 
 TEST_CASE("a space key that repeats is drawn once and clicks once") {
@@ -55,7 +55,7 @@ TEST_CASE("the arrow keys walk through the form's controls and do nothing else")
     CHECK(test.view.focusMoves == Events{"previous", "previous", "next", "next"});
     CHECK_FALSE(test.button.Value());
     CHECK(test.events.empty());
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
 }
 
 TEST_CASE("an arrow key on a button without a window is passed over") {
@@ -81,7 +81,7 @@ TEST_CASE("any other key does nothing") {
     }
     CHECK(test.events.empty());
     CHECK(test.view.focusMoves.empty());
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
 }
 
 TEST_CASE("getting and losing the focus each draw the button anew") {
@@ -97,7 +97,7 @@ TEST_CASE("a button held down by the space key comes up when it loses the focus"
     test.button.FocusChanged(true);
     test.button.KeyDown(SpaceKey);
     test.button.FocusChanged(false);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events.empty());
 }
 
@@ -106,5 +106,5 @@ TEST_CASE("losing the focus leaves the hovered picture") {
     test.button.FocusChanged(true);
     test.MouseEnters();
     test.button.FocusChanged(false);
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
 }

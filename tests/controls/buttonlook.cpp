@@ -2,65 +2,53 @@
 
 #include <algorithm>
 
-#include "controls/recordingcanvas.h"
 #include "controls/watchedbutton.h"
 
-using controls_test::RecordingCanvas;
 using controls_test::WatchedButton;
 using toolkit::MouseButton;
 using Calls = std::vector<std::string>;
 
 namespace {
 
-constexpr toolkit::Rect Client{0, 0, 75, 23};
-
-Calls Painted(WatchedButton& test) {
-    RecordingCanvas canvas;
-    test.button.Paint(canvas, Client);
-    return canvas.calls;
-}
-
 const Calls Raised{
-    "FillRect 0,0 75x23 face",    "Text 4,4 67x15 \"Test\" text centred",
-    "Line 0,0 74,0 highlight",    "Line 0,0 0,22 highlight",
-    "Line 74,0 74,22 darkShadow", "Line 0,22 75,22 darkShadow",
-    "Line 1,1 73,1 light",        "Line 1,1 1,21 light",
-    "Line 73,1 73,21 shadow",     "Line 1,21 74,21 shadow",
+    "FillRect 0,0 75x23 face", "Text 25,5 24x13 \"Test\" text", "Line 0,0 74,0 highlight",
+    "Line 0,0 0,22 highlight", "Line 74,0 74,22 darkShadow",    "Line 0,22 75,22 darkShadow",
+    "Line 1,1 73,1 light",     "Line 1,1 1,21 light",           "Line 73,1 73,21 shadow",
+    "Line 1,21 74,21 shadow",
 };
 
 const Calls Sunken{
-    "FillRect 0,0 75x23 face",   "Text 5,5 67x15 \"Test\" text centred",
-    "Line 0,0 74,0 darkShadow",  "Line 0,0 0,22 darkShadow",
-    "Line 74,0 74,22 highlight", "Line 0,22 75,22 highlight",
-    "Line 1,1 73,1 shadow",      "Line 1,1 1,21 shadow",
-    "Line 73,1 73,21 light",     "Line 1,21 74,21 light",
+    "FillRect 0,0 75x23 face",  "Text 26,6 24x13 \"Test\" text", "Line 0,0 74,0 darkShadow",
+    "Line 0,0 0,22 darkShadow", "Line 74,0 74,22 highlight",     "Line 0,22 75,22 highlight",
+    "Line 1,1 73,1 shadow",     "Line 1,1 1,21 shadow",          "Line 73,1 73,21 light",
+    "Line 1,21 74,21 light",
 };
 
 }  // namespace
 
 TEST_CASE("a button draws its face, its caption and then its raised edges") {
     WatchedButton test;
-    CHECK(Painted(test) == Raised);
+    CHECK(test.Painted() == Raised);
 }
 
 TEST_CASE("a pressed button is sunken and its caption a pixel off") {
     WatchedButton test;
     test.button.MouseDown(MouseButton::Left);
-    CHECK(Painted(test) == Sunken);
+    CHECK(test.Painted() == Sunken);
 }
 
 TEST_CASE("a hovered button of this look is drawn as a normal one") {
     WatchedButton test;
     test.MouseEnters();
-    CHECK(Painted(test) == Raised);
+    CHECK(test.Painted() == Raised);
 }
 
 TEST_CASE("a kept Value looks pressed with CheckBoxBehaviour only") {
     WatchedButton test;
     test.button.SetValue(true);
-    CHECK(Painted(test) == Raised);
+    CHECK(test.Painted() == Raised);
     test.button.SetCheckBoxBehaviour(true);
-    CHECK(Painted(test) == Sunken);
+    CHECK(test.Painted() == Sunken);
 }
 
 TEST_CASE("the focus rectangle comes last and only with the focus") {
@@ -68,39 +56,39 @@ TEST_CASE("the focus rectangle comes last and only with the focus") {
     test.button.FocusChanged(true);
     Calls expected = Raised;
     expected.push_back("FocusRect 4,4 67x15");
-    CHECK(Painted(test) == expected);
+    CHECK(test.Painted() == expected);
     test.button.FocusChanged(false);
-    CHECK(Painted(test) == Raised);
+    CHECK(test.Painted() == Raised);
 }
 
 TEST_CASE("without ShowFocusRect the focus is not drawn") {
     WatchedButton test;
     test.button.FocusChanged(true);
     test.button.SetShowFocusRect(false);
-    CHECK(Painted(test) == Raised);
+    CHECK(test.Painted() == Raised);
 }
 
 TEST_CASE("the caption of a disabled button is engraved") {
     WatchedButton test;
     test.button.SetEnabled(false);
-    const Calls calls = Painted(test);
+    const Calls calls = test.Painted();
     REQUIRE(calls.size() == Raised.size() + 1);
-    CHECK(calls[1] == "Text 5,5 67x15 \"Test\" highlight centred");
-    CHECK(calls[2] == "Text 4,4 67x15 \"Test\" shadow centred");
+    CHECK(calls[1] == "Text 26,6 24x13 \"Test\" highlight");
+    CHECK(calls[2] == "Text 25,5 24x13 \"Test\" shadow");
     CHECK(std::equal(calls.begin() + 3, calls.end(), Raised.begin() + 2));
 }
 
 TEST_CASE("the button that Return presses has a black frame around its edges") {
     WatchedButton test;
     test.button.MarkDefault(true);
-    const Calls calls = Painted(test);
+    const Calls calls = test.Painted();
     REQUIRE(calls.size() == Raised.size() + 1);
     CHECK(calls[0] == "FillRect 0,0 75x23 face");
     CHECK(calls[1] == "FrameRect 0,0 75x23 black");
     CHECK(calls[2] == Raised[1]);
     CHECK(calls[3] == "Line 1,1 73,1 highlight");
     test.button.MarkDefault(false);
-    CHECK(Painted(test) == Raised);
+    CHECK(test.Painted() == Raised);
 }
 
 TEST_CASE("a button is drawn anew only when its state differs from the drawn one") {

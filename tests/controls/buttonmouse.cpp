@@ -2,7 +2,7 @@
 
 #include "controls/watchedbutton.h"
 
-using controls::DrawState;
+using controls::ButtonState;
 using controls_test::WatchedButton;
 using toolkit::MouseButton;
 using Events = std::vector<std::string>;
@@ -10,7 +10,7 @@ using Events = std::vector<std::string>;
 TEST_CASE("the mouse entering the button is told once, however often it moves there") {
     WatchedButton test;
     test.MouseEnters();
-    CHECK(test.button.State() == DrawState::Hovered);
+    CHECK(test.button.State() == ButtonState::Hovered);
     test.button.MouseMove(MouseButton::None);
     test.machine.clock.Advance(30);
     test.button.MouseMove(MouseButton::None);
@@ -27,7 +27,7 @@ TEST_CASE("the mouse leaving the button is told once, by the timer that then sto
     CHECK(test.events == Events{"MouseOver"});
     test.machine.clock.Advance(1);
     CHECK(test.events == Events{"MouseOver", "MouseOut"});
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.machine.clock.RunningTimers() == 0);
     test.machine.clock.Advance(30);
     CHECK(test.events.size() == 2);
@@ -45,17 +45,17 @@ TEST_CASE("each further entering and leaving is told anew") {
 
 TEST_CASE("the hovered picture is drawn before MouseOver is raised") {
     WatchedButton test;
-    DrawState seen = DrawState::Normal;
+    ButtonState seen = ButtonState::Normal;
     test.button.onMouseOver = [&] { seen = test.button.State(); };
     test.MouseEnters();
-    CHECK(seen == DrawState::Hovered);
+    CHECK(seen == ButtonState::Hovered);
 }
 
 TEST_CASE("a move outside shows the normal picture and tells nothing by itself") {
     WatchedButton test;
     test.MouseEnters();
     test.MouseLeaves(MouseButton::None);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events == Events{"MouseOver"});
     test.machine.clock.Advance(3);
     CHECK(test.events == Events{"MouseOver", "MouseOut"});
@@ -64,7 +64,7 @@ TEST_CASE("a move outside shows the normal picture and tells nothing by itself")
 TEST_CASE("the mouse coming in with the left button held shows the pressed picture") {
     WatchedButton test;
     test.MouseEnters(MouseButton::Left);
-    CHECK(test.button.State() == DrawState::Pressed);
+    CHECK(test.button.State() == ButtonState::Pressed);
     CHECK(test.events.empty());
 }
 
@@ -82,7 +82,7 @@ TEST_CASE("after a drag into the button, entering and leaving are still told in 
 TEST_CASE("the mouse coming in with the right button held changes nothing") {
     WatchedButton test;
     test.MouseEnters(MouseButton::Right);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events.empty());
 }
 
@@ -92,7 +92,7 @@ TEST_CASE("a button that dies under the mouse stops its timer") {
     view.pointerIsOver = true;
     {
         toolkit::Form form(machine.forms, "frmTest", "", {});
-        auto& button = form.Add<controls::chameleonButton>("cmdTest", "Test", machine.clock);
+        auto& button = form.Add<controls::chameleonButton>("cmdTest", machine.clock);
         button.SetView(&view);
         button.MouseMove(MouseButton::None);
         CHECK(machine.clock.RunningTimers() == 1);
@@ -104,7 +104,7 @@ TEST_CASE("a button without a window has no mouse over it") {
     WatchedButton test;
     test.button.SetView(nullptr);
     test.button.MouseMove(MouseButton::None);
-    CHECK(test.button.State() == DrawState::Normal);
+    CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events.empty());
     CHECK(test.machine.clock.RunningTimers() == 0);
 }

@@ -94,6 +94,7 @@ TEST_CASE("the OK button of the password dialog wears the frame of the default b
     test.form.Load();
     const auto framed = [&](const char* name) {
         controls_test::RecordingCanvas canvas;
+        test.Button(name).Show({0, 0, 75, 23});
         test.Button(name).Paint(canvas, {0, 0, 75, 23});
         return canvas.calls.at(1) == "FrameRect 0,0 75x23 black";
     };

@@ -46,4 +46,15 @@ RECT Tabs::Area(int tab) const {
     return area;
 }
 
+int Tabs::Picture(int tab) const {
+    if (!Send(window_, TCM_GETIMAGELIST)) return -1;
+    const FarMemory memory(window_);
+    TCITEMW item = {};
+    item.mask = TCIF_IMAGE;
+    memory.Write(item);
+    Send(window_, TCM_GETITEMW, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(memory.At(0)));
+    memory.Read(0, &item, sizeof item);
+    return item.iImage;
+}
+
 }  // namespace endtoend

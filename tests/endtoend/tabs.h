@@ -16,6 +16,8 @@ class Tabs {
     std::vector<std::string> Captions() const;
     // Of one tab, in the coordinates of the control.
     RECT Area(int tab) const;
+    // The number of the tab's picture, or -1 when the control has no pictures.
+    int Picture(int tab) const;
 
   private:
     HWND window_;

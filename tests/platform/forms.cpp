@@ -87,6 +87,21 @@ TEST_CASE_FIXTURE(Windows, "controls have no views on a machine without a screen
     CHECK(box.View() == nullptr);
 }
 
+TEST_CASE_FIXTURE(Windows, "a control's window has a number of its own while its form is open") {
+    const auto& box = main.Add<toolkit::CheckBox>("chkAutoLogin", "Auto-Login");
+    const auto& label = main.Add<toolkit::Label>("lblSP", "3");
+    const auto& button = dialog.Add<toolkit::CheckBox>("chkOther", "");
+    CHECK(forms.HandleOf(box) == 0);
+    main.Load();
+    dialog.Load();
+    CHECK(forms.HandleOf(box) == 1);
+    CHECK(forms.HandleOf(label) == 2);
+    CHECK(forms.HandleOf(button) == 3);
+    main.Unload();
+    CHECK(forms.HandleOf(box) == 0);
+    CHECK(forms.HandleOf(button) == 3);
+}
+
 TEST_CASE_FIXTURE(Windows, "the work area is that of a screen of 1024 by 740 pixels") {
     CHECK(forms.WorkArea() == toolkit::Bounds{0, 0, 15360, 11100});
 }

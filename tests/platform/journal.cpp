@@ -15,7 +15,7 @@ TEST_CASE_FIXTURE(Keys, "opening and closing show path, access, result and numbe
     OpenResult(HKCU, "absent", 0x04);
     registry.Close(key);
     registry.Close(sub);
-    registry.Close(77);
+    registry.Close(4 * 77);
     CHECK(machine.journal.Lines() == Lines{
                                          "RegOpenKeyExA HKLM \"SYSTEM\\Select\" 0x3F -> 0 #1",
                                          "RegOpenKeyExA #1 \"\" 0x02 -> 0 #2",

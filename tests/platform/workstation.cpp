@@ -29,7 +29,8 @@ TEST_CASE_FIXTURE(Place, "batches come one a call, each with a buffer of its own
                          "NetWkstaUserEnum \"\\\\PC\" 1 -> 0 2 #2", "NetApiBufferFree #2"});
 }
 
-TEST_CASE_FIXTURE(Place, "an enumeration that fails gives its code, nobody, and leaves the buffer") {
+TEST_CASE_FIXTURE(Place,
+                  "an enumeration that fails gives its code, nobody, and leaves the buffer") {
     machine.faults.FailOn("\\\\PC", 5);
     platform::UserEnumeration enumeration{.buffer = 9, .resume = 0, .users = {{}}};
     CHECK(workstation.EnumerateUsers("\\\\PC", enumeration) == 5);

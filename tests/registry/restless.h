@@ -40,6 +40,16 @@ class Restless final : public platform::Registry {
     Result RemoveKey(Key parent, std::string_view path) override {
         return Passed(real_.RemoveKey(parent, path));
     }
+    Result EnumerateKey(Key key, std::uint32_t index, std::string& name) override {
+        return Passed(real_.EnumerateKey(key, index, name));
+    }
+    Result LongestValueName(Key key, std::uint32_t& length) override {
+        return Passed(real_.LongestValueName(key, length));
+    }
+    Result EnumerateValue(Key key, std::uint32_t index, std::uint32_t room,
+                          std::string& name) override {
+        return Passed(real_.EnumerateValue(key, index, room, name));
+    }
     Result Close(Key key) override { return Passed(real_.Close(key)); }
 
   private:

@@ -28,11 +28,14 @@ TEST_CASE_FIXTURE(Fixture, "a new control is enabled, visible and knows its form
     CHECK(label.Caption() == "n/A");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a change of caption, enabling or visibility is shown") {
+TEST_CASE_FIXTURE(Fixture, "a change of caption, enabling, visibility or tip is shown") {
     label.SetCaption("Service Pack 3");
     label.SetEnabled(false);
     label.SetVisible(false);
-    CHECK(view.shown == std::vector{Aspect::Caption, Aspect::Enabled, Aspect::Visible});
+    label.SetToolTip("Was neu ist");
+    CHECK(view.shown ==
+          std::vector{Aspect::Caption, Aspect::Enabled, Aspect::Visible, Aspect::ToolTip});
+    CHECK(label.ToolTip() == "Was neu ist");
     CHECK(label.Caption() == "Service Pack 3");
     CHECK_FALSE(label.Enabled());
     CHECK_FALSE(label.Visible());
@@ -42,6 +45,7 @@ TEST_CASE_FIXTURE(Fixture, "setting what is there already shows nothing new") {
     label.SetCaption("n/A");
     label.SetEnabled(true);
     label.SetVisible(true);
+    label.SetToolTip("");
     CHECK(view.shown.empty());
 }
 

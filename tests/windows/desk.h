@@ -38,8 +38,8 @@ class PlainButton final : public toolkit::DrawnControl {
         return {text.width + 20, text.height + 10};
     }
     void Paint(toolkit::Canvas&, toolkit::Rect) override { ++paints; }
-    void MouseDown(toolkit::MouseButton button) override { lastDown = button; }
-    void KeyDown(int key) override { lastKey = key; }
+    void MouseDown(toolkit::Mouse mouse) override { lastDown = mouse.button; }
+    void KeyDown(toolkit::Key key) override { lastKey = key.code; }
     void MarkDefault(bool marked) override { isDefault = marked; }
     void Press() override {
         ++presses;

@@ -5,32 +5,11 @@
 #include "toolkit/listview.h"
 #include "toolkit/progressbar.h"
 #include "windows/desk.h"
+#include "windows/resources.h"
 
 using namespace windows;
 
 namespace {
-
-// The process's drawing objects, from the table that the system shares with it: a call that counts
-// them answers 0 where the suite runs.
-int DrawingObjects() {
-    struct Entry {
-        unsigned long long object;
-        unsigned owner;
-        unsigned short unique;
-        unsigned char type;
-        unsigned char flags;
-        unsigned long long user;
-    };
-    static_assert(sizeof(Entry) == 24);
-    constexpr int Entries = 16384;
-    constexpr std::size_t TableOffset = 0x94;
-    const unsigned char* processBlock = nullptr;
-    __asm__("movl %%fs:0x30,%0" : "=r"(processBlock));
-    const auto* table = *reinterpret_cast<const Entry* const*>(processBlock + TableOffset);
-    int count = 0;
-    for (int i = 0; i < Entries; ++i) count += table[i].type != 0;
-    return count;
-}
 
 // The number of a fresh window; it grows with the windows that are alive.
 int NextWindow() {

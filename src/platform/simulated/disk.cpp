@@ -23,7 +23,12 @@ std::string_view TakePart(std::string_view& path) {
 
 DiskNode* Child(const DiskNode& folder, std::string_view name) {
     const auto found = folder.byName.find(runtime::ToLower(name));
-    return found == folder.byName.end() ? nullptr : found->second->get();
+    if (found != folder.byName.end()) return found->second->get();
+    if (name.find('~') == std::string_view::npos) return nullptr;
+    for (const auto& node : folder.children) {
+        if (runtime::EqualsIgnoringCase(ShortName(node->name), name)) return node.get();
+    }
+    return nullptr;
 }
 
 DiskNode& Add(DiskNode& folder, std::string_view name, std::uint32_t attributes) {
@@ -37,6 +42,17 @@ DiskNode& Add(DiskNode& folder, std::string_view name, std::uint32_t attributes)
 }
 
 }  // namespace
+
+std::string ShortName(const std::string& name) {
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    std::string base = name.substr(0, dot);
+    const std::string extension = name.substr(dot, 4);
+    const bool fits =
+        name.find(' ') == std::string::npos && runtime::Length(base) <= 8 && name.size() - dot <= 4;
+    if (fits) return name;
+    std::erase(base, ' ');
+    return runtime::ToUpper(runtime::Left(base, 6) + "~1" + extension);
+}
 
 std::string DiskNode::Path() const {
     return parent && parent->parent ? parent->Path() + '\\' + runtime::ToLower(name)

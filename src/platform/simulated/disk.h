@@ -42,7 +42,11 @@ struct DiskNode {
     std::string Path() const;
 };
 
-// A disk in memory for all services that work on files. Paths are compared without regard to case;
+// The 8.3 form of a name; of names that begin alike all have the same one.
+std::string ShortName(const std::string& name);
+
+// A disk in memory for all services that work on files. Paths are compared without regard to case
+// and may hold short names;
 // a drive is there as soon as something is put on it. Roots of drives are hidden system folders,
 // as those of NTFS are.
 class Disk {

@@ -17,6 +17,14 @@ FolderEntry Told(const DiskNode& node) {
     return {node.name, node.attributes, node.IsFolder() ? 0 : node.Size(), node.modified};
 }
 
+// From the drive on, by what `name` makes of each name.
+std::string PathThrough(const DiskNode& node, std::string (*name)(const std::string&)) {
+    const bool isDrive = !node.parent->parent;
+    if (isDrive) return node.name + '\\';
+    const std::string above = PathThrough(*node.parent, name);
+    return above + (above.ends_with('\\') ? "" : "\\") + name(node.name);
+}
+
 }  // namespace
 
 std::vector<FolderEntry> Folders::List(std::string_view path) {
@@ -45,11 +53,36 @@ std::optional<FolderEntry> Folders::Find(std::string_view path) const {
 
 std::string Folders::FullPath(std::string_view path) const {
     std::string full(path);
-    // The current directory is the root of the drive.
-    if (full.starts_with('\\')) full.insert(0, "C:");
-    if (full.size() == 2 && full[1] == ':') full += '\\';
+    if (full.starts_with('\\')) full.insert(0, current.substr(0, 2));
+    if (full.size() == 2 && full[1] == ':') {
+        full = runtime::EqualsIgnoringCase(full, current.substr(0, 2)) ? current : full + '\\';
+    }
     journal_.Note([&] { return "GetFullPathNameW " + Quoted(path) + " -> " + Quoted(full); });
     return full;
+}
+
+void Folders::MakeCurrent(std::string_view path) {
+    auto line = journal_.Note([&] { return "SetCurrentDirectoryW " + Quoted(path); });
+    PassOrThrow(journal_, faults_, line, "SetCurrentDirectoryW", path);
+    const DiskNode* folder = disk_.Find(path);
+    if (!folder || !folder->IsFolder()) ThrowFault(journal_, line, runtime::PathNotFound);
+    current = path;
+}
+
+std::string Folders::ShortPath(std::string_view path, std::size_t room) const {
+    const DiskNode* node = faults_.Check("GetShortPathNameA", path) ? nullptr : disk_.Find(path);
+    std::string shortPath = node ? PathThrough(*node, ShortName) : "";
+    if (runtime::Length(shortPath) >= room) shortPath.clear();
+    journal_.Note([&] { return "GetShortPathNameA " + Quoted(path) + " -> " + Quoted(shortPath); });
+    return shortPath;
+}
+
+std::string Folders::LongPath(std::string_view path) const {
+    const DiskNode* node = faults_.Check("GetLongPathNameW", path) ? nullptr : disk_.Find(path);
+    const auto name = [](const std::string& own) { return own; };
+    const std::string longPath = node ? PathThrough(*node, name) : std::string(path);
+    journal_.Note([&] { return "GetLongPathNameW " + Quoted(path) + " -> " + Quoted(longPath); });
+    return longPath;
 }
 
 void Folders::Remove(std::string_view path, bool force) {

@@ -20,8 +20,13 @@ class Folders final : public platform::Folders {
     std::vector<FolderEntry> List(std::string_view path) override;
     std::optional<FolderEntry> Find(std::string_view path) const override;
     std::string FullPath(std::string_view path) const override;
+    void MakeCurrent(std::string_view path) override;
+    std::string ShortPath(std::string_view path, std::size_t room) const override;
+    std::string LongPath(std::string_view path) const override;
     void Remove(std::string_view path, bool force) override;
 
+    // Where programs begin.
+    std::string current = "C:\\";
     // Runs when a folder has been listed, with its path: what others do to the disk meanwhile.
     std::function<void(const std::string&)> afterListing;
 

@@ -70,6 +70,7 @@ void Forms::Open(toolkit::Form& form) {
     auto& view = views_[&form] = std::make_unique<View>(journal_, form);
     form.SetView(view.get());
     for (const auto& control : form.Controls()) {
+        handles_[control.get()] = ++lastHandle_;
         if (control->Kind() != toolkit::ControlKind::ListView) continue;
         auto& list = lists_[control.get()] = std::make_unique<ListView>(journal_, *control);
         control->SetView(list.get());
@@ -95,8 +96,14 @@ void Forms::Close(toolkit::Form& form) {
     form.SetView(nullptr);
     views_.erase(&form);
     for (const auto& control : form.Controls()) {
+        handles_.erase(control.get());
         if (lists_.erase(control.get())) control->SetView(nullptr);
     }
+}
+
+std::uintptr_t Forms::HandleOf(const toolkit::Control& control) const {
+    const auto found = handles_.find(&control);
+    return found == handles_.end() ? 0 : found->second;
 }
 
 std::string Forms::SortKey(std::string_view text) const {

@@ -29,6 +29,8 @@ class Forms final : public toolkit::FormHost {
     void DoEvents() override {
         if (onEvents) onEvents();
     }
+    // Counted from 1 in the order in which the controls come to be on the screen.
+    std::uintptr_t HandleOf(const toolkit::Control& control) const override;
     // Umlauts stand with their vowels, as in German.
     std::string SortKey(std::string_view text) const override;
 
@@ -50,6 +52,8 @@ class Forms final : public toolkit::FormHost {
     Journal& journal_;
     std::map<toolkit::Form*, std::unique_ptr<View>> views_;
     std::map<toolkit::Control*, std::unique_ptr<ListView>> lists_;
+    std::map<const toolkit::Control*, std::uintptr_t> handles_;
+    std::uintptr_t lastHandle_ = 0;
     std::vector<toolkit::Form*> open_;
     std::deque<std::pair<std::string, std::function<void(toolkit::Form&)>>> scripts_;
 };

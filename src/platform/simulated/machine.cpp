@@ -29,6 +29,7 @@ Machine::Machine()
       browser(journal, faults),
       messages(journal, faults),
       menus(journal, faults),
+      toolTips(journal, faults),
       tray(journal, faults),
       program(journal),
       services{
@@ -60,6 +61,7 @@ Machine::Machine()
           .browser = browser,
           .messages = messages,
           .menus = menus,
+          .toolTips = toolTips,
           .tray = tray,
           .program = program,
       } {}

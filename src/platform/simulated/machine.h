@@ -31,6 +31,7 @@
 #include "platform/simulated/system.h"
 #include "platform/simulated/systemclock.h"
 #include "platform/simulated/systeminformation.h"
+#include "platform/simulated/tooltips.h"
 #include "platform/simulated/tray.h"
 #include "platform/simulated/workstation.h"
 
@@ -77,6 +78,7 @@ class Machine {
     Browser browser;
     Messages messages;
     Menus menus;
+    ToolTips toolTips;
     Tray tray;
     Program program;
 

@@ -50,7 +50,7 @@ const toolkit::MenuItem* Menus::Picked(const toolkit::PopupMenu& menu) {
     if (item == menu.items.end()) {
         throw std::logic_error("no item \"" + caption + "\" in the menu " + menu.name);
     }
-    return &*item;
+    return item->enabled ? &*item : nullptr;
 }
 
 }  // namespace platform::simulated

@@ -1,6 +1,8 @@
 #include "platform/simulated/registry.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "platform/simulated/faults.h"
 #include "platform/simulated/locale.h"
@@ -13,10 +15,11 @@ namespace {
 
 using Result = Registry::Result;
 
-constexpr std::uint32_t MayQueryValue = 0x01;
 // Limits of the platform.
 constexpr std::size_t LongestKeyName = 255;
-constexpr std::size_t LongestValueName = 16383;
+// The buffer for the names of keys.
+constexpr std::size_t EnumerationRoom = 255;
+constexpr std::size_t ValueNameLimit = 16383;
 constexpr int DeepestKey = 512;
 
 constexpr const char* RootNames[] = {"HKCR", "HKCU", "HKLM"};
@@ -25,15 +28,20 @@ bool IsRoot(Registry::Key key) {
     return key >= Registry::ClassesRoot && key <= Registry::LocalMachine;
 }
 
-std::string KeyText(Registry::Key key) {
-    if (IsRoot(key)) return RootNames[key - Registry::ClassesRoot];
-    return "#" + std::to_string(key);
-}
-
 // "-> 0" and what came out.
 std::string ResultText(Result result, const std::string& out) {
     std::string text = " -> " + std::to_string(result);
     return result == Registry::Success ? text + out : text;
+}
+
+// In the order of the names. The NUL takes a place in the room.
+template <typename Map>
+Result NameAt(const Map& entries, std::uint32_t index, std::size_t room, std::string& name) {
+    if (index >= entries.size()) return Registry::NoMoreItems;
+    const std::string& found = std::next(entries.begin(), index)->first;
+    if (found.size() >= room) return Registry::MoreData;
+    name = FromWesternBytes(found);
+    return Registry::Success;
 }
 
 bool BeginsWithBackslash(std::string_view path) {
@@ -50,6 +58,12 @@ Registry::Registry(Journal& journal, Faults& faults) : journal_(journal), faults
 }
 
 Registry::~Registry() = default;
+
+// Handles are numbered in the order of their making.
+std::string Registry::KeyText(Key key) {
+    if (IsRoot(key)) return RootNames[key - ClassesRoot];
+    return key % HandleStep == 0 ? "#" + std::to_string(key / HandleStep) : Hex(key);
+}
 
 Result Registry::Open(Key parent, std::string_view path, std::uint32_t access, Key& opened) {
     auto fault = Fault("RegOpenKeyExA", parent, path, "\\");
@@ -114,6 +128,37 @@ Result Registry::RemoveKey(Key parent, std::string_view path) {
     Result result = fault ? *fault : DeleteKey(parent, path);
     journal_.Note([&] {
         return "RegDeleteKeyA " + KeyText(parent) + " " + Quoted(path) + ResultText(result, "");
+    });
+    return result;
+}
+
+Result Registry::EnumerateKey(Key key, std::uint32_t index, std::string& name) {
+    auto fault = Fault("RegEnumKeyA", key, "", "");
+    Result result = fault ? *fault : KeyAt(key, index, name);
+    journal_.Note([&] {
+        return "RegEnumKeyA " + KeyText(key) + " " + std::to_string(index) +
+               ResultText(result, " " + Quoted(name));
+    });
+    return result;
+}
+
+Result Registry::LongestValueName(Key key, std::uint32_t& length) {
+    auto fault = Fault("RegQueryInfoKeyA", key, "", "");
+    Result result = fault ? *fault : LongestName(key, length);
+    journal_.Note([&] {
+        return "RegQueryInfoKeyA " + KeyText(key) +
+               ResultText(result, " " + std::to_string(length));
+    });
+    return result;
+}
+
+Result Registry::EnumerateValue(Key key, std::uint32_t index, std::uint32_t room,
+                                std::string& name) {
+    auto fault = Fault("RegEnumValueA", key, "", "");
+    Result result = fault ? *fault : ValueAt(key, index, room, name);
+    journal_.Note([&] {
+        return "RegEnumValueA " + KeyText(key) + " " + std::to_string(index) +
+               ResultText(result, " " + Quoted(name));
     });
     return result;
 }
@@ -199,7 +244,7 @@ Result Registry::SetValue(Key key, std::string_view valueName, StoredValue value
     Handle handle;
     if (Result result = Use(key, MaySetValue, handle); result != Success) return result;
     AnsiName name(valueName);
-    if (name.Bytes().size() > LongestValueName) return InvalidParameter;
+    if (name.Bytes().size() > ValueNameLimit) return InvalidParameter;
     auto& values = handle.node->values;
     auto found = values.find(name.Bytes());
     if (found == values.end()) {
@@ -233,6 +278,28 @@ Result Registry::DeleteKey(Key parent, std::string_view path) {
     return Success;
 }
 
+Result Registry::KeyAt(Key key, std::uint32_t index, std::string& name) const {
+    Handle handle;
+    if (Result result = Use(key, MayEnumerateSubKeys, handle); result != Success) return result;
+    return NameAt(handle.node->children, index, EnumerationRoom, name);
+}
+
+Result Registry::ValueAt(Key key, std::uint32_t index, std::uint32_t room,
+                         std::string& name) const {
+    Handle handle;
+    if (Result result = Use(key, MayQueryValue, handle); result != Success) return result;
+    return NameAt(handle.node->values, index, room, name);
+}
+
+Result Registry::LongestName(Key key, std::uint32_t& length) const {
+    Handle handle;
+    if (Result result = Use(key, MayQueryValue, handle); result != Success) return result;
+    std::size_t longest = 0;
+    for (const auto& entry : handle.node->values) longest = std::max(longest, entry.first.size());
+    length = static_cast<std::uint32_t>(longest);
+    return Success;
+}
+
 Result Registry::Look(Key key, Handle& found) const {
     if (IsRoot(key)) {
         const NodeRef& root = Root(key);
@@ -260,8 +327,10 @@ std::optional<Result> Registry::Fault(std::string_view call, Key key, std::strin
 }
 
 Registry::Key Registry::NewHandle(NodeRef node, std::uint32_t access) {
-    handles_.emplace(nextHandle_, Handle{std::move(node), access});
-    return nextHandle_++;
+    const Key handle = nextHandle_;
+    nextHandle_ += HandleStep;
+    handles_.emplace(handle, Handle{std::move(node), access});
+    return handle;
 }
 
 std::uint32_t Registry::Denied(std::string_view fullPath) const {

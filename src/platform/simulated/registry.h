@@ -55,6 +55,10 @@ class Registry final : public platform::Registry {
                std::uint32_t size) override;
     Result RemoveValue(Key key, std::string_view valueName) override;
     Result RemoveKey(Key parent, std::string_view path) override;
+    Result EnumerateKey(Key key, std::uint32_t index, std::string& name) override;
+    Result LongestValueName(Key key, std::uint32_t& length) override;
+    Result EnumerateValue(Key key, std::uint32_t index, std::uint32_t room,
+                          std::string& name) override;
     Result Close(Key key) override;
 
     // Seeding, unjournalled. `root` is one of the three predefined handles.
@@ -80,6 +84,9 @@ class Registry final : public platform::Registry {
     int OpenHandles() const;
 
   private:
+    // Between one handle and the next, as on Windows.
+    static constexpr Key HandleStep = 4;
+
     using NodeRef = std::shared_ptr<RegistryNode>;
     struct Handle {
         NodeRef node;
@@ -108,12 +115,16 @@ class Registry final : public platform::Registry {
     Result SetValue(Key key, std::string_view valueName, StoredValue value);
     Result EraseValue(Key key, std::string_view valueName);
     Result DeleteKey(Key parent, std::string_view path);
+    Result KeyAt(Key key, std::uint32_t index, std::string& name) const;
+    Result ValueAt(Key key, std::uint32_t index, std::uint32_t room, std::string& name) const;
+    Result LongestName(Key key, std::uint32_t& length) const;
+    static std::string KeyText(Key key);
     Key NewHandle(NodeRef node, std::uint32_t access);
 
     std::array<NodeRef, 3> roots_;
     std::vector<Denial> denials_;
     std::map<Key, Handle> handles_;
-    Key nextHandle_ = 1;
+    Key nextHandle_ = HandleStep;
     Journal& journal_;
     Faults& faults_;
 };

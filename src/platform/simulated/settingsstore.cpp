@@ -38,6 +38,16 @@ void SettingsStore::Save(std::string_view title, std::string_view section, std::
     Store(name, text);
 }
 
+void SettingsStore::DeleteSection(std::string_view title, std::string_view section) {
+    auto line =
+        journal_.Note([&] { return "DeleteSetting " + Quoted(title) + " " + Quoted(section); });
+    const std::string start = Joined(title, section, "");
+    PassOrThrow(journal_, faults_, line, "DeleteSetting", start);
+    std::erase_if(texts_, [&](const auto& entry) {
+        return runtime::EqualsIgnoringCase(entry.first.substr(0, start.size()), start);
+    });
+}
+
 void SettingsStore::Put(std::string_view section, std::string_view key, std::string_view text) {
     Store(Joined(ProgramTitle, section, key), text);
 }

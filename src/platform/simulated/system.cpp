@@ -48,6 +48,29 @@ std::string SystemFacts::UserName() const {
     return Told(journal_, faults_, "GetUserNameA", userName);
 }
 
+std::string SystemFacts::ExpandEnvironment(std::string_view text) const {
+    std::string expanded;
+    std::string_view rest = text.substr(0, text.find('\0'));
+    while (!rest.empty()) {
+        const std::size_t end = rest.front() == '%' ? rest.find('%', 1) : std::string_view::npos;
+        const std::string* value =
+            end == std::string_view::npos ? nullptr : Variable(rest.substr(1, end - 1));
+        expanded += value ? std::string_view(*value) : rest.substr(0, 1);
+        rest.remove_prefix(value ? end + 1 : 1);
+    }
+    if (faults_.Check("ExpandEnvironmentStringsA", text)) expanded.clear();
+    journal_.Note(
+        [&] { return "ExpandEnvironmentStringsA " + Quoted(text) + " -> " + Quoted(expanded); });
+    return expanded;
+}
+
+const std::string* SystemFacts::Variable(std::string_view name) const {
+    for (const auto& [known, value] : environment) {
+        if (runtime::EqualsIgnoringCase(known, name)) return &value;
+    }
+    return nullptr;
+}
+
 DiskSpace SystemFacts::Space(std::string_view directory) const {
     bool fails = faults_.Check("GetDiskFreeSpaceExA", directory).has_value();
     std::string drive = runtime::ToUpper(directory.substr(0, 1));

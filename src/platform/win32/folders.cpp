@@ -87,6 +87,26 @@ std::string Folders::FullPath(std::string_view path) const {
     return length < MAX_PATH ? FromWide({full, length}) : std::string(path);
 }
 
+void Folders::MakeCurrent(std::string_view path) {
+    const NoMediumBox quiet;
+    if (!SetCurrentDirectoryW(ToWide(path).c_str())) throw FailureOf(GetLastError());
+}
+
+std::string Folders::ShortPath(std::string_view path, std::size_t room) const {
+    std::string buffer(room, '\0');
+    const NoMediumBox quiet;
+    const DWORD length =
+        GetShortPathNameA(ToAnsi(path).c_str(), buffer.data(), static_cast<DWORD>(room));
+    return length < room ? FromAnsi({buffer.data(), length}) : "";
+}
+
+std::string Folders::LongPath(std::string_view path) const {
+    wchar_t buffer[MAX_PATH];
+    const NoMediumBox quiet;
+    const DWORD length = GetLongPathNameW(ToWide(path).c_str(), buffer, MAX_PATH);
+    return length > 0 && length < MAX_PATH ? FromWide({buffer, length}) : std::string(path);
+}
+
 void Folders::Remove(std::string_view path, bool force) {
     const std::wstring wide = ToWide(path);
     const DWORD attributes = GetFileAttributesW(wide.c_str());

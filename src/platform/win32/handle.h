@@ -106,5 +106,6 @@ using FontHandle = Owned<DrawingTraits<HFONT>>;
 using BrushHandle = Owned<DrawingTraits<HBRUSH>>;
 using PenHandle = Owned<DrawingTraits<HPEN>>;
 using BitmapHandle = Owned<DrawingTraits<HBITMAP>>;
+using RegionHandle = Owned<DrawingTraits<HRGN>>;
 
 }  // namespace platform::win32

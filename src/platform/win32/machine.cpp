@@ -36,6 +36,7 @@ Machine::Machine(FormHandles& forms)
           .browser = browser_,
           .messages = messages_,
           .menus = menus_,
+          .toolTips = toolTips_,
           .tray = tray_,
           .program = program_,
       } {}

@@ -28,6 +28,7 @@
 #include "platform/win32/systemclock.h"
 #include "platform/win32/systemfacts.h"
 #include "platform/win32/systeminformation.h"
+#include "platform/win32/tooltips.h"
 #include "platform/win32/tray.h"
 #include "platform/win32/workstation.h"
 
@@ -66,6 +67,7 @@ class Machine {
     Messages messages_;
     Shell shell_;
     Menus menus_;
+    ToolTips toolTips_;
     Clock clock_{messages_};
     SystemClock systemClock_;
     Network network_;

@@ -16,7 +16,8 @@ MenuHandle MakeMenu(const toolkit::PopupMenu& menu) {
         if (item.IsSeparator()) {
             AppendMenuW(made.Get(), MF_SEPARATOR, id, nullptr);
         } else {
-            AppendMenuW(made.Get(), MF_STRING, id, ToWide(item.caption).c_str());
+            const UINT flags = item.enabled ? MF_STRING : MF_STRING | MF_GRAYED;
+            AppendMenuW(made.Get(), flags, id, ToWide(item.caption).c_str());
         }
     }
     return made;

@@ -41,7 +41,7 @@ Processes::Handle Processes::Create(std::string_view commandLine, std::uint32_t 
     return reinterpret_cast<Handle>(started.hProcess);
 }
 
-void Processes::Start(std::string_view commandLine, std::int32_t windowStyle) {
+std::uint32_t Processes::Start(std::string_view commandLine, std::int32_t windowStyle) {
     std::string line = ToAnsi(commandLine);
     STARTUPINFOA record = {};
     record.cb = sizeof record;
@@ -54,6 +54,17 @@ void Processes::Start(std::string_view commandLine, std::int32_t windowStyle) {
     }
     KernelHandle(started.hThread).Close();
     KernelHandle(started.hProcess).Close();
+    return started.dwProcessId;
+}
+
+Processes::Handle Processes::Open(std::uint32_t access, std::uint32_t processId) {
+    return reinterpret_cast<Handle>(OpenProcess(access, FALSE, processId));
+}
+
+std::optional<std::uint32_t> Processes::ExitCode(Handle process) {
+    DWORD code = 0;
+    if (!GetExitCodeProcess(reinterpret_cast<HANDLE>(process), &code)) return std::nullopt;
+    return code;
 }
 
 void Processes::WaitForEnd(Handle process) {

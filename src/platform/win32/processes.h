@@ -8,7 +8,9 @@ class Processes final : public platform::Processes {
   public:
     Handle Create(std::string_view commandLine, std::uint32_t creationFlags,
                   const StartupInfo& startup) override;
-    void Start(std::string_view commandLine, std::int32_t windowStyle) override;
+    std::uint32_t Start(std::string_view commandLine, std::int32_t windowStyle) override;
+    Handle Open(std::uint32_t access, std::uint32_t processId) override;
+    std::optional<std::uint32_t> ExitCode(Handle process) override;
     void WaitForEnd(Handle process) override;
     bool Close(Handle process) override;
 };

@@ -72,6 +72,31 @@ Registry::Result Registry::RemoveKey(Key parent, std::string_view path) {
     return RegDeleteKeyA(Native(parent), ToAnsi(path).c_str());
 }
 
+Registry::Result Registry::EnumerateKey(Key key, std::uint32_t index, std::string& name) {
+    char buffer[255];
+    const Result result = RegEnumKeyA(Native(key), index, buffer, sizeof buffer);
+    if (result == Success) name = FromAnsi(buffer);
+    return result;
+}
+
+Registry::Result Registry::LongestValueName(Key key, std::uint32_t& length) {
+    DWORD longest = 0;
+    const Result result = RegQueryInfoKeyA(Native(key), nullptr, nullptr, nullptr, nullptr, nullptr,
+                                           nullptr, nullptr, &longest, nullptr, nullptr, nullptr);
+    length = longest;
+    return result;
+}
+
+Registry::Result Registry::EnumerateValue(Key key, std::uint32_t index, std::uint32_t room,
+                                          std::string& name) {
+    std::string buffer(room, '\0');
+    DWORD length = room;
+    const Result result = RegEnumValueA(Native(key), index, buffer.data(), &length, nullptr,
+                                        nullptr, nullptr, nullptr);
+    if (result == Success) name = FromAnsi({buffer.data(), length});
+    return result;
+}
+
 Registry::Result Registry::Close(Key key) {
     return RegCloseKey(Native(key));
 }

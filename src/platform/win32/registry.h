@@ -14,6 +14,10 @@ class Registry final : public platform::Registry {
                std::uint32_t size) override;
     Result RemoveValue(Key key, std::string_view valueName) override;
     Result RemoveKey(Key parent, std::string_view path) override;
+    Result EnumerateKey(Key key, std::uint32_t index, std::string& name) override;
+    Result LongestValueName(Key key, std::uint32_t& length) override;
+    Result EnumerateValue(Key key, std::uint32_t index, std::uint32_t room,
+                          std::string& name) override;
     Result Close(Key key) override;
 };
 

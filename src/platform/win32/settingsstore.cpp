@@ -27,4 +27,10 @@ void SettingsStore::Save(std::string_view title, std::string_view section, std::
     }
 }
 
+void SettingsStore::DeleteSection(std::string_view title, std::string_view section) {
+    if (!RemoveUserKey(PathOf(title, section))) {
+        throw runtime::Failure(runtime::InvalidProcedureCall);
+    }
+}
+
 }  // namespace platform::win32

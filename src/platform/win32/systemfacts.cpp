@@ -46,6 +46,14 @@ std::string SystemFacts::UserName() const {
     return FromAnsi({buffer, length - 1});
 }
 
+std::string SystemFacts::ExpandEnvironment(std::string_view text) const {
+    const std::string bytes = ToAnsi(text);
+    std::string buffer(ExpandEnvironmentStringsA(bytes.c_str(), nullptr, 0), '\0');
+    ExpandEnvironmentStringsA(bytes.c_str(), buffer.data(), static_cast<DWORD>(buffer.size()));
+    // The size counts the NUL, and on some systems more than that.
+    return FromAnsi(buffer.substr(0, buffer.find('\0')));
+}
+
 DiskSpace SystemFacts::Space(std::string_view directory) const {
     const NoMediumBox quiet;
     ULARGE_INTEGER freeToUser = {}, total = {}, free = {};

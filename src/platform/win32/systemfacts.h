@@ -10,6 +10,7 @@ class SystemFacts final : public platform::SystemFacts {
     std::string SystemDirectory() const override;
     std::string TempPath() const override;
     std::string UserName() const override;
+    std::string ExpandEnvironment(std::string_view text) const override;
     DiskSpace Space(std::string_view directory) const override;
 };
 

@@ -53,4 +53,9 @@ bool RemoveUserValue(const std::wstring& path, const std::wstring& name) {
     return key && RegDeleteValueW(key.Get(), name.c_str()) == ERROR_SUCCESS;
 }
 
+bool RemoveUserKey(const std::wstring& path) {
+    const LONG result = RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
+    return result == ERROR_SUCCESS || result == ERROR_FILE_NOT_FOUND;
+}
+
 }  // namespace platform::win32

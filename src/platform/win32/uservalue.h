@@ -17,4 +17,7 @@ bool WriteUserText(const std::wstring& path, const std::wstring& name, const std
 // False when there was no such value or the system refuses.
 bool RemoveUserValue(const std::wstring& path, const std::wstring& name);
 
+// A key without sub-keys. True also when there was none; false when the system refuses.
+bool RemoveUserKey(const std::wstring& path);
+
 }  // namespace platform::win32

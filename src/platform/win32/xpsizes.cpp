@@ -14,4 +14,5 @@ static_assert(sizeof(LVITEMW) == 52);
 static_assert(sizeof(STARTUPINFOA) == 68);
 // These two have grown all the same; code must name the size of the older form.
 static_assert(NOTIFYICONDATAW_V2_SIZE == 936);
+static_assert(offsetof(TTTOOLINFOA, lParam) == 40);
 static_assert(offsetof(TTTOOLINFOW, lParam) == 40);

@@ -24,6 +24,7 @@ void ControlWindow::Create(HWND parent, int id, const toolkit::Rect& area) {
     control_.SetView(this);
     Prepare();
     ShowValue();
+    tip_.Show(window_, control_.ToolTip());
 }
 
 void ControlWindow::Detach() {
@@ -70,6 +71,9 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
             break;
         case toolkit::Aspect::TextColour:
             Repaint();
+            break;
+        case toolkit::Aspect::ToolTip:
+            tip_.Show(window_, control_.ToolTip());
             break;
     }
 }

@@ -8,6 +8,7 @@
 
 #include "platform/win32/windows/controlname.h"
 #include "platform/win32/windows/surroundings.h"
+#include "platform/win32/windows/tipwindow.h"
 #include "toolkit/control.h"
 
 namespace platform::win32 {
@@ -25,6 +26,8 @@ class ControlWindow : public toolkit::ControlView,
     void Create(HWND parent, int id, const toolkit::Rect& area);
     // The control gets no view and no event any more; the native window is the form's to destroy.
     virtual void Detach();
+    // Comes before Detach.
+    void DetachTip() { tip_.Leave(); }
 
     // nullptr before Create and after Detach.
     HWND Window() const { return window_; }
@@ -90,6 +93,7 @@ class ControlWindow : public toolkit::ControlView,
     HWND window_ = nullptr;
     toolkit::Rect area_;
     std::optional<ControlName> name_;
+    TipWindow tip_;
 };
 
 // Gives the focus to a window, and selects the text of an edit field as a dialog does.

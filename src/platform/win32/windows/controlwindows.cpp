@@ -170,7 +170,10 @@ std::vector<toolkit::Placement> ControlWindows::Arranged(const toolkit::Form& fo
 }
 
 void ControlWindows::Detach() {
-    for (const auto& window : windows_) window->Detach();
+    for (const auto& window : windows_) {
+        window->DetachTip();
+        window->Detach();
+    }
 }
 
 std::shared_ptr<ControlWindow> ControlWindows::Find(HWND window) const {

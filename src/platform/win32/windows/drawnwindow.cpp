@@ -1,8 +1,11 @@
 #include "platform/win32/windows/drawnwindow.h"
 
-#include "platform/win32/handle.h"
+#include <iterator>
+
 #include "platform/win32/text.h"
+#include "platform/win32/windows/buffer.h"
 #include "platform/win32/windows/canvas.h"
+#include "platform/win32/windows/nativepicture.h"
 #include "toolkit/form.h"
 
 namespace platform::win32 {
@@ -24,30 +27,34 @@ void RegisterDrawn(const wchar_t* name, WNDPROC procedure) {
 
 MouseButton Held(WPARAM keys) {
     if (keys & MK_LBUTTON) return MouseButton::Left;
-    return keys & MK_RBUTTON ? MouseButton::Right : MouseButton::None;
+    if (keys & MK_RBUTTON) return MouseButton::Right;
+    return keys & MK_MBUTTON ? MouseButton::Middle : MouseButton::None;
 }
 
-// A bitmap in memory of the size of a window, which goes onto the screen in one piece.
-class Buffer {
-  public:
-    Buffer(HDC target, int width, int height)
-        : dc_(CreateCompatibleDC(target)),
-          bitmap_(CreateCompatibleBitmap(target, width, height)),
-          before_(SelectObject(dc_, bitmap_.Get())) {}
-    ~Buffer() {
-        SelectObject(dc_, before_);
-        DeleteDC(dc_);
+int HeldKeys() {
+    const auto held = [](int key, int value) { return GetKeyState(key) < 0 ? value : 0; };
+    return held(VK_SHIFT, toolkit::ShiftKey) | held(VK_CONTROL, toolkit::ControlKey) |
+           held(VK_MENU, toolkit::AltKey);
+}
+
+// The system's pointers by the pointer codes, which begin at 1.
+constexpr WORD PointerIds[] = {32512, 32515, 32513, 32512, 32646, 32643, 32645, 32642,
+                               32644, 32516, 32514, 32648, 32650, 32651, 32646};
+constexpr WORD HandId = 32649;
+
+HCURSOR NativePointer(const toolkit::Pointer& pointer) {
+    if (pointer.code == toolkit::Pointer::Own) {
+        return pointer.picture ? static_cast<const NativePicture*>(pointer.picture)->Icon()
+                               : nullptr;
     }
-    Buffer(const Buffer&) = delete;
-    Buffer& operator=(const Buffer&) = delete;
-
-    HDC Get() const { return dc_; }
-
-  private:
-    HDC dc_;
-    BitmapHandle bitmap_;
-    HGDIOBJ before_;
-};
+    WORD id = HandId;
+    if (pointer.code != toolkit::Pointer::Hand) {
+        const auto index = static_cast<std::size_t>(pointer.code - 1);
+        if (index >= std::size(PointerIds)) return nullptr;
+        id = PointerIds[index];
+    }
+    return LoadCursorW(nullptr, MAKEINTRESOURCEW(id));
+}
 
 }  // namespace
 
@@ -81,8 +88,18 @@ LRESULT CALLBACK DrawnWindow::Procedure(HWND window, UINT message, WPARAM wParam
 
 LRESULT DrawnWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = Window();
-    if (HandleMouse(message, wParam)) return 0;
+    if (HandleMouse(message, wParam, lParam)) return 0;
     switch (message) {
+        case WM_SIZE:
+            Guard([&] { control_.Resize(Client()); });
+            return 0;
+        case WM_SYSCOLORCHANGE:
+        case WM_SETTINGCHANGE:
+            Guard([&] { control_.SettingsChanged(); });
+            return 0;
+        case WM_SETCURSOR:
+            if (SetPointer()) return TRUE;
+            return DefWindowProcW(window, message, wParam, lParam);
         case WM_PAINT:
             Paint();
             return 0;
@@ -99,10 +116,13 @@ LRESULT DrawnWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             FocusMoved(message == WM_SETFOCUS);
             return 0;
         case WM_KEYDOWN:
-            Guard([&] { control_.KeyDown(static_cast<int>(wParam)); });
+            Guard([&] { control_.KeyDown({static_cast<int>(wParam), HeldKeys()}); });
+            return 0;
+        case WM_CHAR:
+            Guard([&] { control_.KeyPress(static_cast<char16_t>(wParam)); });
             return 0;
         case WM_KEYUP:
-            Guard([&] { control_.KeyUp(static_cast<int>(wParam)); });
+            Guard([&] { control_.KeyUp({static_cast<int>(wParam), HeldKeys()}); });
             return 0;
         case WM_GETDLGCODE:
             return control_.IsTabStop() ? DLGC_BUTTON | DLGC_WANTARROWS : DLGC_STATIC;
@@ -121,47 +141,96 @@ LRESULT DrawnWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-bool DrawnWindow::HandleMouse(UINT message, WPARAM wParam) {
-    switch (message) {
-        case WM_MOUSEMOVE:
-            Guard([&] { control_.MouseMove(Held(wParam)); });
-            return true;
-        case WM_LBUTTONDOWN:
-        case WM_RBUTTONDOWN:
-            if (control_.IsTabStop()) SetFocus(Window());
-            Guard([&] {
-                control_.MouseDown(message == WM_LBUTTONDOWN ? MouseButton::Left
-                                                             : MouseButton::Right);
-            });
-            return true;
-        case WM_LBUTTONUP:
-        case WM_RBUTTONUP:
-            if (GetCapture() == Window()) ReleaseCapture();
-            Guard([&] {
-                control_.MouseUp(message == WM_LBUTTONUP ? MouseButton::Left : MouseButton::Right);
-            });
-            return true;
-        case WM_LBUTTONDBLCLK:
-        case WM_RBUTTONDBLCLK:
-            Guard([&] {
-                control_.DoubleClick(message == WM_LBUTTONDBLCLK ? MouseButton::Left
-                                                                 : MouseButton::Right);
-            });
-            return true;
-        default:
-            return false;
+bool DrawnWindow::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+    using Event = void (toolkit::DrawnControl::*)(toolkit::Mouse);
+    struct Row {
+        UINT message;
+        MouseButton button;
+        Event event;
+    };
+    static constexpr Event down = &toolkit::DrawnControl::MouseDown;
+    static constexpr Event up = &toolkit::DrawnControl::MouseUp;
+    static constexpr Event twice = &toolkit::DrawnControl::DoubleClick;
+    static constexpr Row rows[] = {
+        {WM_MOUSEMOVE, MouseButton::None, &toolkit::DrawnControl::MouseMove},
+        {WM_LBUTTONDOWN, MouseButton::Left, down},
+        {WM_LBUTTONUP, MouseButton::Left, up},
+        {WM_LBUTTONDBLCLK, MouseButton::Left, twice},
+        {WM_RBUTTONDOWN, MouseButton::Right, down},
+        {WM_RBUTTONUP, MouseButton::Right, up},
+        {WM_RBUTTONDBLCLK, MouseButton::Right, twice},
+        {WM_MBUTTONDOWN, MouseButton::Middle, down},
+        {WM_MBUTTONUP, MouseButton::Middle, up},
+        {WM_MBUTTONDBLCLK, MouseButton::Middle, twice},
+    };
+    for (const Row& row : rows) {
+        if (row.message != message) continue;
+        if (row.event == down && control_.IsTabStop()) SetFocus(Window());
+        if (row.event == up && GetCapture() == Window()) ReleaseCapture();
+        const MouseButton button = message == WM_MOUSEMOVE ? Held(wParam) : row.button;
+        const toolkit::Point at{static_cast<short>(LOWORD(lParam)),
+                                static_cast<short>(HIWORD(lParam))};
+        Guard([&] { (control_.*row.event)({button, at, HeldKeys()}); });
+        return true;
     }
+    return false;
+}
+
+// While its form waits, its pointer counts for all that is on it.
+bool DrawnWindow::SetPointer() const {
+    if (control_.Owner().Pointer() == toolkit::Hourglass) return false;
+    const HCURSOR pointer = NativePointer(control_.MousePicture());
+    if (pointer) SetCursor(pointer);
+    return pointer != nullptr;
+}
+
+toolkit::Rect DrawnWindow::Client() const {
+    RECT client{};
+    GetClientRect(Window(), &client);
+    return {0, 0, client.right, client.bottom};
+}
+
+// The system owns a region once it is set, and deletes the one before.
+void DrawnWindow::SetRegion(const toolkit::Region& parts) {
+    RegionHandle whole;
+    for (const auto& [area, isEllipse] : parts) {
+        RegionHandle part((isEllipse ? CreateEllipticRgn : CreateRectRgn)(
+            area.left, area.top, area.Right(), area.Bottom()));
+        if (whole) {
+            CombineRgn(whole.Get(), whole.Get(), part.Get(), RGN_OR);
+        } else {
+            whole = std::move(part);
+        }
+    }
+    SetWindowRgn(Window(), whole.Release(), TRUE);
+}
+
+// The parent itself paints the copy: on the screen it leaves out what its children cover.
+void DrawnWindow::KeepBackground(bool kept) {
+    background_.reset();
+    const toolkit::Rect client = Client();
+    if (!kept || client.width <= 0 || client.height <= 0) return;
+    const HWND parent = GetParent(Window());
+    const HDC dc = GetDC(parent);
+    background_ = std::make_unique<Buffer>(dc, client.width, client.height);
+    ReleaseDC(parent, dc);
+    POINT corner{};
+    MapWindowPoints(Window(), parent, &corner, 1);
+    const auto wParam = reinterpret_cast<WPARAM>(background_->Get());
+    SetViewportOrgEx(background_->Get(), -corner.x, -corner.y, nullptr);
+    SendMessageW(parent, WM_ERASEBKGND, wParam, 0);
+    SendMessageW(parent, WM_PRINTCLIENT, wParam, PRF_CLIENT);
+    SetViewportOrgEx(background_->Get(), 0, 0, nullptr);
 }
 
 void DrawnWindow::Paint() {
     PAINTSTRUCT facts;
     BeginPaint(Window(), &facts);
-    RECT client;
-    GetClientRect(Window(), &client);
-    if (client.right > 0 && client.bottom > 0) {
-        const Buffer buffer(facts.hdc, client.right, client.bottom);
+    const toolkit::Rect client = Client();
+    if (client.width > 0 && client.height > 0) {
+        const Buffer buffer(facts.hdc, client.width, client.height);
         PaintOn(buffer.Get());
-        BitBlt(facts.hdc, 0, 0, client.right, client.bottom, buffer.Get(), 0, 0, SRCCOPY);
+        BitBlt(facts.hdc, 0, 0, client.width, client.height, buffer.Get(), 0, 0, SRCCOPY);
     }
     EndPaint(Window(), &facts);
 }
@@ -171,8 +240,10 @@ void DrawnWindow::PaintOn(HDC dc) {
     GetClientRect(Window(), &client);
     ::FillRect(dc, &client, GetSysColorBrush(COLOR_BTNFACE));
     const HGDIOBJ before = SelectObject(dc, Font());
-    GdiCanvas canvas(dc);
-    Guard([&] { control_.Paint(canvas, {0, 0, client.right, client.bottom}); });
+    {
+        GdiCanvas canvas(dc, background_ ? background_->Get() : nullptr);
+        Guard([&] { control_.Paint(canvas, {0, 0, client.right, client.bottom}); });
+    }
     SelectObject(dc, before);
 }
 

@@ -5,7 +5,10 @@ namespace platform::win32 {
 ControlWindow::Recipe LabelWindow::Describe() const {
     DWORD style = SS_LEFT;
     if (IsHeard()) style |= SS_NOTIFY;
-    if (control_.Style() == toolkit::LabelStyle::Path) style |= SS_PATHELLIPSIS | SS_NOPREFIX;
+    // A path that does not fit is told whole by a tip, for which the label must see the mouse.
+    if (control_.Style() == toolkit::LabelStyle::Path) {
+        style |= SS_PATHELLIPSIS | SS_NOPREFIX | SS_NOTIFY;
+    }
     return {L"STATIC", style};
 }
 

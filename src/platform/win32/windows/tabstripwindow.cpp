@@ -11,6 +11,12 @@ namespace {
 
 constexpr wchar_t PageClass[] = L"QuillmorePage";
 
+// The resource that holds a picture for each tab side by side, in the order of the tabs. A program
+// without it shows tabs without pictures.
+constexpr wchar_t PicturesName[] = L"TABS";
+constexpr int PictureSize = 16;
+constexpr COLORREF NoColour = RGB(255, 0, 255);
+
 // A page passes on to the form what its controls tell and ask it, and what the mouse does over it.
 LRESULT CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
@@ -37,6 +43,17 @@ void RegisterPages() {
     facts.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     facts.lpszClassName = PageClass;
     RegisterClassExW(&facts);
+}
+
+// True colour, since a list in fewer colours has those of the system and not the pictures'.
+HIMAGELIST LoadPictures(int count) {
+    const BitmapHandle strip(static_cast<HBITMAP>(LoadImageW(
+        GetModuleHandleW(nullptr), PicturesName, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    if (!strip) return nullptr;
+    const HIMAGELIST pictures =
+        ImageList_Create(PictureSize, PictureSize, ILC_COLOR24 | ILC_MASK, count, 0);
+    ImageList_AddMasked(pictures, strip.Get(), NoColour);
+    return pictures;
 }
 
 }  // namespace
@@ -71,12 +88,15 @@ ControlWindow::Recipe TabStripWindow::Describe() const {
 }
 
 void TabStripWindow::Prepare() {
+    pictures_.Reset(LoadPictures(static_cast<int>(control_.Captions().size())));
+    Send(TCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.Get()));
     int index = 0;
     for (const std::string& caption : control_.Captions()) {
         std::wstring text = ToWide(caption);
         TCITEMW item{};
-        item.mask = TCIF_TEXT;
+        item.mask = TCIF_TEXT | TCIF_IMAGE;
         item.pszText = text.data();
+        item.iImage = index;
         Send(TCM_INSERTITEMW, static_cast<WPARAM>(index++), reinterpret_cast<LPARAM>(&item));
     }
 }

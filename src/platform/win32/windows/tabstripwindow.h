@@ -1,11 +1,22 @@
 #pragma once
 
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <vector>
 
+#include "platform/win32/handle.h"
 #include "platform/win32/windows/controlwindow.h"
 #include "toolkit/controls.h"
 
 namespace platform::win32 {
+
+struct ImageListTraits {
+    using Type = HIMAGELIST;
+    static Type None() { return nullptr; }
+    static bool Close(Type list) { return ImageList_Destroy(list) != FALSE; }
+};
 
 // The common control SysTabControl32, and one container window a page in front of it. All pages
 // exist from the start; only the current one is visible.
@@ -28,6 +39,7 @@ class TabStripWindow final : public ControlWindow {
 
   private:
     toolkit::TabStrip& control_;
+    Owned<ImageListTraits> pictures_;
     RECT pageArea_{};
     std::vector<HWND> pages_;
 };

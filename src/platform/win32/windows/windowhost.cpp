@@ -107,6 +107,12 @@ std::string WindowHost::SortKey(std::string_view text) const {
     return key;
 }
 
+// Its view, if it has one, is one that this host has made.
+std::uintptr_t WindowHost::HandleOf(const toolkit::Control& control) const {
+    const auto* window = static_cast<const ControlWindow*>(control.View());
+    return window ? reinterpret_cast<std::uintptr_t>(window->Window()) : 0;
+}
+
 HWND WindowHost::WindowOf(const toolkit::Form& form) const {
     const auto window = Find(form);
     return window ? window->Window() : nullptr;

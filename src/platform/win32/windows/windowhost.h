@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -34,6 +35,7 @@ class WindowHost final : public FormHandles {
     std::vector<toolkit::Form*> OpenForms() const override;
     void DoEvents() override;
     std::string SortKey(std::string_view text) const override;
+    std::uintptr_t HandleOf(const toolkit::Control& control) const override;
 
     // Serves the windows until the last form is unloaded.
     void Run();

@@ -1,0 +1,443 @@
+#include "tweaks/helptexts.h"
+
+#include "controls/ctooltip.h"
+#include "toolkit/form.h"
+
+namespace tweaks {
+namespace {
+
+// The slider and its box.
+constexpr char MenuDelay[] =
+    "Hier können Sie festlegen, nach wie vielen Millisekunden Menüs aufklappen. Standard sind 400 "
+    "ms, mit kleineren Werten reagiert das Startmenü schneller. Bei sehr kleinen Werten klappen "
+    "Menüs schon auf, wenn die Maus sie nur streift.";
+
+// Both protocols.
+constexpr char Connections[] =
+    "Hier können Sie festlegen wie viele simultane http Verbindungen mit dem jeweiligen Protokoll "
+    "möglich sind. Zu hohe Werte können die Performance aber auch negativ beeinflussen.";
+
+// In the order in which the texts are hung up.
+constexpr HelpText Rows[] = {
+    {"chkAutoLogin",
+     "Meldet den angegebenen Benutzer beim Start von Windows XP ohne Nachfrage an. Standardmäßig "
+     "ist dies ausgeschaltet. ACHTUNG: Das Passwort wird unverschlüsselt in der Registry "
+     "gespeichert, jeder mit Zugang zu Ihrem Rechner kann es dort lesen!"},
+    {"chkmemorymanagement",
+     "Windows XP stellt hohe Anforderungen an die Systemressourcen, auch an den Arbeitsspeicher. "
+     "Leider lagert Windows XP auch bei freiem RAM Programme in den virtuellen Speicher aus. "
+     "Verfügt Ihr Rechner über 128 MB Arbeitsspeicher oder mehr, sollte diese Paging Funktion "
+     "deaktiviert werden."},
+    {"chkLargeSystemCache",
+     "Verfügt Ihr System 256 MB oder mehr, sollten Sie diese Funktion aktivieren. Dann stellt "
+     "Windows XP den ganzen verfügbaren Speicherbereich (außer 4 MB für den zentralen "
+     "Systemspeicher) für den Dateisystem-Cache zur Verfügung. Das Betriebssystem reagiert bei "
+     "großem Systemcache schneller, da der Kernel in den Arbeitsspeicher geladen wird. Bei weniger "
+     "als 256 MB kann diese Option aber auch zu Performance-Einbußen führen. ACHTUNG: Besitzer von "
+     "ATI Grafikkarten sollten diese Funktion nicht nutzen, es kann dort zu Problemen führen!"},
+    {"chkSecondLevelDataCache",
+     "Teilt Windows XP mit, dass der Second Level Cache Ihres Prozessors 512 KB groß ist. "
+     "Standardmäßig ermittelt Windows die Größe selbst und nimmt 256 KB an, wenn das nicht "
+     "gelingt. Sinnvoll ist die Option nur bei älteren Prozessoren mit mehr als 256 KB Cache."},
+    {"chkLastAccessTimestamp",
+     "Windows XP vermerkt auf NTFS-Laufwerken bei jedem Zugriff auf eine Datei oder einen Ordner "
+     "den Zeitpunkt. Standardmäßig ist dies aktiv. Abgeschaltet gewinnen Sie etwas "
+     "Geschwindigkeit, manche Backup-Programme sind aber auf diese Angabe angewiesen."},
+    {"chkMFTTuning",
+     "Hier wird der Platz definiert den die sogenannte MFT für sich reserviert. Erhöhen Sie den "
+     "Wert auf 25% des Plattenplatzes durch markieren der Option, erhöhen Sie die "
+     "Plattenperformance ein wenig."},
+    {"chkBoostLoading",
+     "Beim Prefetch merkt sich Windows XP, welche Dateien beim Booten und beim Start von "
+     "Programmen gebraucht werden, und lädt sie im Voraus. Standardmäßig steht der Wert auf 3, "
+     "diese Option setzt ihn auf 5. Startet Ihr Rechner damit nicht schneller, schalten Sie sie "
+     "wieder ab."},
+    {"chkCDFSTune",
+     "Vergrößert die Werte, mit denen Windows XP beim Lesen von CDs Daten im Voraus in den Cache "
+     "lädt. CD-Laufwerke arbeiten damit etwas schneller, dafür wird ein wenig Arbeitsspeicher "
+     "belegt. Standardmäßig ist die Option ausgeschaltet."},
+    {"chkFastServices",
+     "Windows XP reserviert 'nur' 512 KB für Serverdienste was die Ein-/Ausgabeleistung mindert. "
+     "Ist diese Option aktiviert haben die Serverdienste 12 MB zur Verfügung."},
+    {"chkUltraDMA66",
+     "Schaltet für den ersten IDE-Controller den Modus Ultra-DMA/66 ein, den Windows XP bei "
+     "manchen Chipsätzen nicht von selbst benutzt. Standardmäßig fehlt dieser Eintrag. ACHTUNG: "
+     "Festplatte, Controller und Kabel müssen diesen Modus beherrschen, sonst drohen Datenfehler!"},
+    {"chkBootOptimizeFunction",
+     "Windows XP legt die zum Booten benötigten Dateien auf der Festplatte zusammen, sobald der "
+     "Rechner nichts zu tun hat. Das beschleunigt den Start und ist standardmäßig eingeschaltet. "
+     "Abschalten sollten Sie es nur, wenn Sie die Festplatte mit einem anderen Programm "
+     "defragmentieren."},
+    {"chkIcons",
+     "Macht den Hintergrund der Texte unter den Desktop-Icons durchsichtig, so dass Ihr "
+     "Hintergrundbild ganz zu sehen ist. Standardmäßig sind die Texte farbig hinterlegt. Die "
+     "Option wirkt sofort und wird bei jedem Start von Quillmore wieder gesetzt."},
+    {"Level",
+     "Stellt ein, wie durchsichtig die Taskbar ist: 255 ist deckend (Standard), 55 der kleinste "
+     "Wert. Die Einstellung wirkt sofort und wird bei jedem Start von Quillmore wieder gesetzt. "
+     "Langsame Grafikkarten kann sie beim Bildaufbau bremsen."},
+    {"chkBalloonTipps",
+     "Windows XP meldet vieles in Sprechblasen (BalloonTipps) neben der Uhr. Standardmäßig werden "
+     "sie angezeigt, wen sie stören, der schaltet die Option ab. Dann erscheinen aber auch "
+     "wichtige Hinweise dieser Art nicht mehr."},
+    {"chkCDAutoPlay",
+     "Startet eingelegte CDs automatisch, so wie es Windows XP standardmäßig tut. Nur für die "
+     "Windows XP Home Edition. ACHTUNG: Zum Einschalten wird der ganze Schlüssel mit den "
+     "Richtlinien für den Explorer gelöscht, andere Einträge darin gehen mit verloren!"},
+    {"chkDescriptionPopups",
+     "Zeigt eine kurze Beschreibung an, wenn die Maus auf einer Datei, einem Ordner oder einem "
+     "Desktop-Icon stehen bleibt. Standardmäßig ist dies eingeschaltet. Auf langsamen Rechnern "
+     "können Sie es abschalten, da die Angaben jedes Mal gelesen werden."},
+    {"chkTaskBarGlooming",
+     "Fasst bei voller Taskbar die Fenster eines Programms unter einer gemeinsamen Schaltfläche "
+     "zusammen. Das spart Platz und ist standardmäßig eingeschaltet. Möchten Sie jedes Fenster mit "
+     "einem Klick erreichen, schalten Sie die Option ab."},
+    {"chkNoSpaceCheck",
+     "Windows XP warnt, wenn auf einer Festplatte der Speicherplatz knapp wird. Standardmäßig ist "
+     "diese Meldung eingeschaltet. Schalten Sie sie ab, müssen Sie den freien Platz selbst im Auge "
+     "behalten."},
+    {"chkImagePreview",
+     "Bietet im Kontextmenü von Bildern die Vorschau mit dem Bildbetrachter von Windows XP an. "
+     "Standardmäßig ist dies eingeschaltet. Abschalten können Sie die Option, wenn Sie Ihre Bilder "
+     "lieber mit einem anderen Programm ansehen."},
+    {"chkShortCutInk",
+     "Entfernt den kleinen Pfeil, mit dem Windows XP Verknüpfungen kennzeichnet. Standardmäßig "
+     "wird er angezeigt. Ohne den Pfeil lassen sich Verknüpfungen und Dateien leicht verwechseln, "
+     "seien Sie also beim Löschen vorsichtig!"},
+    {"chkAutoEndTasks",
+     "Beendet beim Herunterfahren alle noch laufenden Programme ohne Nachfrage. Standardmäßig "
+     "fragt Windows XP nach, wenn ein Programm nicht mehr reagiert. ACHTUNG: Nicht gespeicherte "
+     "Daten gehen dabei verloren!"},
+    {"chkOldSearchAssistent",
+     "Ersetzt den animierten Suchassistenten von Windows XP durch die klassische Suche, wie Sie "
+     "sie von Windows 2000 kennen. Standardmäßig ist der Assistent aktiv. Die klassische Suche ist "
+     "schneller und zeigt alle Optionen auf einen Blick."},
+    {"chkOSVersionOnDesktop",
+     "Zeigt unten rechts auf dem Desktop die Versionsnummer von Windows XP an. Standardmäßig ist "
+     "dies ausgeschaltet. Die Änderung sehen Sie erst nach der nächsten Anmeldung."},
+    {"chkEncryptionContext",
+     "Nimmt 'Verschlüsseln' und 'Entschlüsseln' in das Kontextmenü des Explorers auf (nur NTFS). "
+     "Standardmäßig fehlen die Einträge. ACHTUNG: Einmal übernommen lässt sich die Option hier "
+     "nicht wieder abschalten. Ohne Sicherung des Schlüssels sind verschlüsselte Dateien nach "
+     "einer Neuinstallation verloren!"},
+    {"chkHideWinComponents",
+     "Aktiviert zeigt diese Option alle versteckten Windowskomponenten in der Systemsteuerung "
+     "unter 'Software -> Windows Komponenten hinzufügen/entfernen' zur Deinstallation an. Achtung: "
+     "Deinstallation von Windows Komponenten sollten Sie nur vornehmen, wenn es wirklich nötig ist "
+     "und Sie sich damit auskennen."},
+    {"chkDisableThumbnails",
+     "Windows XP speichert die Bilder der Miniaturansicht in der Datei Thumbs.db, damit sie beim "
+     "nächsten Mal schneller erscheinen. Standardmäßig ist dieser Cache aktiv. Abgeschaltet sparen "
+     "Sie etwas Platz, die Bilder müssen aber jedes Mal neu berechnet werden."},
+    {"chkWindowsTour",
+     "Windows XP bietet nach der Installation mehrmals eine Tour an. Mit dieser Option erscheint "
+     "das Angebot nicht mehr, standardmäßig ist sie ausgeschaltet. Zugleich wird das Script "
+     "Debugging des Internet Explorers deaktiviert bzw. beim Abschalten der Option wieder "
+     "aktiviert."},
+    {"chkCascadeExplorer",
+     "Neue Fenster des Internet Explorers und des Explorers werden versetzt hintereinander "
+     "angeordnet. Außerdem klappt im klassischen Startmenü die Systemsteuerung als Menü auf. "
+     "Standardmäßig ist die Option ausgeschaltet."},
+    {"chkDOSComp",
+     "Windows XP legt auf NTFS-Laufwerken zu jedem langen Dateinamen einen kurzen Namen (8.3) an. "
+     "Standardmäßig ist dies aktiv. Ohne alte DOS-Programme können Sie es abschalten und gewinnen "
+     "etwas Geschwindigkeit, manche Installationsprogramme benötigen die kurzen Namen aber noch."},
+    {"chkIconCache",
+     "Sollten sich Icons während des Arbeitens verändern bzw. das aussehen anderer Icons annehmen, "
+     "so ist unter Umständen der Icon Cache zu klein. Durch aktivieren dieser Option steht Ihnen "
+     "ein Icon Cache von 1024 Kilobyte zur Verfügung, der ausreichend sein sollte. Standardmäßig "
+     "verwaltet Windows XP den Cache selber und hält ihn unter 512 KB."},
+    {"chkShowAdminToolsInStartMenue",
+     "Zeigt im Startmenü den Ordner 'Verwaltung' mit Werkzeugen wie der Ereignisanzeige und der "
+     "Computerverwaltung an. Standardmäßig ist er ausgeblendet. Ändern Sie mit diesen Werkzeugen "
+     "nur, womit Sie sich auskennen."},
+    {"chkMP3BitRate",
+     "Der Windows Media Player kopiert CDs mit dieser Option in vier MP3-Qualitäten von 56 bis 320 "
+     "Kilobit pro Sekunde. Standardmäßig fehlen diese Einträge. Höhere Bitraten klingen besser, "
+     "die Dateien werden aber auch größer."},
+    {"chkSystemSpeaker",
+     "Schaltet die erweiterten Systemklänge über den PC Speaker ein. Standardmäßig sind sie "
+     "eingeschaltet. Stört Sie das Piepen, schalten Sie die Option ab, Warntöne sind dann aber "
+     "nicht mehr zu hören."},
+    {"chkSystemRestore",
+     "Die Systemwiederherstellung sichert Systemdateien und Registry, so dass Sie Windows XP auf "
+     "einen früheren Zeitpunkt zurücksetzen können. Sie ist standardmäßig aktiv und belegt bis zu "
+     "12% jeder Festplatte. ACHTUNG: Beim Abschalten gehen alle Wiederherstellungspunkte "
+     "verloren!"},
+    {"chkBSODAutostart",
+     "Nach einem schweren Fehler (BlueScreen) startet Windows XP den Rechner standardmäßig sofort "
+     "neu. Schalten Sie die Option ab, bleibt die Fehlermeldung stehen und Sie können sie in Ruhe "
+     "lesen. Bei Rechnern ohne Aufsicht sollte sie eingeschaltet bleiben."},
+    {"chkNeroBurnSpeed",
+     "Zeigt in Nero beim Brennen die tatsächliche Geschwindigkeit des Brenners an. Fehlt der "
+     "Eintrag, gilt die Option als eingeschaltet. Ist Nero nicht installiert, hat sie keine "
+     "Wirkung."},
+    {"txtTimeOut",
+     "Hier kann ein Wert in Millisekunden angegeben werden, der entscheidet wann Programme die "
+     "nicht mehr reagieren (Keine Rückmeldung) beendet werden. Standardmäßig dauert es bei Windows "
+     "XP 10000 ms (10 Sekunden)."},
+    {"sldStartmenu", MenuDelay},
+    {"txtStartmenu", MenuDelay},
+    {"chkWinLogOn",
+     "Zeigt vor jeder Anmeldung ein Fenster mit der Meldung und dem Titel an, die Sie darunter "
+     "eingeben. Standardmäßig gibt es keine Meldung. ACHTUNG: Beim Übernehmen mit abgeschalteter "
+     "Option werden beide Texte aus der Registry gelöscht!"},
+    {"chkDatensicherheit(1)",
+     "Der Internet Explorer überträgt beim Anzeigen verwandter Links die Adresse der besuchten "
+     "Seite an den Dienst ALEXA. Diese Option entfernt den Eintrag dafür, standardmäßig ist er "
+     "vorhanden. Schalten Sie die Option ab, wird er wieder angelegt."},
+    {"chkDatensicherheit(2)",
+     "Der Windows Media Player sucht im Internet selbst nach neuen Versionen. Standardmäßig ist "
+     "dies eingeschaltet. Schalten Sie es ab, baut er dafür keine Verbindung mehr auf, an wichtige "
+     "Updates müssen Sie dann aber selbst denken."},
+    {"chk1RecycleBinDelete",
+     "Entfernt den Papierkorb vom Desktop, standardmäßig wird er angezeigt. Die Option wirkt nicht "
+     "erst beim Übernehmen, zu sehen ist die Änderung aber erst nach einem Neustart. Gelöschte "
+     "Dateien landen auch danach im Papierkorb."},
+    {"chkNTLogin",
+     "Ist die Option aktiviert, müssen Sie vor der Anmeldung nicht STRG+ALT+ENTF drücken. Das ist "
+     "auf Rechnern ohne Domäne der Standard. Abgeschaltet verlangt Windows XP diese Tasten, was "
+     "vor gefälschten Anmeldefenstern schützt."},
+    {"chkDelegateFolders",
+     "Entfernt die gemeinsamen Dokumente und die Dokumente der anderen Benutzer aus dem "
+     "Arbeitsplatz. Standardmäßig werden sie angezeigt. Die Dateien selbst bleiben erhalten, Sie "
+     "finden sie weiterhin unter 'Dokumente und Einstellungen'."},
+    {"chkPageFileDelete",
+     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, damit niemand Reste Ihrer Daten "
+     "darin lesen kann. Standardmäßig ist dies ausgeschaltet. Das Herunterfahren dauert mit dieser "
+     "Option deutlich länger."},
+    {"chkDisableTM",
+     "Sperrt den Taskmanager, so dass er sich auch mit STRG+ALT+ENTF nicht mehr öffnen lässt. "
+     "Standardmäßig ist er zugänglich. ACHTUNG: Abgestürzte Programme können Sie dann nicht mehr "
+     "von Hand beenden!"},
+    {"chkSecureWindows",
+     "Schaltet den Dienst Universal Plug'n'Play (UPnP) ab, mit dem Windows XP Geräte im Netzwerk "
+     "findet. Standardmäßig ist er aktiv, wegen seiner Sicherheitslücken sollten Sie ihn "
+     "abschalten, wenn Sie ihn nicht benötigen. Manche Geräte und Programme sind auf ihn "
+     "angewiesen. Die Option wirkt sofort."},
+    {"chkWindowsUpdate",
+     "Schaltet die automatische Suche nach Updates ab, die Windows XP standardmäßig ausführt. "
+     "ACHTUNG: Installieren Sie Sicherheitsupdates dann unbedingt regelmäßig von Hand!"},
+    {"chkErrorReporting",
+     "Stürzt ein Programm ab, bietet Windows XP standardmäßig an, einen Fehlerbericht an Microsoft "
+     "zu senden. Mit dieser Option entfallen Bericht und Nachfrage. Da der Bericht Teile Ihrer "
+     "Daten enthalten kann, ist das Abschalten zu empfehlen."},
+    {"chkWindowsDesktop",
+     "Startet Desktop und Taskbar getrennt von den Fenstern des Explorers in einem eigenen "
+     "Prozess. Stürzt ein Explorerfenster ab, läuft der Desktop weiter. Standardmäßig ist dies "
+     "ausgeschaltet, da es etwas mehr Arbeitsspeicher benötigt."},
+    {"chkClearRecentDocs",
+     "Löscht beim Verlassen von Windows die Liste der zuletzt verwendeten Dokumente, so dass "
+     "niemand sieht, woran Sie gearbeitet haben. Standardmäßig bleibt die Liste erhalten. Die "
+     "Dokumente selbst werden nicht gelöscht."},
+    {"chkLogOnAdmin",
+     "Standardmäßig wird das Administrator Benutzerkonto nicht beim Starten von Windows XP im "
+     "Anmeldebildschirm angezeigt. Ist die Funktion aktiviert wird auch dieses Konto zur Auswahl "
+     "angezeigt. ACHTUNG: Wenn Sie nur mit dem Administratorkonto arbeiten und KEINEN weiteren "
+     "Benutzer mit Adminrechten haben, sollten Sie diese Funktion NICHT ABSCHALTEN! Sie sperren "
+     "sich unter Umständen selber aus. Falls es dennoch mal passiert, kein Grund zur Sorge. Im "
+     "Anmeldedialog (wo nun der Admin fehlt) einfach gleichzeitig STRG+ALT+ENTF drücken. Nun "
+     "können Sie die Anmeldedaten 'manuell' eintragen!"},
+    {"chkWatsonIE",
+     "Nach einem Absturz des Internet Explorers erstellt Dr. Watson einen Fehlerbericht und bietet "
+     "an ihn an Microsoft zu senden. Standardmäßig ist dies aktiv. Möchten Sie keine Berichte "
+     "senden, können Sie die Option ohne Nachteil abschalten."},
+    {"chkWatsonXP",
+     "Legt fest, ob Dr. Watson nach einem Absturz von Office XP Fehlerberichte und Dateien an "
+     "Microsoft senden darf. Standardmäßig ist dies erlaubt. Arbeiten Sie mit vertraulichen "
+     "Dokumenten, sollten Sie die Option abschalten."},
+    {"cboMTU",
+     "Die MTU ist die größte Länge eines Datenpakets in Bytes. Üblich sind 576 für analoge "
+     "Zugänge, 1492 für DSL und 1500 im Netzwerk, ohne Eintrag wählt Windows XP den Wert selbst. "
+     "Falsche Werte bremsen die Verbindung. Bei jeder Änderung wird auch RWIN neu berechnet."},
+    {"txtRWIN",
+     "RWIN legt fest, wie viele Bytes empfangen werden, bevor eine Bestätigung gesendet wird. "
+     "Empfohlen wird ein Vielfaches von MTU minus 40, es wird beim Ändern der MTU automatisch "
+     "eingetragen. Zu kleine Werte bremsen schnelle Verbindungen, zu große kosten bei Störungen "
+     "Zeit."},
+    {"txtTTL",
+     "TTL (Time To Live) ist die Anzahl der Stationen, die ein Datenpaket höchstens durchlaufen "
+     "darf. Standardmäßig sind es bei Windows XP 128. Mit zu kleinen Werten sind weit entfernte "
+     "Server nicht mehr zu erreichen."},
+    {"chkMUTBH",
+     "Erkennt Router, die zu große Datenpakete ohne Meldung verwerfen, und verkleinert die Pakete "
+     "dann. Standardmäßig ist dies ausgeschaltet. Da die Erkennung Zeit kostet, sollten Sie sie "
+     "nur bei Verbindungsproblemen aktivieren."},
+    {"chkAutoMTU",
+     "Windows XP ermittelt für jede Verbindung selbst die größte mögliche Paketlänge. Das ist der "
+     "Standard und sollte so bleiben, abgeschaltet sind die Pakete außerhalb des eigenen Netzes "
+     "nur 576 Bytes groß. Fehlt der Eintrag, erscheint die Option hier als ausgeschaltet."},
+    {"chkSACK",
+     "Mit SACK werden bei Störungen nur die wirklich verlorenen Datenpakete erneut gesendet. "
+     "Windows XP benutzt es standardmäßig, vor allem bei großem RWIN sollte es aktiv sein. Fehlt "
+     "der Eintrag, erscheint die Option hier als ausgeschaltet."},
+    {"chkIPForwarding",
+     "Der Rechner leitet Datenpakete zwischen seinen Netzwerkkarten weiter und arbeitet so als "
+     "Router. Standardmäßig ist dies ausgeschaltet. ACHTUNG: Unbedacht aktiviert öffnet die Option "
+     "Ihr Netzwerk möglicherweise nach außen!"},
+    {"cboHTTP10", Connections},
+    {"cboHTTP11", Connections},
+    {"optOptimalDFUESets(0)", "Beste DFÜ-Einstellungen manuell setzen."},
+    {"optOptimalDFUESets(1)", "Beste DFÜ-Einstellungen für analogen Zugang setzen."},
+    {"optOptimalDFUESets(2)", "Beste DFÜ-Einstellungen für ISDN Zugang setzen."},
+    {"optOptimalDFUESets(3)", "Beste DFÜ-Einstellungen für Netzwerk Zugang setzen."},
+    {"optOptimalDFUESets(4)", "Beste DFÜ-Einstellungen für DSL Zugang setzen."},
+    {"chkNetworkSpeed",
+     "Erhöht die Anzahl der gleichzeitigen Befehle und Threads für Zugriffe auf andere Rechner im "
+     "Netzwerk auf 104. Standardmäßig fehlen diese Einträge. Dafür wird etwas mehr Arbeitsspeicher "
+     "benötigt."},
+    {"chkNetworkTasks",
+     "Öffnen Sie einen Rechner im Netzwerk, sucht Windows XP dort standardmäßig nach geplanten "
+     "Tasks, was einige Sekunden dauern kann. Mit dieser Option entfällt die Suche. Die Tasks "
+     "anderer Rechner werden dann nicht mehr angezeigt."},
+    {"chkDNSSpeed",
+     "Ändert vier Werte für den Zwischenspeicher der DNS-Namen, so dass bereits besuchte Adressen "
+     "schneller gefunden werden. Standardmäßig fehlen diese Einträge. Zieht ein Server um, kann "
+     "seine alte Adresse allerdings länger gespeichert bleiben."},
+    {"chkTCPTuning",
+     "Setzt zwei Werte des Netzwerktreibers AFD (TransmitWorker 16 und PriorityBoost 10), damit "
+     "Programme mit Netzwerkverbindungen schneller bedient werden. Standardmäßig fehlen diese "
+     "Einträge. Bringt dies keine Verbesserung, schalten Sie die Option wieder ab."},
+    {"chkOutlookTray",
+     "Outlook XP und 2003 verschwinden beim Minimieren aus der Taskbar und liegen dann als Icon "
+     "neben der Uhr. Standardmäßig bleibt das Programm in der Taskbar. Ist Outlook nicht "
+     "installiert, wird nichts geändert."},
+    {"chkIEExtensions",
+     "Outlook 'verbietet' Anhänge wie .exe, .vbs und andere als Standardeinstellung. Um solche "
+     "Dateien dennoch empfangen zu können tragen Sie in das Textfeld darunter die entsprechenden "
+     "Dateierweiterungen ein, getrennt durch jeweils ein Semikolon. Achtung: Das zulassen von "
+     "einigen Dateianhängen stellt ein Sicherheitsrisiko dar!"},
+    {"chkIEWinPos",
+     "Ist die Option aktiviert, wird die gespeicherte Fensterposition des Internet Explorers "
+     "gelöscht und er merkt sich beim Schließen eine neue. Das ist der Standard. Abgeschaltet wird "
+     "eine feste Position eingetragen."},
+    {"chkScriptDebugging",
+     "Zeigt an, ob der Internet Explorer bei Fehlern in Scripts auf das Debugging verzichtet. "
+     "Standardmäßig ist es deaktiviert. Geändert wird der Wert nur zusammen mit der Option "
+     "'Windows Tour nicht mehr anzeigen'."},
+    {"chkNotifyDownloadReady",
+     "Der Internet Explorer meldet sich, wenn ein Download abgeschlossen ist. Standardmäßig ist "
+     "dies aktiv, bei vielen Downloads können Sie die Meldung abschalten. Fehlt der Eintrag, "
+     "erscheint die Option hier als ausgeschaltet."},
+    {"txtIETitel",
+     "Hier können Sie die Adresse der Seite eintragen, die der Internet Explorer zum Suchen "
+     "öffnet. Möglich sind höchstens 255 Zeichen. Ein leeres Feld wird ebenfalls übernommen, der "
+     "Internet Explorer hat dann keine Suchseite mehr."},
+    {"cmdSynchronizeDateTime",
+     "Hier können Sie das Datum und die Uhrzeit Ihres Systems über einen 'TimeServer' im Internet "
+     "oder mit einem Server im Netzwerk synchronisieren. Durch die Übertragung kann es aber zu "
+     "einigen Sekunden Verlust kommen."},
+    {"cmdShutdown(2)",
+     "Meldet den aktuellen Benutzer ab. Speichern Sie vorher Ihre Daten! Ob nachgefragt wird und "
+     "ob Programme ohne Rückfrage beendet werden, legen Sie unter 'Optionen' fest."},
+    {"cmdShutdown(0)",
+     "Fährt den Computer herunter und schaltet ihn aus. Speichern Sie vorher Ihre Daten! Ob "
+     "nachgefragt wird und ob Programme ohne Rückfrage beendet werden, legen Sie unter 'Optionen' "
+     "fest."},
+    {"cmdShutdown(1)",
+     "Startet den Computer neu, was viele Änderungen erst wirksam macht. Speichern Sie vorher Ihre "
+     "Daten! Ob nachgefragt wird und ob Programme ohne Rückfrage beendet werden, legen Sie unter "
+     "'Optionen' fest."},
+    {"cmdLockWS",
+     "Sperrt den Computer, ohne Programme zu beenden. Sinnvoll ist dies, wenn Sie den Arbeitsplatz "
+     "kurz verlassen. Ohne Passwort für Ihr Benutzerkonto bietet die Sperre keinen Schutz."},
+    {"chkWinAnimate",
+     "Das Minimieren und Maximieren von Fenstern wird animiert dargestellt. Standardmäßig ist dies "
+     "eingeschaltet. Auf langsamen Rechnern arbeitet Windows XP ohne die Animation flüssiger."},
+    {"chkUnloadDll",
+     "Windows XP behält DLLs beendeter Programme noch eine Weile im Arbeitsspeicher. Mit dieser "
+     "Option werden sie sofort entladen, standardmäßig ist sie ausgeschaltet. Sie sparen damit "
+     "Speicher, häufig benutzte Programme starten aber etwas langsamer."},
+    {"chkPWEntrys",
+     "Der Internet Explorer bietet standardmäßig an, eingegebene Passwörter zu speichern. Mit "
+     "dieser Option geschieht dies nicht mehr. Benutzen mehrere Personen den Rechner, sollten Sie "
+     "sie aktivieren."},
+    {"chkHideComputer",
+     "Der Rechner erscheint nicht mehr in der Netzwerkumgebung der anderen Rechner. Standardmäßig "
+     "ist er dort zu sehen. Wer seinen Namen kennt, erreicht Ihre Freigaben aber weiterhin, eine "
+     "Firewall ersetzt die Option nicht."},
+    {"chkShowALLFiles",
+     "Zeigt im Explorer auch geschützte Systemdateien an. Standardmäßig sind sie ausgeblendet. "
+     "ACHTUNG: Löschen oder ändern Sie keine dieser Dateien, Windows XP startet sonst unter "
+     "Umständen nicht mehr!"},
+    {"chkFixAthlonPCIAGP",
+     "Behebt Abstürze, die bei Athlon-Prozessoren zusammen mit AGP-Grafikkarten durch große "
+     "Speicherseiten auftreten können. Standardmäßig fehlt dieser Eintrag. Auf anderen Rechnern "
+     "ist die Option nicht nötig und kann etwas Leistung kosten."},
+    {"chkEnableNetworkProcessor",
+     "Überlässt das Berechnen von Prüfsummen dem Prozessor der Netzwerkkarte und entlastet so den "
+     "Rechner. Standardmäßig fehlt dieser Eintrag. Bei Verbindungsproblemen schalten Sie die "
+     "Option wieder ab."},
+    {"cmdShowAllLoggedOnUsers",
+     "Zeigt alle Benutzer an, die gerade an diesem System angemeldet sind. Auch Anmeldungen von "
+     "Diensten können darunter sein. Sinnvoll ist dies vor dem Herunterfahren, damit niemand Daten "
+     "verliert."},
+    {"chkRemoveLastDocsFolder",
+     "Blendet den Ordner 'Zuletzt verwendete Dokumente' im Startmenü aus. Standardmäßig wird er "
+     "angezeigt. Die Liste wird weiterhin geführt, sie ist nur nicht mehr zu sehen."},
+    {"chkEnableAGP4x",
+     "Schaltet bei NVIDIA-Grafikkarten auf Mainboards mit VIA-Chipsatz den Modus AGP 4x ein. "
+     "Standardmäßig ist er ausgeschaltet, ohne den passenden Treiber ist die Option gesperrt. "
+     "ACHTUNG: Arbeitet der Rechner damit nicht stabil, schalten Sie sie wieder ab!"},
+    {"cmdFreeMemory",
+     "Windows gibt teilweise Speicher nicht mehr frei der mit 'Datenmüll' gefüllt ist. Diese "
+     "Option räumt abhängig von Ihrer Hardwarekonfiguration den verfügbaren Speicher auf. Sinnvoll "
+     "ist dies nach längeren Sitzungen oder nach Anwendungen die einen großen Bedarf an Speicher "
+     "haben (z.B. Spiele)."},
+    {"chkScanAll",
+     "Durchsucht alle lokalen Festplatten nach Tempdateien. Ohne diese Option wird nur das "
+     "gewählte Laufwerk durchsucht. Bei großen Festplatten kann die Suche lange dauern."},
+    {"chkRecentDocFolder",
+     "Alle Einträge des Ordners 'Zuletzt verwendete Dokumente' werden ebenfalls in die Dateiliste "
+     "eingetragen. Es sind nur Verknüpfungen, die Dokumente selbst bleiben beim Löschen erhalten."},
+    {"chkNullByteFiles",
+     "Alle Dateien die 0 Bytes groß sind werden ebenfalls zum löschen in die Dateiliste "
+     "eingetragen. Achten Sie darauf das es auch 0 Byte große Dateien gibt die Windows zum "
+     "aufräumen noch benötigt!"},
+    {"chkCleanUserTempFolder",
+     "Jeder Benutzer hat unter 'Dokumente und Einstellungen' auch ein 'Temporäres' Verzeichnis das "
+     "Reste von Installation oder Tempdateien von gerade geöffneten Dokumenten enthält. Vor "
+     "Benutzung sollten Sie daher auch ALLE noch offenen Anwendungen schließen um Datenverluste zu "
+     "vermeiden! Möglicherweise lassen sich nach dem Reinigungsvorgang die noch geöffneten Dateien "
+     "bzw. Dokumente nicht mehr speichern."},
+    {"chkDeleteThumbs",
+     "Die Archive Thumbs.db mit den Bildern der Miniaturansicht werden ebenfalls in die Dateiliste "
+     "eingetragen. Windows XP legt sie bei Bedarf neu an, die Miniaturansicht erscheint dann beim "
+     "ersten Mal etwas langsamer."},
+    {"chkCleanRecycleBin",
+     "Leert vor dem Löschen der markierten Dateien die Papierkörbe aller Laufwerke. ACHTUNG: Ihr "
+     "Inhalt lässt sich danach nicht wiederherstellen!"},
+    {"cmdCleanBinDirect",
+     "Leert nach einer Nachfrage sofort die Papierkörbe aller Laufwerke, ohne nach Tempdateien zu "
+     "suchen. ACHTUNG: Ihr Inhalt lässt sich danach nicht wiederherstellen!"},
+    {"chkMoveToRecycleBin",
+     "Verschiebt die Dateien in den Papierkorb, statt sie endgültig zu löschen. So können Sie eine "
+     "Datei wiederherstellen, die doch noch gebraucht wird. Der Speicherplatz wird aber erst frei, "
+     "wenn Sie den Papierkorb leeren."},
+    {"cmdCleanTempFiles",
+     "Löscht nach einer Nachfrage alle markierten Dateien der Liste. Dateien, die gerade in "
+     "Benutzung sind, bleiben erhalten. ACHTUNG: Ordner in der Liste werden immer gelöscht, auch "
+     "wenn sie nicht markiert sind!"},
+    {"chkSHMediaDLL",
+     "Der Explorer zeigt zu Videos und Bildern keine Vorschau mehr an. Standardmäßig ist die "
+     "Vorschau eingeschaltet, sie kann aber Videodateien sperren, so dass sich diese nicht löschen "
+     "oder umbenennen lassen. Miniaturansichten von Videos fehlen dann."},
+};
+
+}  // namespace
+
+std::span<const HelpText> HelpTexts() {
+    return Rows;
+}
+
+void HangHelpTexts(const toolkit::Form& form, controls::cToolTip& tips) {
+    tips.SetStyle(controls::cToolTip::Standard);
+    tips.SetDelayTime(1000);
+    tips.SetVisibleTime(3320000);
+    for (const HelpText& row : Rows) {
+        const toolkit::Control& control = form.Find<toolkit::Control>(row.control);
+        tips.SetToolTipObj(form.Host().HandleOf(control), row.text);
+    }
+}
+
+}  // namespace tweaks

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <span>
+
+namespace controls {
+class cToolTip;
+}
+namespace toolkit {
+class Form;
+}
+
+// The program's manual on the screen: what an option does, what Windows does without it, and what
+// can go wrong.
+namespace tweaks {
+
+struct HelpText {
+    const char* control;
+    const char* text;
+};
+
+// One row a control; a control that has none is not in the list.
+std::span<const HelpText> HelpTexts();
+
+// Sets the tips up as the texts want them: at rest for a second, and then for as long as it takes
+// to read them. Then gives each control of the form, whose windows must exist, its text.
+void HangHelpTexts(const toolkit::Form& form, controls::cToolTip& tips);
+
+}  // namespace tweaks

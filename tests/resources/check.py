@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""check.py: the icon, the pictures of the tabs and the version block are what Windows XP shows."""
+
+import pathlib
+import re
+import struct
+import sys
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+RESOURCES = ROOT / "resources"
+PNG = b"\x89PNG"
+SIZES = (16, 32, 48)
+TABS = 8
+PICTURE = 16
+MAGENTA = b"\xff\x00\xff\x00"
+GERMAN = 0x0407
+
+
+def frames(icon):
+    """(width, bits a pixel, data) of each picture in the icon."""
+    _, kind, count = struct.unpack_from("<HHH", icon)
+    assert kind == 1
+    for at in range(6, 6 + 16 * count, 16):
+        width, _, _, _, _, bits, length, place = struct.unpack_from("<BBBBHHII", icon, at)
+        yield width, bits, icon[place : place + length]
+
+
+class Resources(unittest.TestCase):
+    def test_the_icon_has_each_size_in_256_colours_and_in_true_colour_uncompressed(self):
+        found = []
+        for width, bits, data in frames((RESOURCES / "Quillmore.ico").read_bytes()):
+            self.assertFalse(data.startswith(PNG), f"{width} pixels: XP reads no PNG in an icon")
+            size, across, down, _, depth, compression = struct.unpack_from("<IiiHHI", data)
+            facts = (size, across, down, depth, compression)
+            self.assertEqual(facts, (40, width, 2 * width, bits, 0))
+            colours = 4 * 256 if bits == 8 else 0
+            mask = width * (-(-width // 32) * 4)
+            self.assertEqual(len(data), 40 + colours + width * width * bits // 8 + mask)
+            found.append((bits, width))
+        self.assertEqual(sorted(found), [(bits, size) for bits in (8, 32) for size in SIZES])
+
+    def test_true_colour_frames_shine_through_at_their_edge_only(self):
+        for width, bits, data in frames((RESOURCES / "Quillmore.ico").read_bytes()):
+            if bits == 32:
+                alpha = data[40 + 3 : 40 + 4 * width * width : 4]
+                self.assertLess(alpha[0], 255, f"{width} pixels: the corner")
+                self.assertEqual(alpha[width * width // 2 + width // 2], 255, f"{width} pixels")
+
+    def test_the_tabs_have_one_picture_each_in_16_colours_on_magenta(self):
+        strip = (RESOURCES / "tabs.bmp").read_bytes()
+        width, height, _, bits = struct.unpack_from("<iiHH", strip, 18)
+        self.assertEqual((width, height, bits), (TABS * PICTURE, PICTURE, 4))
+        palette, pixels = strip[54 : 54 + 64], strip[54 + 64 :]
+        self.assertEqual(palette[:4], MAGENTA)
+        rows = [pixels[at : at + width // 2] for at in range(0, len(pixels), width // 2)]
+        for tab in range(TABS):
+            part = b"".join(row[tab * 8 : tab * 8 + 8] for row in rows)
+            self.assertIn(0, part, f"picture {tab} leaves nothing free")
+            self.assertGreater(sum(byte != 0 for byte in part), 30, f"picture {tab} is empty")
+
+    def test_the_version_block_is_german_and_tells_the_version_of_the_project(self):
+        script = (RESOURCES / "Quillmore.rc").read_text(encoding="utf-8")
+        project = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
+        version = re.search(r"VERSION ([\d.]+) LANGUAGES", project).group(1)
+        for name in ("FILEVERSION", "PRODUCTVERSION"):
+            self.assertIn(f"{name} {version.replace('.', ',')}\n", script)
+        for name in ("FileVersion", "ProductVersion"):
+            self.assertIn(f'VALUE "{name}", "{version}"\n', script)
+        self.assertIn("LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\n", script)
+        self.assertIn(f'VALUE "Translation", 0x{GERMAN:04x}, 1200\n', script)
+        self.assertIn(f'BLOCK "{GERMAN:04X}04B0"\n', script)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,570 @@
+#include "utilities/frmvirtualdrive.h"
+
+#include <doctest/doctest.h>
+
+#include <map>
+
+#include "controls/chameleonbutton.h"
+#include "platform/simulated/machine.h"
+#include "runtime/failure.h"
+#include "toolkit/combobox.h"
+#include "toolkit/controls.h"
+#include "toolkit/listview.h"
+
+namespace {
+
+using namespace std::string_literals;
+using platform::simulated::ShownMessage;
+using toolkit::ListView;
+using Lines = std::vector<std::string>;
+using Run = platform::simulated::Processes::Run;
+
+constexpr char Output[] = "C:\\tmpout.txt";
+constexpr char List[] = "command.com /csubst > tmpout.txt";
+constexpr char Impossible[] = "Virtuelles Laufwerk kann nich erstellt werden";
+constexpr char Question[] = "Virtuelles Laufwerk löschen";
+constexpr char RunKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr int KeyDelete = 46;
+constexpr int KeyEscape = 27;
+
+// A machine on which `subst` works: the drives that it has made are there and told.
+struct Drives {
+    platform::simulated::Machine machine;
+    utilities::frmVirtualDrive form{machine.services};
+    ListView& list = form.Find<ListView>("lstDrives");
+    toolkit::ComboBox& letters = form.Find<toolkit::ComboBox>("cbodrives");
+    toolkit::TextBox& path = form.Find<toolkit::TextBox>("txtPathName");
+    toolkit::CheckBox& restore = form.Find<toolkit::CheckBox>("chkrestore");
+    std::map<std::string, std::string> made;
+    std::uint32_t exitCode = 0;
+
+    Drives() {
+        machine.disk.MakeFolder("C:\\Programme\\Quillmore");
+        machine.processes.whenStarted = [this](const std::string& line) { return Subst(line); };
+    }
+
+    Run Subst(const std::string& line) {
+        constexpr std::string_view start = "command.com /csubst ";
+        REQUIRE(line.starts_with(start));
+        const std::string rest = line.substr(start.size());
+        const std::string drive = rest.substr(0, 2);
+        if (rest == "> tmpout.txt") {
+            CHECK(machine.folders.current == "C:\\");
+            std::string output;
+            for (const auto& [letter, folder] : made) {
+                output += letter + "\\: => " + folder + "\r\n";
+            }
+            machine.files.Put(Output, output);
+        } else if (exitCode != 0) {
+            return {exitCode, 3};
+        } else if (rest.ends_with(" /d")) {
+            made.erase(drive);
+        } else {
+            made[drive] = rest.substr(3);
+        }
+        ShowMade();
+        return {exitCode, 3};
+    }
+    void ShowMade() {
+        machine.information.drives.resize(3);
+        for (const auto& each : made) {
+            machine.information.drives.push_back({each.first + '\\', platform::DriveKind::Fixed});
+            machine.information.volumes[each.first + '\\'] = {"NTFS", 40007729152, 12884901888,
+                                                              "SYSTEM"};
+        }
+    }
+    void Make(const std::string& drive, const std::string& folder) {
+        made[drive] = folder;
+        ShowMade();
+    }
+    // What `subst` is to print, whatever drives there are.
+    void Print(const std::string& output) {
+        machine.processes.whenStarted = [this, output](const std::string&) {
+            machine.files.Put(Output, output);
+            return Run{};
+        };
+    }
+    void Press(const char* name) { form.Find<controls::chameleonButton>(name).Press(); }
+    bool Enabled(const char* name) const {
+        return form.Find<controls::chameleonButton>(name).Enabled();
+    }
+    // As the user does, who gets both buttons by it.
+    void Select(int row) {
+        list.SetSelected(row, true);
+        list.Click();
+    }
+    void Browse(const std::string& folder) {
+        machine.shell.WhenBrowsing([folder](platform::simulated::FolderDialog& dialog) {
+            if (!folder.empty()) dialog.Select(folder);
+            return !folder.empty();
+        });
+        Press("cmdbroswe");
+    }
+    Lines Row(int row) const {
+        Lines texts;
+        for (int column = 0; column < 7; ++column) texts.push_back(list.Text(row, column));
+        return texts;
+    }
+    // Command lines since the last look.
+    Lines Started() {
+        Lines lines;
+        for (const auto& each : machine.processes.launched) {
+            CHECK(each.windowStyle == 0);
+            lines.push_back(each.commandLine);
+        }
+        machine.processes.launched.clear();
+        machine.processes.runs.clear();
+        return lines;
+    }
+    std::map<std::string, std::string> Store() const { return machine.settings.All(); }
+    ShownMessage LastBox() const {
+        REQUIRE_FALSE(machine.messages.Shown().empty());
+        return machine.messages.Shown().back();
+    }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Drives, "the drives are listed with what they are, one command line for all") {
+    Make("E:", "C:\\PROGRA~1");
+    Make("F:", "C:\\");
+    form.Show();
+    CHECK(form.Caption() == "Virtuelle Laufwerke verwalten");
+    CHECK(list.Columns() == Lines{"Laufwerk", "Name", "Physikalischer Pfad", "Größe", "Frei",
+                                  "Belegt", "Dateisystem"});
+    CHECK(Started() == Lines{List});
+    REQUIRE(list.Count() == 2);
+    CHECK(Row(0) ==
+          Lines{"E:", "SYSTEM", "C:\\Programme", "37,2 GB", "12,0 GB", "25,2 GB", "NTFS"});
+    CHECK(list.Text(1, 2) == "C:\\");
+    CHECK(list.Key(0) == "1A");
+    CHECK(list.Key(1) == "2A");
+    CHECK_FALSE(machine.files.Content(Output));
+    CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
+    CHECK(machine.processes.OpenHandles() == 0);
+    CHECK(form.Pointer() == 0);
+    CHECK_FALSE(Enabled("cmdcreate"));
+    CHECK_FALSE(Enabled("cmddelete"));
+}
+
+TEST_CASE_FIXTURE(Drives, "no drives are an empty list whose columns are not fitted") {
+    form.Show();
+    CHECK(list.Count() == 0);
+    CHECK_FALSE(machine.files.Content(Output));
+    CHECK(machine.folders.current == "C:\\");
+    CHECK(machine.journal.Calls("SendMessageA").empty());
+    Make("E:", "C:\\");
+    form.Unload();
+    form.Show();
+    CHECK(machine.journal.Calls("SendMessageA").size() == 7);
+}
+
+TEST_CASE_FIXTURE(Drives, "the short path of a folder is shown in full, umlauts and all") {
+    machine.disk.MakeFolder("C:\\Größere Übungen\\Heft Nr 5");
+    Print(
+        "E:\\: => C:\\GR\xD6\xDF"
+        "ER~1\\HEFTNR~1\r\n");
+    form.Show();
+    CHECK(list.Text(0, 2) == "C:\\Größere Übungen\\Heft Nr 5");
+}
+
+TEST_CASE_FIXTURE(Drives, "a comma cuts a path, and its rest is a row with the path before") {
+    Print("E:\\: => C:\\Heute, morgen  \r\nF:\\: =>   C:\\Ein Ort  \r\n");
+    form.Show();
+    REQUIRE(list.Count() == 3);
+    CHECK(list.Text(0) == "E:");
+    CHECK(list.Text(0, 2) == "C:\\Heute");
+    CHECK(list.Text(1) == " m");
+    CHECK(list.Text(1, 2) == "C:\\Heute");
+    CHECK(list.Text(2) == "F:");
+    CHECK(list.Text(2, 2) == "C:\\Ein Ort");
+    CHECK(list.Key(2) == "3A");
+}
+
+TEST_CASE_FIXTURE(Drives, "output of any kind ends in rows and never in a box") {
+    for (const std::string& output :
+         {"\r\n"s, ","s, "\n\n\n"s, "=>"s, "=>=>=>"s, "E:"s, "\0\0\r\n"s, std::string(70000, 'x'),
+          "E:\\: => C:\\\rF:\\: => D:\\"s, "\xFF\xFE=>\x81\x8D"s}) {
+        CAPTURE(output.substr(0, 20));
+        Print(output);
+        form.Show();
+        CHECK(list.Count() >= 1);
+        CHECK(machine.messages.Shown().empty());
+        form.Unload();
+    }
+    Print("E:\\: => C:\\\rF:\\: => D:\\");
+    form.Show();
+    CHECK(list.Text(1) == "F:");
+}
+
+TEST_CASE_FIXTURE(Drives, "output that is missing or cannot be read leaves the list empty") {
+    Make("E:", "C:\\");
+    SUBCASE("it was not written") {
+        machine.processes.whenStarted = nullptr;
+    }
+    SUBCASE("another program holds it") {
+        machine.faults.FailAll("ReadFile", runtime::PermissionDenied);
+    }
+    SUBCASE("the command could not be started") {
+        machine.faults.FailOn("command.com", runtime::FileNotFound);
+    }
+    SUBCASE("the command failed") {
+        machine.processes.whenStarted = [this](const std::string& line) {
+            Subst(line);
+            return Run{1, 2};
+        };
+    }
+    form.Show();
+    CHECK(list.Count() == 0);
+    CHECK(machine.messages.Shown().empty());
+    CHECK_FALSE(machine.files.Content(Output));
+    CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
+    CHECK(letters.Items().size() > 0);
+}
+
+TEST_CASE_FIXTURE(Drives, "free letters are offered, those of floppies too, the first selected") {
+    form.Show();
+    CHECK(letters.Items().size() == 23);
+    CHECK(letters.Items()[0] == "B:");
+    CHECK(letters.Items()[1] == "E:");
+    CHECK(letters.Text() == "B:");
+    form.Unload();
+    machine.faults.FailAll("GetLogicalDrives", 5);
+    form.Show();
+    CHECK(letters.Items().size() == 26);
+}
+
+TEST_CASE_FIXTURE(Drives, "a folder is chosen by its short path, and the drive is made") {
+    machine.disk.MakeFolder("C:\\Eigene Dateien");
+    form.Show();
+    Browse("C:\\Eigene Dateien");
+    CHECK(path.Text() == "C:\\EIGENE~1");
+    CHECK(Enabled("cmdcreate"));
+    letters.SetListIndex(1);
+    Started();
+    Press("cmdcreate");
+    CHECK(Started() == Lines{"command.com /csubst E: C:\\EIGENE~1", List});
+    CHECK(LastBox() == ShownMessage{"Virtuelles Laufwerk erstellt",
+                                    "Das virtuelle Laufwerk 'E:' wurde erfolgreich erstellt.", 64});
+    CHECK(path.Text() == "");
+    CHECK(list.Text(0) == "E:");
+    CHECK(list.Text(0, 2) == "C:\\Eigene Dateien");
+    CHECK(letters.Items()[1] == "F:");
+}
+
+TEST_CASE_FIXTURE(Drives, "a failing subst shows no box and keeps the path") {
+    form.Show();
+    Browse("C:\\Programme");
+    exitCode = 1;
+    Press("cmdcreate");
+    CHECK(machine.messages.Shown().empty());
+    CHECK(path.Text() == "C:\\PROGRA~1");
+    CHECK(list.Count() == 0);
+}
+
+TEST_CASE_FIXTURE(Drives, "without a folder nothing is made") {
+    form.Show();
+    Started();
+    form.Find<controls::chameleonButton>("cmdcreate").SetEnabled(true);
+    Press("cmdcreate");
+    CHECK(LastBox() == ShownMessage{Impossible,
+                                    "Um ein virtuelles Laufwerk zu erstellen müssen Sie noch den "
+                                    "physikalischen Pfad auswählen.",
+                                    48});
+    CHECK(Started().empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "without a free letter nothing is made") {
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        if (letter != 'A' && letter != 'C' && letter != 'D') Make(std::string{letter, ':'}, "C:\\");
+    }
+    form.Show();
+    CHECK(letters.Items().empty());
+    CHECK(list.Count() == 23);
+    Browse("C:\\Programme");
+    Started();
+    Press("cmdcreate");
+    CHECK(LastBox() ==
+          ShownMessage{Impossible,
+                       "Es gibt keine freien Laufwerksbuchstaben mehr um ein virtuelles Laufwerk "
+                       "zu erstellen. Wenn Sie weitere virtuelle Laufwerke erstellen möchten, "
+                       "müssen Sie vorher mindestens ein Laufwerk aus der unteren Liste entfernen.",
+                       48});
+    CHECK(Started().empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "a failure while a drive is made is told with its number") {
+    form.Show();
+    Browse("C:\\Programme");
+    int number = 0;
+    SUBCASE("no command shell") {
+        machine.faults.FailOn("command.com", number = runtime::FileNotFound);
+    }
+    SUBCASE("no root") {
+        machine.faults.FailOn("C:\\", number = runtime::PathNotFound);
+    }
+    Press("cmdcreate");
+    CHECK(LastBox() ==
+          ShownMessage{"Virtuelles Laufwerk konnte nicht erstellt werden",
+                       "Ein Fehler ist während des erstellens aufgetreten:\r\n" +
+                           std::to_string(number) + ": " + runtime::DescriptionOf(number),
+                       16});
+    CHECK(path.Text() == "C:\\PROGRA~1");
+}
+
+TEST_CASE_FIXTURE(Drives, "the root of a drive is refused, and the folder dialog opens again") {
+    form.Show();
+    machine.shell.WhenBrowsing([](platform::simulated::FolderDialog& dialog) {
+        CHECK(dialog.title ==
+              "Bitte Verzeichnis auswählen zu dem das virtuelle Laufwerk angelegt werden soll:");
+        dialog.Select("D:\\");
+        return true;
+    });
+    Browse("C:\\Programme");
+    CHECK(LastBox() ==
+          ShownMessage{"Verzeichnis auswählen",
+                       "Bitte Verzeichnis auswählen, Laufwerke alleine können nicht gewählt "
+                       "werden.",
+                       48});
+    CHECK(machine.messages.Shown().size() == 1);
+    CHECK(machine.journal.Calls("SHBrowseForFolderA").size() == 2);
+    CHECK(path.Text() == "C:\\PROGRA~1");
+}
+
+TEST_CASE_FIXTURE(Drives, "cancelling changes nothing, the folder chosen before is preselected") {
+    form.Show();
+    Browse("C:\\Programme");
+    machine.shell.WhenBrowsing([](platform::simulated::FolderDialog& dialog) {
+        CHECK(dialog.SelectedPath() == "C:\\PROGRA~1");
+        return false;
+    });
+    Press("cmdbroswe");
+    CHECK(path.Text() == "C:\\PROGRA~1");
+    CHECK(Enabled("cmdcreate"));
+}
+
+TEST_CASE_FIXTURE(Drives, "a single character is no folder") {
+    form.Show();
+    Browse("C:\\Programme");
+    Browse("x");
+    CHECK(path.Text() == "");
+    CHECK_FALSE(Enabled("cmdcreate"));
+}
+
+TEST_CASE_FIXTURE(Drives, "a short path of 164 characters is none") {
+    const std::string below = "C:\\" + std::string(8, 'd');
+    std::string fits = "C:";
+    while (fits.size() + 9 < 164) fits += '\\' + std::string(8, 'd');
+    const std::string longer = fits + "\\12345678";
+    machine.disk.MakeFolder(longer);
+    form.Show();
+    Browse(fits);
+    CHECK(path.Text() == fits);
+    Browse(longer);
+    CHECK(path.Text() == "");
+}
+
+TEST_CASE_FIXTURE(Drives, "a failing choice is told by its number, an interrupt is not") {
+    form.Show();
+    const auto fail = [&](int number) {
+        machine.shell.WhenBrowsing([number](platform::simulated::FolderDialog&) -> bool {
+            throw runtime::Failure(number);
+        });
+        Press("cmdbroswe");
+    };
+    fail(runtime::UserInterrupt);
+    CHECK(machine.messages.Shown().empty());
+    fail(runtime::OutOfMemory);
+    CHECK(LastBox() == ShownMessage{"Fehler 7", runtime::DescriptionOf(7), 16});
+}
+
+TEST_CASE_FIXTURE(Drives, "the selected drive is removed after a question, by all three ways") {
+    for (const char* drive : {"E:", "F:", "G:"}) Make(drive, "C:\\");
+    form.Show();
+    Started();
+    Select(1);
+    CHECK(Enabled("cmddelete"));
+    machine.messages.Answer(Question, 7);
+    Press("cmddelete");
+    CHECK(LastBox() ==
+          ShownMessage{Question,
+                       "Sind Sie sicher das Sie das virtuelle Laufwerk 'F:' löschen wollen?", 36});
+    CHECK(Started().empty());
+    machine.messages.AnswerAll(Question, 6);
+    Press("cmddelete");
+    CHECK(Started() == Lines{"command.com /csubst F: /d", List});
+    CHECK(list.Count() == 2);
+    Select(1);
+    list.PressKey(KeyDelete);
+    CHECK(list.Count() == 1);
+    Select(0);
+    machine.menus.Pick("Laufwerk entfernen");
+    list.PressRightButton();
+    CHECK(list.Count() == 0);
+    CHECK(made.empty());
+    // They stay enabled: the list had a row when it was counted.
+    CHECK(Enabled("cmddelete"));
+    CHECK(restore.Enabled());
+}
+
+TEST_CASE_FIXTURE(Drives, "removing without a selection is told as the failure that it is") {
+    Make("E:", "C:\\");
+    form.Show();
+    list.PressKey(KeyDelete);
+    CHECK(LastBox() == ShownMessage{"Löschen fehlgeschlagen",
+                                    "Das virtuelle Laufwerk konnte nicht gelöscht werden:\r\n91: " +
+                                        runtime::DescriptionOf(91),
+                                    16});
+}
+
+TEST_CASE_FIXTURE(Drives, "a list that has emptied during the question disables what acts on it") {
+    Make("E:", "C:\\");
+    form.Show();
+    Select(0);
+    machine.messages.Answer(Question, 6);
+    machine.messages.WhileOpen(Question, [&] { list.Clear(); });
+    Press("cmddelete");
+    CHECK_FALSE(Enabled("cmddelete"));
+    CHECK_FALSE(restore.Enabled());
+    Make("E:", "C:\\");
+    form.Unload();
+    form.Show();
+    machine.menus.Pick("Laufwerk entfernen");
+    list.PressRightButton();
+    CHECK(machine.messages.Shown().size() == 1);
+}
+
+TEST_CASE_FIXTURE(Drives, "over an empty list no menu opens") {
+    form.Show();
+    list.PressRightButton();
+    CHECK(machine.journal.Calls("TrackPopupMenu").empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "the box stores each drive with its volume's name and tries the start") {
+    Make("E:", "C:\\PROGRA~1");
+    Make("F:", "C:\\");
+    form.Show();
+    machine.journal.Clear();
+    restore.SetValue(1);
+    CHECK(Store() ==
+          std::map<std::string, std::string>{{"dmVDriveC|Config|Restore", "1"},
+                                             {"dmVDriveC|Config|Count", "2"},
+                                             {"dmVDriveC|Config|Drives1", "E:=>SYSTEM"},
+                                             {"dmVDriveC|Config|Drives2", "F:=>SYSTEM"}});
+    CHECK(machine.journal.Calls("RegCreateKeyExA") ==
+          Lines{"RegCreateKeyExA 0x02 \""s + RunKey + "\" 0x3F -> 6"});
+    CHECK(machine.journal.Calls("RegSetValueExA").size() == 1);
+    CHECK(machine.journal.Calls("RegSetValueExA")[0].find(
+              "\"VDriveC\" type 1 size 39 data \"C:\\Programme\\Quillmore\\Quillmore.exe -r\" -> "
+              "6") != std::string::npos);
+    CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
+    machine.settings.Save("dmVDriveC", "Other", "x", "stays");
+    restore.SetValue(0);
+    CHECK(Store() == std::map<std::string, std::string>{{"dmVDriveC|Other|x", "stays"}});
+    CHECK(machine.journal.Calls("RegOpenKeyExA") ==
+          Lines{"RegOpenKeyExA 0x02 \""s + RunKey + "\" 0x3F -> 6"});
+    CHECK(machine.journal.Calls("RegDeleteValueA").size() == 1);
+    CHECK_FALSE(machine.registry.HasKey(platform::Registry::LocalMachine, RunKey));
+    CHECK(machine.registry.OpenHandles() == 0);
+}
+
+TEST_CASE_FIXTURE(Drives, "over an empty list the box stores nothing") {
+    form.Show();
+    machine.journal.Clear();
+    restore.SetValue(1);
+    CHECK(Store().empty());
+    CHECK(machine.journal.Calls("RegCreateKeyExA").empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "the box shows what is stored and by that stores nothing") {
+    Make("E:", "C:\\");
+    const auto shown = [&](const char* stored) {
+        machine.settings.Save("dmVDriveC", "Config", "Restore", stored);
+        form.Show();
+        const int value = restore.Value();
+        form.Unload();
+        return value;
+    };
+    CHECK(shown("1") == 1);
+    CHECK(shown("") == 0);
+    CHECK(shown(" 1x") == 1);
+    CHECK(shown("7") == 0);
+    CHECK(shown("&HFFFFFFFFFF") == 0);
+    CHECK(shown("1") == 1);
+    CHECK(Store().size() == 1);
+}
+
+TEST_CASE_FIXTURE(Drives, "the stored drives are made again by the routine that nobody calls") {
+    machine.program.commandLine = "-r";
+    machine.settings.Save("dmVDriveC", "Config", "Count", "2");
+    machine.settings.Save("dmVDriveC", "Config", "Drives1", "E:=>C:\\A");
+    machine.settings.Save("dmVDriveC", "Config", "Drives2", "F:=>SYSTEM");
+    form.Show();
+    CHECK(Started() == Lines{List});
+    form.RestoreDrives();
+    CHECK(Started() == Lines{"command.com /csubst E: C:\\A", "command.com /csubst F: SYSTEM"});
+    machine.settings.Save("dmVDriveC", "Config", "Count", "0");
+    form.RestoreDrives();
+    CHECK(Started().empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "closing asks only for a path that has not become a drive") {
+    form.Show();
+    SUBCASE("none") {
+        Press("cmdexit");
+        CHECK(machine.messages.Shown().empty());
+    }
+    SUBCASE("one") {
+        Browse("C:\\Programme");
+        machine.messages.Answer("Einstellungen verwerfen", 7);
+        Press("cmdexit");
+        CHECK(form.Loaded());
+        CHECK(LastBox() == ShownMessage{"Einstellungen verwerfen",
+                                        "Wollen Sie die Einstellungen zum neuen virtuellen "
+                                        "Laufwerk 'B:' wirklich verwerfen?",
+                                        36});
+        machine.messages.Answer("Einstellungen verwerfen", 6);
+        Press("cmdexit");
+    }
+    SUBCASE("Escape") {
+        Browse("C:\\Programme");
+        CHECK(form.KeyPressed(KeyEscape));
+        CHECK(machine.messages.Shown().empty());
+    }
+    CHECK_FALSE(form.Loaded());
+}
+
+TEST_CASE_FIXTURE(Drives, "while a command runs the dialog lives, and may even be closed") {
+    form.Show();
+    Browse("C:\\Programme");
+    int events = 0;
+    SUBCASE("a second click") {
+        machine.forms.onEvents = [&] {
+            if (++events == 1) Press("cmdcreate");
+        };
+        Press("cmdcreate");
+        CHECK(form.Loaded());
+    }
+    SUBCASE("Escape") {
+        machine.forms.onEvents = [&] {
+            if (++events == 1) form.KeyPressed(KeyEscape);
+        };
+        Press("cmdcreate");
+        CHECK_FALSE(form.Loaded());
+    }
+    CHECK(events > 1);
+    CHECK(machine.processes.OpenHandles() == 0);
+    CHECK(form.Pointer() == 0);
+}
+
+TEST_CASE_FIXTURE(Drives, "a header sorts, and a new time starts unsorted") {
+    for (const char* drive : {"E:", "F:"}) Make(drive, "C:\\");
+    form.Show();
+    list.ClickColumn(0);
+    CHECK(list.Text(0) == "F:");
+    CHECK(list.SortOrder() == ListView::Descending);
+    form.Unload();
+    form.Show();
+    CHECK(list.Text(0) == "E:");
+    CHECK_FALSE(list.Sorted());
+}

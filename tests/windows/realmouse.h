@@ -1,0 +1,57 @@
+#pragma once
+
+#include <windows.h>
+
+#include <doctest/doctest.h>
+
+#include <functional>
+
+#include "windows/desk.h"
+
+namespace windows {
+
+// Serves the queue until that has come, for some seconds at most.
+inline void ServeUntil(const std::function<bool()>& come) {
+    constexpr DWORD Patience = 10000;
+    const DWORD start = GetTickCount();
+    while (!come()) {
+        REQUIRE(GetTickCount() - start < Patience);
+        ServeQueue();
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+}
+
+// For what must not come: as long as a timer of a few milliseconds would have taken several times.
+inline void ServeAWhile(DWORD milliseconds = 100) {
+    const DWORD start = GetTickCount();
+    while (GetTickCount() - start < milliseconds) {
+        ServeQueue();
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+}
+
+// The mouse itself, by what the system is told of it.
+struct RealMouse {
+    // Onto that pixel of the window.
+    static void MoveTo(HWND window, int x, int y) {
+        POINT point{x, y};
+        ClientToScreen(window, &point);
+        SetCursorPos(point.x, point.y);
+    }
+    // MOUSEEVENTF_LEFTDOWN and its like.
+    static void Send(DWORD what) {
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dwFlags = what;
+        SendInput(1, &input, sizeof input);
+    }
+    static void Press(WORD key, bool down) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+        SendInput(1, &input, sizeof input);
+    }
+};
+
+}  // namespace windows

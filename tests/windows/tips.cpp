@@ -1,0 +1,108 @@
+// The tips that controls show by themselves.
+#include <windows.h>
+
+#include <commctrl.h>
+#include <doctest/doctest.h>
+
+#include "windows/desk.h"
+
+using namespace windows;
+
+namespace {
+
+struct Search {
+    HWND control = nullptr;
+    int windows = 0;
+    std::string text;
+};
+
+BOOL CALLBACK Look(HWND window, LPARAM lParam) {
+    auto* search = reinterpret_cast<Search*>(lParam);
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    if (std::wstring(name) != TOOLTIPS_CLASSW) return TRUE;
+    wchar_t text[1024] = L"";
+    TTTOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = search->control;
+    tool.uId = reinterpret_cast<UINT_PTR>(search->control);
+    tool.lpszText = text;
+    SendMessageW(window, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
+    ++search->windows;
+    search->text += platform::win32::FromWide(text);
+    return TRUE;
+}
+
+// The tooltip windows of this process, and what they have for the control.
+Search Tips(HWND control = nullptr) {
+    Search search;
+    search.control = control;
+    EnumThreadWindows(GetCurrentThreadId(), Look, reinterpret_cast<LPARAM>(&search));
+    return search;
+}
+
+struct Fixture {
+    Desk desk;
+    TestForm form{desk.host, "frmMain"};
+    toolkit::CheckBox& box = form.Add<toolkit::CheckBox>("chk", "Kasten");
+    toolkit::TextBox& text = form.Add<toolkit::TextBox>("txt");
+    toolkit::Label& path = form.Add<toolkit::Label>("lbl", "C:\\a", toolkit::LabelStyle::Path);
+
+    void Show() {
+        form.SetLayout(toolkit::Column({Leaf(box), Leaf(text), Leaf(path)}));
+        form.Show();
+    }
+    std::string TipOf(const char* name) const { return Tips(desk.Find(form, name)).text; }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "a control without a tip makes no tooltip window") {
+    Show();
+    CHECK(Tips().windows == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a tip set before the form is loaded is there with its window") {
+    box.SetToolTip("Größe & Länge");
+    Show();
+    CHECK(TipOf("chk") == "Größe & Länge");
+    CHECK(TipOf("txt") == "");
+}
+
+TEST_CASE_FIXTURE(Fixture, "a tip follows the control, in the same window, and goes when empty") {
+    Show();
+    path.SetToolTip("C:\\eins");
+    CHECK(TipOf("lbl") == "C:\\eins");
+    path.SetToolTip("C:\\zwei");
+    CHECK(TipOf("lbl") == "C:\\zwei");
+    CHECK(Tips().windows == 1);
+    path.SetToolTip("");
+    CHECK(Tips().windows == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a label of the style Path sees the mouse, for its tip") {
+    Show();
+    POINT point{2, 2};
+    ClientToScreen(desk.Find(form, "lbl"), &point);
+    CHECK(WindowFromPoint(point) == desk.Find(form, "lbl"));
+}
+
+TEST_CASE_FIXTURE(Fixture, "tips go with their form, also of controls that watch their keys") {
+    text.onKeyPress = [](char16_t&) {};
+    text.SetToolTip("Text");
+    box.SetToolTip("Kasten");
+    Show();
+    REQUIRE(Tips().windows == 2);
+    SendMessageW(desk.Find(form, "txt"), WM_CHAR, 'a', 0);
+    CHECK(text.Text() == "a");
+    form.Unload();
+    CHECK(Tips().windows == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "the host tells the number of a control's window while there is one") {
+    CHECK(desk.host.HandleOf(box) == 0);
+    Show();
+    CHECK(desk.host.HandleOf(box) == reinterpret_cast<std::uintptr_t>(desk.Find(form, "chk")));
+    form.Unload();
+    CHECK(desk.host.HandleOf(box) == 0);
+}
