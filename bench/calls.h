@@ -46,6 +46,12 @@ class Recorder final : public Service {
                std::uint32_t size) override;
     Result RemoveValue(Key key, std::string_view valueName) override;
     Result RemoveKey(Key parent, std::string_view path) override;
+    // The passes know their keys and values by name.
+    Result EnumerateKey(Key, std::uint32_t, std::string&) override { return NoMoreItems; }
+    Result LongestValueName(Key, std::uint32_t&) override { return NoMoreItems; }
+    Result EnumerateValue(Key, std::uint32_t, std::uint32_t, std::string&) override {
+        return NoMoreItems;
+    }
     Result Close(Key key) override;
 
     // The calls since the last time. Handles opened before cannot be used after.
