@@ -27,11 +27,12 @@ constexpr Edge Edges[] = {
 
 }  // namespace
 
-WorkingColours::WorkingColours(const toolkit::Canvas& canvas, const ButtonProperties& properties) {
+WorkingColours::WorkingColours(const toolkit::Canvas& canvas, const ButtonProperties& properties,
+                               Colour back) {
     const bool own = properties.colorScheme == 2;
     const ButtonProperties system;
     const ButtonProperties& from = properties.colorScheme == 3 ? system : properties;
-    At(Role::Face) = canvas.Translate(from.backColor);
+    At(Role::Face) = canvas.Translate(properties.colorScheme == 3 ? system.backColor : back);
     At(Role::Text) = canvas.Translate(from.foreColor);
     At(Role::TextOver) = canvas.Translate(from.foreOver);
     At(Role::Accent) = canvas.Translate(SystemColour(AccentColour));

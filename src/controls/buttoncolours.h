@@ -24,8 +24,10 @@ enum class Role : std::uint8_t {
 // The colours that a button is drawn in, by their roles.
 class WorkingColours {
   public:
-    // Looks the colours up on the canvas, which knows those of the system.
-    WorkingColours(const toolkit::Canvas& canvas, const ButtonProperties& properties);
+    // Looks the colours up on the canvas, which knows those of the system. `back` is the background
+    // that counts now: BackColor or BackOver.
+    WorkingColours(const toolkit::Canvas& canvas, const ButtonProperties& properties,
+                   toolkit::Colour back);
 
     toolkit::Colour operator[](Role role) const { return colours_[static_cast<std::size_t>(role)]; }
 

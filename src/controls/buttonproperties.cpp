@@ -42,11 +42,11 @@ struct Reader {
         member = static_cast<std::int16_t>(number);
     }
     void operator()(const char* key, bool& member) const {
-        member = store.Number(key).value_or(member) != 0;
+        member = store.Truth(key).value_or(member);
     }
     void operator()(const char* key, Colour& member) const { (*this)(key, member, member); }
     void operator()(const char* key, Colour& member, Colour followed) const {
-        member = static_cast<Colour>(store.Number(key).value_or(followed));
+        member = store.Colour(key).value_or(followed);
     }
     void operator()(const char* key, std::string& member) const {
         if (const PropertyStore::Entry* entry = store.Find(key)) member = entry->text;

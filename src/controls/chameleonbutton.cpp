@@ -19,6 +19,18 @@ constexpr int UpKey = 38;
 constexpr int RightKey = 39;
 constexpr int DownKey = 40;
 
+// A flag that is up as long as this lives, also when what happens meanwhile fails.
+class Raised {
+  public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+  private:
+    bool& flag_;
+};
+
 template <typename Handler, typename... Facts>
 void Raise(const Handler& handler, const Facts&... facts) {
     if (handler) handler(facts...);
@@ -39,12 +51,13 @@ chameleonButton::~chameleonButton() {
 // The colours and the places follow with the next picture; the access key is the window's, by its
 // text.
 void chameleonButton::ReadProperties(const PropertyStore& store) {
-    // What is read is nobody's change.
-    reading_ = true;
-    properties_ = ReadButtonProperties(store);
-    SetEnabled(properties_.enabled);
-    SetCaption(properties_.caption);
-    reading_ = false;
+    {
+        // What is read is nobody's change.
+        const Raised reading(reading_);
+        properties_ = ReadButtonProperties(store);
+        SetEnabled(properties_.enabled);
+        SetCaption(properties_.caption);
+    }
     colours_.reset();
     places_.reset();
     ShapeChanged();
@@ -67,24 +80,21 @@ void chameleonButton::Paint(toolkit::Canvas& canvas, toolkit::Rect client) {
     if (client != client_) places_.reset();
     client_ = client;
     const bool swaps = properties_.colorScheme == 2 && state_ == ButtonState::Hovered;
-    const auto swapped = [&] {
-        if (!swaps) return;
-        std::swap(properties_.backColor, properties_.backOver);
-        colours_.reset();
-    };
-    swapped();
-    if (!colours_) colours_.emplace(canvas, properties_);
+    if (!colours_ || swaps) {
+        colours_.emplace(canvas, properties_, swaps ? properties_.backOver : properties_.backColor);
+    }
+    const WorkingColours colours = *colours_;
+    if (swaps) colours_.reset();
     if (!places_) places_ = PlaceContents(canvas, client, properties_);
     DrawButton(canvas, client,
                {.properties = properties_,
-                .colours = *colours_,
+                .colours = colours,
                 .places = *places_,
                 .state = state_,
                 .down = state_ == ButtonState::Pressed ||
                         (properties_.checkBoxBehaviour && properties_.value),
                 .isDefault = isDefault_,
                 .focusRect = hasFocus_ && properties_.showFocusRect});
-    swapped();
 }
 
 void chameleonButton::Show(toolkit::Rect client) {

@@ -92,6 +92,7 @@ class chameleonButton final : public toolkit::DrawnControl {
     // 75 by 23 pixels at 96 dots per inch, wider for a long caption.
     toolkit::Size NaturalSize(toolkit::Size text) const override;
     void Paint(toolkit::Canvas& canvas, toolkit::Rect client) override;
+    bool IsReady() const override { return !settingUp_; }
     void Show(toolkit::Rect client) override;
     void Resize(toolkit::Rect client) override;
     void SettingsChanged() override;

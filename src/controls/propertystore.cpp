@@ -1,8 +1,10 @@
 #include "controls/propertystore.h"
 
+#include <charconv>
 #include <cmath>
 
 #include "runtime/number.h"
+#include "runtime/text.h"
 
 namespace controls {
 
@@ -32,6 +34,31 @@ std::optional<std::int64_t> PropertyStore::Number(std::string_view key) const {
     const std::optional<double> number = runtime::ParseNumber(entry->text, {});
     if (!number || std::abs(*number) >= Beyond) return std::nullopt;
     return static_cast<std::int64_t>(std::nearbyint(*number));
+}
+
+std::optional<toolkit::Colour> PropertyStore::Colour(std::string_view key) const {
+    constexpr std::string_view Sign = "&H";
+    const Entry* entry = Find(key);
+    if (entry && entry->text.starts_with(Sign)) {
+        const char* end = entry->text.data() + entry->text.size();
+        toolkit::Colour colour = 0;
+        const auto result = std::from_chars(entry->text.data() + Sign.size(), end, colour, 16);
+        if (result.ec == std::errc() && result.ptr == end) return colour;
+    }
+    const auto number = Number(key);
+    if (!number) return std::nullopt;
+    return static_cast<toolkit::Colour>(*number);
+}
+
+std::optional<bool> PropertyStore::Truth(std::string_view key) const {
+    if (const Entry* entry = Find(key)) {
+        for (const bool truth : {false, true}) {
+            if (runtime::EqualsIgnoringCase(entry->text, truth ? "true" : "false")) return truth;
+        }
+    }
+    const auto number = Number(key);
+    if (!number) return std::nullopt;
+    return *number != 0;
 }
 
 }  // namespace controls

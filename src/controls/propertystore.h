@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/canvas.h"
 #include "toolkit/picture.h"
 
 namespace controls {
@@ -33,6 +34,12 @@ class PropertyStore {
     // The number that the key's text stands for; nothing when the key is absent, when its text is
     // no number, or when that has more than 32 bits. Halves round to the even neighbour.
     std::optional<std::int64_t> Number(std::string_view key) const;
+    // The same for a colour, whose hexadecimal digits are bits: "&H8000" is 0x8000 and no negative
+    // number of 16 bits.
+    std::optional<toolkit::Colour> Colour(std::string_view key) const;
+    // Whether the key's text is "True", "False" or a number, which is false when it is 0; nothing
+    // otherwise. Capitals do not matter.
+    std::optional<bool> Truth(std::string_view key) const;
 
     // Takes the place of an entry with the same key; otherwise comes last.
     void Write(std::string_view key, std::string text, toolkit::SharedPicture picture = nullptr);

@@ -52,6 +52,8 @@ class DrawnControl : public Control {
     // The size that the layout gives the control; `text` is the size of its caption.
     virtual Size NaturalSize(Size text) const = 0;
     virtual void Paint(Canvas& canvas, Rect client) = 0;
+    // False while Paint would draw nothing; what is on the screen then stays there.
+    virtual bool IsReady() const { return true; }
 
     // The window is there, with this client area, and will be seen.
     virtual void Show(Rect) {}

@@ -36,9 +36,10 @@ constexpr HelpText Rows[] = {
      "als 256 MB kann diese Option aber auch zu Performance-Einbußen führen. ACHTUNG: Besitzer von "
      "ATI Grafikkarten sollten diese Funktion nicht nutzen, es kann dort zu Problemen führen!"},
     {"chkSecondLevelDataCache",
-     "Teilt Windows XP mit, dass der Second Level Cache Ihres Prozessors 512 KB groß ist. "
-     "Standardmäßig ermittelt Windows die Größe selbst und nimmt 256 KB an, wenn das nicht "
-     "gelingt. Sinnvoll ist die Option nur bei älteren Prozessoren mit mehr als 256 KB Cache."},
+     "Teilt Windows XP mit, dass der Second Level Cache Ihres Prozessors 512 KB groß ist, "
+     "standardmäßig ermittelt Windows die Größe selbst. Sinnvoll ist dies nur bei älteren "
+     "Prozessoren mit mehr als 256 KB Cache. Fehlt der Eintrag, erscheint die Option als "
+     "eingeschaltet, und beim Übernehmen werden 512 KB eingetragen."},
     {"chkLastAccessTimestamp",
      "Windows XP vermerkt auf NTFS-Laufwerken bei jedem Zugriff auf eine Datei oder einen Ordner "
      "den Zeitpunkt. Standardmäßig ist dies aktiv. Abgeschaltet gewinnen Sie etwas "
@@ -69,37 +70,40 @@ constexpr HelpText Rows[] = {
      "Abschalten sollten Sie es nur, wenn Sie die Festplatte mit einem anderen Programm "
      "defragmentieren."},
     {"chkIcons",
-     "Macht den Hintergrund der Texte unter den Desktop-Icons durchsichtig, so dass Ihr "
-     "Hintergrundbild ganz zu sehen ist. Standardmäßig sind die Texte farbig hinterlegt. Die "
-     "Option wirkt sofort und wird bei jedem Start von Quillmore wieder gesetzt."},
+     "Macht den Hintergrund der Texte unter den Desktop-Icons durchsichtig, was bei Texten mit "
+     "Schatten schon der Standard ist. Die Option wirkt sofort und wieder bei jedem Start von "
+     "Quillmore. ACHTUNG: Abgeschaltet erhalten die Texte bis zur nächsten Anmeldung einen fast "
+     "schwarzen Hintergrund!"},
     {"Level",
      "Stellt ein, wie durchsichtig die Taskbar ist: 255 ist deckend (Standard), 55 der kleinste "
      "Wert. Die Einstellung wirkt sofort und wird bei jedem Start von Quillmore wieder gesetzt. "
      "Langsame Grafikkarten kann sie beim Bildaufbau bremsen."},
     {"chkBalloonTipps",
-     "Windows XP meldet vieles in Sprechblasen (BalloonTipps) neben der Uhr. Standardmäßig werden "
-     "sie angezeigt, wen sie stören, der schaltet die Option ab. Dann erscheinen aber auch "
-     "wichtige Hinweise dieser Art nicht mehr."},
+     "Windows XP meldet vieles in Sprechblasen (BalloonTipps) neben der Uhr, auch wichtige "
+     "Hinweise. Standardmäßig werden sie angezeigt und lassen sich hier abschalten, wenn sie "
+     "stören. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen "
+     "abgeschaltet."},
     {"chkCDAutoPlay",
-     "Startet eingelegte CDs automatisch, so wie es Windows XP standardmäßig tut. Nur für die "
-     "Windows XP Home Edition. ACHTUNG: Zum Einschalten wird der ganze Schlüssel mit den "
-     "Richtlinien für den Explorer gelöscht, andere Einträge darin gehen mit verloren!"},
+     "Startet eingelegte CDs automatisch, so wie es Windows XP standardmäßig tut (nur Windows XP "
+     "Home Edition). ACHTUNG: Solange die Option eingeschaltet ist, löscht jedes Übernehmen den "
+     "ganzen Schlüssel mit den Richtlinien für den Explorer samt allen anderen Einträgen darin!"},
     {"chkDescriptionPopups",
      "Zeigt eine kurze Beschreibung an, wenn die Maus auf einer Datei, einem Ordner oder einem "
      "Desktop-Icon stehen bleibt. Standardmäßig ist dies eingeschaltet. Auf langsamen Rechnern "
      "können Sie es abschalten, da die Angaben jedes Mal gelesen werden."},
     {"chkTaskBarGlooming",
      "Fasst bei voller Taskbar die Fenster eines Programms unter einer gemeinsamen Schaltfläche "
-     "zusammen. Das spart Platz und ist standardmäßig eingeschaltet. Möchten Sie jedes Fenster mit "
-     "einem Klick erreichen, schalten Sie die Option ab."},
+     "zusammen, so dass sie einen Klick mehr benötigen. Standardmäßig ist dies eingeschaltet. "
+     "Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen "
+     "abgeschaltet."},
     {"chkNoSpaceCheck",
      "Windows XP warnt, wenn auf einer Festplatte der Speicherplatz knapp wird. Standardmäßig ist "
      "diese Meldung eingeschaltet. Schalten Sie sie ab, müssen Sie den freien Platz selbst im Auge "
      "behalten."},
     {"chkImagePreview",
      "Bietet im Kontextmenü von Bildern die Vorschau mit dem Bildbetrachter von Windows XP an. "
-     "Standardmäßig ist dies eingeschaltet. Abschalten können Sie die Option, wenn Sie Ihre Bilder "
-     "lieber mit einem anderen Programm ansehen."},
+     "Standardmäßig ist dies eingeschaltet. ACHTUNG: Die Option erscheint bei jedem Start von "
+     "Quillmore als ausgeschaltet und wird beim Übernehmen dann abgeschaltet!"},
     {"chkShortCutInk",
      "Entfernt den kleinen Pfeil, mit dem Windows XP Verknüpfungen kennzeichnet. Standardmäßig "
      "wird er angezeigt. Ohne den Pfeil lassen sich Verknüpfungen und Dateien leicht verwechseln, "
@@ -116,9 +120,9 @@ constexpr HelpText Rows[] = {
      "Zeigt unten rechts auf dem Desktop die Versionsnummer von Windows XP an. Standardmäßig ist "
      "dies ausgeschaltet. Die Änderung sehen Sie erst nach der nächsten Anmeldung."},
     {"chkEncryptionContext",
-     "Nimmt 'Verschlüsseln' und 'Entschlüsseln' in das Kontextmenü des Explorers auf (nur NTFS). "
-     "Standardmäßig fehlen die Einträge. ACHTUNG: Einmal übernommen lässt sich die Option hier "
-     "nicht wieder abschalten. Ohne Sicherung des Schlüssels sind verschlüsselte Dateien nach "
+     "Nimmt 'Verschlüsseln' und 'Entschlüsseln' in das Kontextmenü des Explorers auf (nur NTFS), "
+     "standardmäßig fehlen die Einträge. Einmal übernommen lässt sich die Option hier nicht "
+     "wieder abschalten. ACHTUNG: Ohne Sicherung des Schlüssels sind verschlüsselte Dateien nach "
      "einer Neuinstallation verloren!"},
     {"chkHideWinComponents",
      "Aktiviert zeigt diese Option alle versteckten Windowskomponenten in der Systemsteuerung "
@@ -127,17 +131,18 @@ constexpr HelpText Rows[] = {
      "und Sie sich damit auskennen."},
     {"chkDisableThumbnails",
      "Windows XP speichert die Bilder der Miniaturansicht in der Datei Thumbs.db, damit sie beim "
-     "nächsten Mal schneller erscheinen. Standardmäßig ist dieser Cache aktiv. Abgeschaltet sparen "
-     "Sie etwas Platz, die Bilder müssen aber jedes Mal neu berechnet werden."},
+     "nächsten Mal schneller erscheinen. Standardmäßig ist dieser Cache aktiv, abgeschaltet "
+     "sparen Sie etwas Platz. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird "
+     "beim Übernehmen abgeschaltet."},
     {"chkWindowsTour",
-     "Windows XP bietet nach der Installation mehrmals eine Tour an. Mit dieser Option erscheint "
-     "das Angebot nicht mehr, standardmäßig ist sie ausgeschaltet. Zugleich wird das Script "
-     "Debugging des Internet Explorers deaktiviert bzw. beim Abschalten der Option wieder "
-     "aktiviert."},
+     "Windows XP bietet nach der Installation mehrmals eine Tour an, mit dieser Option erscheint "
+     "das Angebot nicht mehr. Zugleich wird das Script Debugging des Internet Explorers "
+     "deaktiviert. Solange die Option ausgeschaltet ist (Standard), aktiviert jedes Übernehmen "
+     "beides wieder."},
     {"chkCascadeExplorer",
-     "Neue Fenster des Internet Explorers und des Explorers werden versetzt hintereinander "
-     "angeordnet. Außerdem klappt im klassischen Startmenü die Systemsteuerung als Menü auf. "
-     "Standardmäßig ist die Option ausgeschaltet."},
+     "Die Systemsteuerung klappt im klassischen Startmenü als Menü auf, statt sich in einem "
+     "Fenster zu öffnen. Standardmäßig ist die Option ausgeschaltet. Auf die Anordnung neuer "
+     "Fenster des Internet Explorers hat der Eintrag keine Wirkung."},
     {"chkDOSComp",
      "Windows XP legt auf NTFS-Laufwerken zu jedem langen Dateinamen einen kurzen Namen (8.3) an. "
      "Standardmäßig ist dies aktiv. Ohne alte DOS-Programme können Sie es abschalten und gewinnen "
@@ -200,8 +205,9 @@ constexpr HelpText Rows[] = {
      "vor gefälschten Anmeldefenstern schützt."},
     {"chkDelegateFolders",
      "Entfernt die gemeinsamen Dokumente und die Dokumente der anderen Benutzer aus dem "
-     "Arbeitsplatz. Standardmäßig werden sie angezeigt. Die Dateien selbst bleiben erhalten, Sie "
-     "finden sie weiterhin unter 'Dokumente und Einstellungen'."},
+     "Arbeitsplatz, die Dateien selbst bleiben erhalten. Standardmäßig werden sie angezeigt. "
+     "ACHTUNG: Die Option erscheint auch dann als eingeschaltet, und das Übernehmen entfernt die "
+     "Ordner!"},
     {"chkPageFileDelete",
      "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, damit niemand Reste Ihrer Daten "
      "darin lesen kann. Standardmäßig ist dies ausgeschaltet. Das Herunterfahren dauert mit dieser "
@@ -213,8 +219,8 @@ constexpr HelpText Rows[] = {
     {"chkSecureWindows",
      "Schaltet den Dienst Universal Plug'n'Play (UPnP) ab, mit dem Windows XP Geräte im Netzwerk "
      "findet. Standardmäßig ist er aktiv, wegen seiner Sicherheitslücken sollten Sie ihn "
-     "abschalten, wenn Sie ihn nicht benötigen. Manche Geräte und Programme sind auf ihn "
-     "angewiesen. Die Option wirkt sofort."},
+     "abschalten, wenn Sie ihn nicht benötigen. Die Option wirkt sofort, manche Geräte und "
+     "Programme sind aber auf ihn angewiesen."},
     {"chkWindowsUpdate",
      "Schaltet die automatische Suche nach Updates ab, die Windows XP standardmäßig ausführt. "
      "ACHTUNG: Installieren Sie Sicherheitsupdates dann unbedingt regelmäßig von Hand!"},
@@ -223,9 +229,10 @@ constexpr HelpText Rows[] = {
      "zu senden. Mit dieser Option entfallen Bericht und Nachfrage. Da der Bericht Teile Ihrer "
      "Daten enthalten kann, ist das Abschalten zu empfehlen."},
     {"chkWindowsDesktop",
-     "Startet Desktop und Taskbar getrennt von den Fenstern des Explorers in einem eigenen "
-     "Prozess. Stürzt ein Explorerfenster ab, läuft der Desktop weiter. Standardmäßig ist dies "
-     "ausgeschaltet, da es etwas mehr Arbeitsspeicher benötigt."},
+     "Startet Desktop und Taskbar in einem eigenen Prozess, so dass sie weiterlaufen, wenn ein "
+     "Explorerfenster abstürzt. Standardmäßig ist dies ausgeschaltet, da es mehr Arbeitsspeicher "
+     "benötigt. Gelesen wird ein anderer Eintrag, beim nächsten Start erscheint die Option daher "
+     "als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkClearRecentDocs",
      "Löscht beim Verlassen von Windows die Liste der zuletzt verwendeten Dokumente, so dass "
      "niemand sieht, woran Sie gearbeitet haben. Standardmäßig bleibt die Liste erhalten. Die "
@@ -239,22 +246,24 @@ constexpr HelpText Rows[] = {
      "Anmeldedialog (wo nun der Admin fehlt) einfach gleichzeitig STRG+ALT+ENTF drücken. Nun "
      "können Sie die Anmeldedaten 'manuell' eintragen!"},
     {"chkWatsonIE",
-     "Nach einem Absturz des Internet Explorers erstellt Dr. Watson einen Fehlerbericht und bietet "
-     "an ihn an Microsoft zu senden. Standardmäßig ist dies aktiv. Möchten Sie keine Berichte "
-     "senden, können Sie die Option ohne Nachteil abschalten."},
+     "Nach einem Absturz des Internet Explorers erstellt Dr. Watson einen Fehlerbericht und "
+     "bietet an, ihn an Microsoft zu senden. Standardmäßig ist dies aktiv und kann ohne Nachteil "
+     "abgeschaltet werden. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird "
+     "beim Übernehmen abgeschaltet."},
     {"chkWatsonXP",
      "Legt fest, ob Dr. Watson nach einem Absturz von Office XP Fehlerberichte und Dateien an "
-     "Microsoft senden darf. Standardmäßig ist dies erlaubt. Arbeiten Sie mit vertraulichen "
-     "Dokumenten, sollten Sie die Option abschalten."},
+     "Microsoft senden darf. Standardmäßig ist dies erlaubt. Gelesen wird ein anderer Eintrag, "
+     "bei jedem Start erscheint die Option daher meist als ausgeschaltet und wird beim Übernehmen "
+     "abgeschaltet."},
     {"cboMTU",
-     "Die MTU ist die größte Länge eines Datenpakets in Bytes. Üblich sind 576 für analoge "
-     "Zugänge, 1492 für DSL und 1500 im Netzwerk, ohne Eintrag wählt Windows XP den Wert selbst. "
-     "Falsche Werte bremsen die Verbindung. Bei jeder Änderung wird auch RWIN neu berechnet."},
+     "Die MTU ist die größte Länge eines Datenpakets in Bytes, falsche Werte bremsen die "
+     "Verbindung. Üblich sind 576 für analoge Zugänge, 1492 für DSL und 1500 im Netzwerk, ohne "
+     "Eintrag wählt Windows XP den Wert selbst. Bei jeder Änderung wird auch RWIN neu berechnet."},
     {"txtRWIN",
      "RWIN legt fest, wie viele Bytes empfangen werden, bevor eine Bestätigung gesendet wird. "
-     "Empfohlen wird ein Vielfaches von MTU minus 40, es wird beim Ändern der MTU automatisch "
-     "eingetragen. Zu kleine Werte bremsen schnelle Verbindungen, zu große kosten bei Störungen "
-     "Zeit."},
+     "Ohne Eintrag wählt Windows XP den Wert selbst (Standard), beim Ändern der MTU wird ein "
+     "Vielfaches von MTU minus 40 eingetragen. Zu kleine Werte bremsen schnelle Verbindungen, zu "
+     "große kosten bei Störungen Zeit."},
     {"txtTTL",
      "TTL (Time To Live) ist die Anzahl der Stationen, die ein Datenpaket höchstens durchlaufen "
      "darf. Standardmäßig sind es bei Windows XP 128. Mit zu kleinen Werten sind weit entfernte "
@@ -288,12 +297,13 @@ constexpr HelpText Rows[] = {
      "benötigt."},
     {"chkNetworkTasks",
      "Öffnen Sie einen Rechner im Netzwerk, sucht Windows XP dort standardmäßig nach geplanten "
-     "Tasks, was einige Sekunden dauern kann. Mit dieser Option entfällt die Suche. Die Tasks "
-     "anderer Rechner werden dann nicht mehr angezeigt."},
+     "Tasks, was einige Sekunden dauern kann. Mit dieser Option entfällt die Suche, Tasks anderer "
+     "Rechner werden nicht mehr angezeigt. Die Option erscheint auch beim Standard als "
+     "eingeschaltet und wird beim Übernehmen wirksam."},
     {"chkDNSSpeed",
      "Ändert vier Werte für den Zwischenspeicher der DNS-Namen, so dass bereits besuchte Adressen "
-     "schneller gefunden werden. Standardmäßig fehlen diese Einträge. Zieht ein Server um, kann "
-     "seine alte Adresse allerdings länger gespeichert bleiben."},
+     "schneller gefunden werden. Standardmäßig fehlen diese Einträge. Zieht ein Server um, bleibt "
+     "seine alte Adresse höchstens 64000 Sekunden (knapp 18 Stunden) gespeichert."},
     {"chkTCPTuning",
      "Setzt zwei Werte des Netzwerktreibers AFD (TransmitWorker 16 und PriorityBoost 10), damit "
      "Programme mit Netzwerkverbindungen schneller bedient werden. Standardmäßig fehlen diese "
@@ -308,9 +318,10 @@ constexpr HelpText Rows[] = {
      "Dateierweiterungen ein, getrennt durch jeweils ein Semikolon. Achtung: Das zulassen von "
      "einigen Dateianhängen stellt ein Sicherheitsrisiko dar!"},
     {"chkIEWinPos",
-     "Ist die Option aktiviert, wird die gespeicherte Fensterposition des Internet Explorers "
-     "gelöscht und er merkt sich beim Schließen eine neue. Das ist der Standard. Abgeschaltet wird "
-     "eine feste Position eingetragen."},
+     "Löscht die gespeicherte Fensterposition des Internet Explorers, er merkt sich dann beim "
+     "Schließen wie standardmäßig eine neue. Abgeschaltet trägt jedes Übernehmen eine feste "
+     "Position ein. Ist bereits eine Position gespeichert, erscheint die Option als "
+     "ausgeschaltet."},
     {"chkScriptDebugging",
      "Zeigt an, ob der Internet Explorer bei Fehlern in Scripts auf das Debugging verzichtet. "
      "Standardmäßig ist es deaktiviert. Geändert wird der Wert nur zusammen mit der Option "
@@ -321,8 +332,8 @@ constexpr HelpText Rows[] = {
      "erscheint die Option hier als ausgeschaltet."},
     {"txtIETitel",
      "Hier können Sie die Adresse der Seite eintragen, die der Internet Explorer zum Suchen "
-     "öffnet. Möglich sind höchstens 255 Zeichen. Ein leeres Feld wird ebenfalls übernommen, der "
-     "Internet Explorer hat dann keine Suchseite mehr."},
+     "öffnet (höchstens 255 Zeichen). Standardmäßig ist dies eine Seite von Microsoft. Ein leeres "
+     "Feld wird ebenfalls übernommen, der Internet Explorer hat dann keine Suchseite mehr."},
     {"cmdSynchronizeDateTime",
      "Hier können Sie das Datum und die Uhrzeit Ihres Systems über einen 'TimeServer' im Internet "
      "oder mit einem Server im Netzwerk synchronisieren. Durch die Übertragung kann es aber zu "
@@ -365,9 +376,9 @@ constexpr HelpText Rows[] = {
      "Speicherseiten auftreten können. Standardmäßig fehlt dieser Eintrag. Auf anderen Rechnern "
      "ist die Option nicht nötig und kann etwas Leistung kosten."},
     {"chkEnableNetworkProcessor",
-     "Überlässt das Berechnen von Prüfsummen dem Prozessor der Netzwerkkarte und entlastet so den "
-     "Rechner. Standardmäßig fehlt dieser Eintrag. Bei Verbindungsproblemen schalten Sie die "
-     "Option wieder ab."},
+     "Überlässt das Berechnen von Prüfsummen dem Prozessor der Netzwerkkarte, was Windows XP auch "
+     "standardmäßig tut. Die Option hebt daher nur eine frühere Abschaltung auf. Ausgeschaltet "
+     "wird der Eintrag gelöscht, was ebenso wirkt."},
     {"cmdShowAllLoggedOnUsers",
      "Zeigt alle Benutzer an, die gerade an diesem System angemeldet sind. Auch Anmeldungen von "
      "Diensten können darunter sein. Sinnvoll ist dies vor dem Herunterfahren, damit niemand Daten "
@@ -419,9 +430,10 @@ constexpr HelpText Rows[] = {
      "Benutzung sind, bleiben erhalten. ACHTUNG: Ordner in der Liste werden immer gelöscht, auch "
      "wenn sie nicht markiert sind!"},
     {"chkSHMediaDLL",
-     "Der Explorer zeigt zu Videos und Bildern keine Vorschau mehr an. Standardmäßig ist die "
-     "Vorschau eingeschaltet, sie kann aber Videodateien sperren, so dass sich diese nicht löschen "
-     "oder umbenennen lassen. Miniaturansichten von Videos fehlen dann."},
+     "Der Explorer zeigt zu Videos und Bildern keine Vorschau mehr an. Standardmäßig ist sie "
+     "eingeschaltet, kann aber Videodateien sperren, so dass sie sich nicht löschen oder "
+     "umbenennen lassen. ACHTUNG: Beim ersten Start von Quillmore ist die Option bereits gesetzt, "
+     "das erste Übernehmen schaltet die Vorschau ab!"},
 };
 
 }  // namespace

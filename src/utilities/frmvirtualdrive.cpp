@@ -197,6 +197,10 @@ void frmVirtualDrive::ReadSubstList() {
 
 // A part that an item lacks is a statement that fails, so the row before lends it its own. Such is
 // the second half of a path with a comma in it. A later reading has the list for itself.
+//
+// The file is read in the ANSI code page, like every text. XP's shell writes redirected output in
+// the OEM code page, so an umlaut in a path is shown there as another sign. No command is made of
+// what the path's column shows.
 void frmVirtualDrive::AddRows(const std::string& output, int reading) {
     int number = 0;
     std::string drive;

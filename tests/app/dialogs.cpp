@@ -98,6 +98,7 @@ TEST_CASE_FIXTURE(Dialogs, "the installed software is shown over the window's mi
             CHECK(list.Text(list.Count() - 1) == name);
             const toolkit::Bounds& place = software.Place();
             CHECK(place.left == form->Place().left + (form->Place().width - place.width) / 2);
+            CHECK(place.top == form->Place().top + (form->Place().height - place.height) / 2);
         });
     }
 }
@@ -108,6 +109,7 @@ TEST_CASE_FIXTURE(Dialogs, "the virtual drives are shown over the window's middl
             CHECK(drives.Find<toolkit::ListView>("lstDrives").Count() == 0);
             const toolkit::Bounds& place = drives.Place();
             CHECK(place.left == form->Place().left + (form->Place().width - place.width) / 2);
+            CHECK(place.top == form->Place().top + (form->Place().height - place.height) / 2);
         });
     }
     CHECK(machine.processes.launched.size() == 2);

@@ -106,3 +106,19 @@ TEST_CASE("the colours are calculated anew after a change of colour, scheme, loo
     CHECK(calculates());
     CHECK_FALSE(calculates());
 }
+
+TEST_CASE("a drawing that fails under the mouse leaves the button its own colours") {
+    WatchedButton test;
+    test.button.SetColorScheme(2);
+    test.button.SetBackColor(0x0000FF);
+    test.button.SetBackOver(0xFF0000);
+    const Calls before = test.Painted();
+    test.MouseEnters();
+    RecordingCanvas canvas;
+    canvas.fails = true;
+    CHECK_THROWS(test.button.Paint(canvas, Client));
+    CHECK(test.button.Properties().backColor == 0x0000FF);
+    CHECK(test.button.Properties().backOver == 0xFF0000);
+    test.MouseLeaves(MouseButton::None);
+    CHECK(test.Painted() == before);
+}

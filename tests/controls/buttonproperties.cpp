@@ -150,6 +150,28 @@ TEST_CASE("what a button writes, another one reads") {
     CHECK(read.value);
 }
 
+TEST_CASE("every colour comes back from a store as it was written") {
+    for (const toolkit::Colour colour :
+         {0u, 0x7FFFu, 0x8000u, 0xFF00u, 0xFFFFu, 0x10000u, 0xFFFFFFu, SystemColour(15)}) {
+        CAPTURE(colour);
+        ButtonProperties given;
+        given.backColor = colour;
+        given.foreOver = colour;
+        given.maskColor = colour;
+        PropertyStore store;
+        controls::WriteButtonProperties(store, given);
+        const ButtonProperties read = controls::ReadButtonProperties(store);
+        CHECK(read.backColor == colour);
+        CHECK(read.foreOver == colour);
+        CHECK(read.maskColor == colour);
+    }
+}
+
+TEST_CASE("a truth value may be spelt out") {
+    CHECK_FALSE(Read("ENAB=False").enabled);
+    CHECK(Read("HAND=True").handPointer);
+}
+
 TEST_CASE("without BCOLO the background under the mouse is the BackColor just read") {
     CHECK(Read("BCOL=&H123456").backOver == 0x123456);
     CHECK(Read("BCOL=&H123456\nBCOLO=&H654321").backOver == 0x654321);
@@ -257,6 +279,17 @@ TEST_CASE("reading a store announces nothing, and draws the button anew") {
     CHECK(test.button.Caption() == "gelesen");
     CHECK_FALSE(test.button.Enabled());
     CHECK(test.button.Properties().checkBoxBehaviour);
+    test.button.SetValue(true);
+    CHECK(announced == Keys{"VALUE"});
+}
+
+TEST_CASE("a store that could not be read to its end leaves the button able to announce") {
+    WatchedButton test;
+    Keys announced;
+    test.button.onPropertyChanged = [&](const char* key) { announced.emplace_back(key); };
+    test.view.fails = true;
+    CHECK_THROWS(test.button.ReadProperties(PropertyStore("TX=gelesen")));
+    test.view.fails = false;
     test.button.SetValue(true);
     CHECK(announced == Keys{"VALUE"});
 }

@@ -41,9 +41,11 @@ TEST_CASE("between DisableRefresh and Refresh nothing is drawn, and then once") 
     CHECK(test.view.repaints == 0);
     CHECK(test.view.regions.empty());
     CHECK(test.Painted().empty());
+    CHECK_FALSE(test.button.IsReady());
     test.button.Refresh();
     CHECK(test.view.repaints == 1);
     CHECK(test.view.regions.size() == 1);
+    CHECK(test.button.IsReady());
     CHECK_FALSE(test.Painted().empty());
 }
 

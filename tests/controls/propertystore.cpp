@@ -58,3 +58,41 @@ TEST_CASE("an absent key, a text that is no number and one too large give no num
         CHECK_FALSE(store.Number(key).has_value());
     }
 }
+
+TEST_CASE("a colour's hexadecimal digits are bits, a number of 16 bits too") {
+    const PropertyStore store(
+        "A=&H8000\nB=&H0000FF00\nC=&HFFFF\nD=&H10000\nE=&H8000000F\nF=65280\nG=-1");
+    CHECK(store.Colour("A") == 0x8000u);
+    CHECK(store.Colour("B") == 0xFF00u);
+    CHECK(store.Colour("C") == 0xFFFFu);
+    CHECK(store.Colour("D") == 0x10000u);
+    CHECK(store.Colour("E") == toolkit::SystemColour(15));
+    CHECK(store.Colour("F") == 0xFF00u);
+    CHECK(store.Colour("G") == 0xFFFFFFFFu);
+}
+
+TEST_CASE("an absent key, a text that is no colour and one too large give no colour") {
+    const PropertyStore store("A=rot\nB=\nC=&H\nD=&H123456789\nE=&HFG\nF=99999999999");
+    for (const char* key : {"A", "B", "C", "D", "E", "F", "G"}) {
+        CAPTURE(key);
+        CHECK_FALSE(store.Colour(key).has_value());
+    }
+}
+
+TEST_CASE("a truth value is a number or the words True and False") {
+    const PropertyStore store("A=True\nB=false\nC=-1\nD=0\nE=TRUE\nF=2");
+    CHECK(store.Truth("A") == true);
+    CHECK(store.Truth("B") == false);
+    CHECK(store.Truth("C") == true);
+    CHECK(store.Truth("D") == false);
+    CHECK(store.Truth("E") == true);
+    CHECK(store.Truth("F") == true);
+}
+
+TEST_CASE("an absent key and another word give no truth value") {
+    const PropertyStore store("A=ja\nB=\nC=Truee");
+    for (const char* key : {"A", "B", "C", "D"}) {
+        CAPTURE(key);
+        CHECK_FALSE(store.Truth(key).has_value());
+    }
+}

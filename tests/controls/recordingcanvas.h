@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ struct TestPicture final : toolkit::Picture {
 class RecordingCanvas final : public toolkit::Canvas {
   public:
     std::vector<std::string> calls;
+    bool fails = false;
     // How often a system colour was looked up, and a text measured.
     mutable int lookUps = 0;
     mutable int measures = 0;
@@ -43,6 +45,7 @@ class RecordingCanvas final : public toolkit::Canvas {
         return system.at(colour & 0xFF);
     }
     void FillRect(toolkit::Rect area, toolkit::Colour colour) override {
+        if (fails) throw std::runtime_error("no memory");
         calls.push_back("FillRect " + Words(area) + " " + Name(colour));
     }
     void FrameRect(toolkit::Rect area, toolkit::Colour colour) override {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@ namespace controls_test {
 class TestView final : public toolkit::ControlView {
   public:
     bool pointerIsOver = false;
+    bool fails = false;
     int repaints = 0;
     int captures = 0;
     int immediatePaints = 0;
@@ -25,7 +27,9 @@ class TestView final : public toolkit::ControlView {
     // "kept" and "let go".
     std::vector<std::string> backgrounds;
 
-    void Refresh(toolkit::Aspect) override {}
+    void Refresh(toolkit::Aspect) override {
+        if (fails) throw std::runtime_error("no window");
+    }
     void Repaint() override { ++repaints; }
     bool PointerIsOver() const override { return pointerIsOver; }
     void TakeFocus() override {}

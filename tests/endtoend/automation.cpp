@@ -223,7 +223,11 @@ void Application::PressKey(const std::string& form, int virtualKey) const {
     const HWND window = Wait(form);
     GUITHREADINFO thread = {};
     thread.cbSize = sizeof thread;
-    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
+    // A form that has just come up gets the focus a little later; until then another one has it.
+    Until(form + " to have the focus", [&] {
+        GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
+        return !thread.hwndFocus || GetAncestor(thread.hwndFocus, GA_ROOT) == window;
+    });
     const HWND target = thread.hwndFocus ? thread.hwndFocus : window;
     PostMessageW(target, WM_KEYDOWN, static_cast<WPARAM>(virtualKey), 1);
     PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(virtualKey),

@@ -23,11 +23,12 @@ struct AboutDialog {
         window = program.Wait("frmAbout");
     }
 
-    // -1 when the window is gone.
+    // -1 when the window is gone; 0 as long as it is not layered yet.
     int Alpha() const {
         BYTE alpha = 0;
         DWORD flags = 0;
-        return GetLayeredWindowAttributes(window, nullptr, &alpha, &flags) ? alpha : -1;
+        if (!GetLayeredWindowAttributes(window, nullptr, &alpha, &flags)) alpha = 0;
+        return IsWindow(window) ? alpha : -1;
     }
     bool OkIsEnabled() const { return IsWindowEnabled(program.Find("frmAbout.cmdOK")); }
     void WaitFadedIn() const {

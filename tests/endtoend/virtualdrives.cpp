@@ -205,7 +205,7 @@ TEST_CASE("a drive is made for a folder, listed, stored and removed again") {
     CHECK(dialogue.workplace.Log() == "");
 }
 
-TEST_CASE("what the command tells is listed with its commas, blanks and umlauts") {
+TEST_CASE("what the command tells in the ANSI code page is listed with its commas and blanks") {
     Dialogue dialogue(
         "X:\\: => C:\\GR\xD6\xDF"
         "E\r\nY:\\: =>  C:\\Ein Ort, zwei\r\n");
@@ -218,6 +218,18 @@ TEST_CASE("what the command tells is listed with its commas, blanks and umlauts"
     CHECK_FALSE(Exists(Output));
     dialogue.program.PressKey(Dialog, VK_ESCAPE);
     dialogue.program.WaitGone(Dialog);
+}
+
+TEST_CASE("the right button selects a drive and offers to remove it at once") {
+    const Dialogue dialogue("X:\\: => C:\\\r\nY:\\: => C:\\\r\n");
+    dialogue.WaitRows(2);
+    CHECK_FALSE(IsWindowEnabled(dialogue.program.Find("cmddelete")));
+    dialogue.rows.PressRightButton(1);
+    ChooseFromMenu(dialogue.program, 1);
+    CHECK(dialogue.program.Answer(Question, IDNO).text ==
+          "Sind Sie sicher das Sie das virtuelle Laufwerk 'Y:' löschen wollen?");
+    CHECK(IsWindowEnabled(dialogue.program.Find("cmddelete")));
+    CHECK(dialogue.shell.Lines() == Texts{ListLine});
 }
 
 TEST_CASE("output that cannot be read leaves an empty list and no box") {

@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <new>
+
 #include "../../bench/withservices.h"
 #include "registry/fixture.h"
 #include "registry/restless.h"
@@ -83,6 +85,17 @@ TEST_CASE_FIXTURE(Object, "a key that cannot be deleted is told with its root as
     object.ClassKey = 2;
     CHECK(RaisedBy([&] { object.DeleteKey(); }) ==
           "Failed to delete registry Key: '2',Section: 'Software\\Absent");
+}
+
+TEST_CASE_FIXTURE(Object, "a path with an empty part deletes neither the parent nor another key") {
+    machine.registry.MakeKey(Service::LocalMachine, "Software\\Test\\Below");
+    for (const char* path : {"Software\\Test\\Below\\", "\\Software\\Test\\Below",
+                             "Software\\Test\\\\Below", "\\", ""}) {
+        object.SectionKey = path;
+        CHECK(RaisedBy([&] { object.DeleteKey(); }) ==
+              "Failed to delete registry Key: '-2147483646',Section: '"s + path);
+    }
+    CHECK(machine.registry.HasKey(Service::LocalMachine, "Software\\Test\\Below"));
 }
 
 TEST_CASE_FIXTURE(Object, "a key with sub-keys is not deleted") {
@@ -216,6 +229,41 @@ TEST_CASE_FIXTURE(Object, "a value that goes or grows while it is read is the de
         CHECK(watched.Value() == Data("default"s));
         CHECK(restless.HasActed());
     }
+}
+
+TEST_CASE_FIXTURE(Object, "a value that shrinks while it is read is what is stored by then") {
+    Restless restless{machine.registry};
+    const platform::Machine disturbed = bench::With(machine.services, {.registry = &restless});
+    registry::cRegistry watched(disturbed);
+    watched.ClassKey = Service::LocalMachine;
+    watched.SectionKey = "Software\\Test";
+    watched.ValueKey = "Name";
+    const auto shrunk = [&](const platform::simulated::StoredValue& left) {
+        machine.registry.Put(Service::LocalMachine, "Software\\Test", "Name", TextValue("abcdef"));
+        restless.After(2, [&] {
+            machine.registry.Put(Service::LocalMachine, "Software\\Test", "Name", left);
+        });
+        return watched.Value();
+    };
+    CHECK(shrunk(TextValue("ab")) == Data("ab"s));
+    CHECK(shrunk(TextValue("")) == Data(""s));
+    CHECK(shrunk({Service::Binary, {1, 0}}) == Data(Bytes{1, 0}));
+    CHECK(watched.ValueType == Service::Binary);
+    CHECK(shrunk({Service::Dword, {1, 0, 0, 0}}) == Data(1));
+}
+
+TEST_CASE_FIXTURE(Object, "whatever ends the enumeration of sub-keys, the key is closed") {
+    machine.registry.MakeKey(Service::LocalMachine, "Software\\Test\\a");
+    Restless restless{machine.registry};
+    const platform::Machine disturbed = bench::With(machine.services, {.registry = &restless});
+    registry::cRegistry watched(disturbed);
+    watched.ClassKey = Service::LocalMachine;
+    watched.SectionKey = "Software\\Test";
+    restless.After(2, [] { throw std::bad_alloc(); });
+    std::vector<std::string> names;
+    int count = 0;
+    CHECK_THROWS_AS(watched.EnumerateSections(names, count), std::bad_alloc);
+    CHECK(machine.registry.OpenHandles() == 0);
 }
 
 TEST_CASE_FIXTURE(Object,

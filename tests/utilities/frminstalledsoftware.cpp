@@ -2,87 +2,12 @@
 
 #include <doctest/doctest.h>
 
-#include "controls/chameleonbutton.h"
-#include "platform/simulated/machine.h"
+#include <algorithm>
+
 #include "runtime/failure.h"
-#include "toolkit/controls.h"
-#include "toolkit/listview.h"
+#include "utilities/software.h"
 
-namespace {
-
-using namespace std::string_literals;
-using platform::Registry;
-using platform::simulated::StoredValue;
-using platform::simulated::TextValue;
-using toolkit::ListView;
-using Lines = std::vector<std::string>;
-using Run = platform::simulated::Processes::Run;
-
-constexpr char UninstallKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
-constexpr char CannotStart[] = "Fehler beim deinstallieren aufgetreten";
-constexpr int KeyDelete = 46;
-constexpr int KeyF5 = 116;
-
-struct Software {
-    platform::simulated::Machine machine;
-    utilities::frmInstalledSoftware form{machine.services};
-    ListView& list = form.Find<ListView>("lvwSoftware");
-    std::vector<Run>& runs = machine.processes.runs;
-
-    void Put(const std::string& key, const char* value, StoredValue data) {
-        machine.registry.Put(Registry::LocalMachine, UninstallKey + key, value, std::move(data));
-    }
-    void Seed(const std::string& key, const std::string& displayName,
-              const std::string& uninstallString) {
-        Put(key, "DisplayName", TextValue(displayName));
-        Put(key, "UninstallString", TextValue(uninstallString));
-    }
-    // Three entries whose uninstallers run until somebody ends them.
-    void ShowThree() {
-        for (const char* name : {"Alpha", "Beta", "Gamma"}) {
-            Seed(name, name, "C:\\"s + name + ".exe /u");
-        }
-        machine.processes.whenStarted = [](const std::string&) { return Run{0, Run::Endless}; };
-        form.Show();
-    }
-    bool HasKey(const std::string& key) const {
-        return machine.registry.HasKey(Registry::LocalMachine, UninstallKey + key);
-    }
-    void Press(const char* name) { form.Find<controls::chameleonButton>(name).Press(); }
-    void Select(std::initializer_list<int> rows) {
-        for (int row = 0; row < list.Count(); ++row) list.SetSelected(row, false);
-        for (const int row : rows) list.SetSelected(row, true);
-    }
-    void Tick() { machine.clock.Advance(utilities::frmInstalledSoftware::ProcessInterval); }
-    bool IsWatching() const { return machine.clock.RunningTimers() > 0; }
-    Lines Names() const {
-        Lines names;
-        for (int row = 0; row < list.Count(); ++row) names.push_back(list.Text(row));
-        return names;
-    }
-    Lines Selected() const {
-        Lines names;
-        for (int row = 0; row < list.Count(); ++row) {
-            if (list.Selected(row)) names.push_back(list.Text(row));
-        }
-        return names;
-    }
-    Lines Started() const {
-        Lines lines;
-        for (const auto& each : machine.processes.launched) {
-            CHECK(each.windowStyle == 1);
-            lines.push_back(each.commandLine);
-        }
-        return lines;
-    }
-    std::string Found() const { return form.Find<toolkit::Label>("lblFound").Caption(); }
-    platform::simulated::ShownMessage OneBox() const {
-        REQUIRE(machine.messages.Shown().size() == 1);
-        return machine.messages.Shown()[0];
-    }
-};
-
-}  // namespace
+using namespace utilities_test;
 
 TEST_CASE_FIXTURE(Software, "complete entries are listed by name with key and uninstaller") {
     Seed("{123}", "Öffner", "C:\\o.exe");
@@ -109,6 +34,38 @@ TEST_CASE_FIXTURE(Software, "entries without one of the two values are not liste
     form.Show();
     CHECK(Names() == Lines{"Ganz"});
     CHECK(Found() == "Gefunden: 1 Anwendungen");
+}
+
+TEST_CASE_FIXTURE(Software, "a text ends at its first NUL, and one that begins with it is none") {
+    const auto put = [&](const std::string& key, const std::string& name,
+                         const std::string& command) {
+        Put(key, "DisplayName", TextValue(name));
+        Put(key, "UninstallString", TextValue(command));
+    };
+    put("Zwei NUL", "\0"s, "x");
+    put("Foo", "Foo\0bar"s, "f.exe\0 /u"s);
+    put("Ohne Befehl", "Ohne Befehl", "\0x"s);
+    put("Mehrere", "", "m.exe");
+    Put("Mehrere", "DisplayName", {Registry::MultiString, TextValue("Eins\0Zwei\0"s).bytes});
+    form.Show();
+    CHECK(Names() == Lines{"Eins", "Foo"});
+    CHECK(list.Text(1, 2) == "f.exe");
+    Select({1});
+    machine.messages.Answer("Foo löschen", 6);
+    Press("cmdDeleteItem");
+    CHECK_FALSE(HasKey("Foo"));
+    CHECK(HasKey("Zwei NUL"));
+}
+
+TEST_CASE_FIXTURE(Software, "the uninstaller is read before the name, entry by entry") {
+    Seed("a", "a", "x");
+    form.Show();
+    const Lines calls = machine.journal.Calls("RegQueryValueExA");
+    REQUIRE(calls.size() == 4);
+    for (const int first : {0, 1}) {
+        CHECK(calls[static_cast<std::size_t>(first)].find("UninstallString") != std::string::npos);
+        CHECK(calls[static_cast<std::size_t>(first + 2)].find("DisplayName") != std::string::npos);
+    }
 }
 
 TEST_CASE_FIXTURE(Software, "no uninstall key is an empty list") {
@@ -179,6 +136,56 @@ TEST_CASE_FIXTURE(Software, "the list is locked while it is filled, and its colu
                          "LockWindowUpdate 0"});
 }
 
+TEST_CASE_FIXTURE(Software, "the list is painted again when it is sorted, not before") {
+    // Tells whether the list sorts at the time of each call.
+    struct Painter final : toolkit::ControlView {
+        const ListView& list;
+        Lines calls;
+
+        explicit Painter(const ListView& watched) : list(watched) {}
+        void Note(const std::string& call) {
+            calls.push_back(call + (list.Sorted() ? " sorted" : " unsorted"));
+        }
+        void LockWindow(bool locked) override { Note(locked ? "lock" : "unlock"); }
+        void FitColumn(int, bool) override { Note("fit"); }
+        void Refresh(toolkit::Aspect) override {}
+        void Repaint() override {}
+        bool PointerIsOver() const override { return false; }
+        void TakeFocus() override {}
+        void CaptureMouse() override {}
+        void MoveFocus(bool) override {}
+    };
+    ShowThree();
+    Painter painter(list);
+    list.SetView(&painter);
+    Press("cmdRefresh");
+    list.SetView(nullptr);
+    CHECK(painter.calls ==
+          Lines{"lock sorted", "fit unsorted", "fit unsorted", "fit unsorted", "unlock sorted"});
+}
+
+TEST_CASE_FIXTURE(Software, "the hourglass is shown as long as the list is filled") {
+    ShowThree();
+    int pointer = -1;
+    restless.After(2, [&] { pointer = form.Pointer(); });
+    Press("cmdRefresh");
+    CHECK(pointer == toolkit::Hourglass);
+    CHECK(form.Pointer() == toolkit::DefaultPointer);
+}
+
+TEST_CASE_FIXTURE(Software, "a failure on the way leaves neither a locked list nor the hourglass") {
+    ShowThree();
+    // Among the names, and among the values.
+    for (const int call : {2, 8}) {
+        machine.journal.Clear();
+        restless.After(call, [] { throw runtime::Failure(runtime::OutOfMemory); });
+        CHECK_THROWS_AS(Press("cmdRefresh"), runtime::Failure);
+        CHECK(form.Pointer() == toolkit::DefaultPointer);
+        CHECK(machine.journal.Calls("LockWindowUpdate") ==
+              Lines{"LockWindowUpdate lvwSoftware", "LockWindowUpdate 0"});
+    }
+}
+
 TEST_CASE_FIXTURE(Software, "the search for invalid entries empties the list, F5 fills it again") {
     ShowThree();
     Press("cmdFindInvalidLinks");
@@ -219,6 +226,7 @@ TEST_CASE_FIXTURE(Software, "the selected uninstaller is started at once and wat
     CHECK_FALSE(IsWatching());
     CHECK(Names() == Lines{"Alpha", "Gamma"});
     CHECK(Selected() == Lines{"Gamma"});
+    CHECK(LastSent() == "SendMessageA lvwSoftware 4115 1");
     CHECK(machine.processes.OpenHandles() == 0);
 }
 
@@ -315,6 +323,62 @@ TEST_CASE_FIXTURE(Software, "a double click asks before it uninstalls") {
               "Deinstallieren", "Soll die Anwendung 'Beta' wirklich deinstalliert werden?", 36});
 }
 
+TEST_CASE_FIXTURE(Software,
+                  "an uninstaller that ends during a question is seen when it is answered") {
+    ShowThree();
+    Select({0});
+    Press("cmdUninstall");
+    const auto end = [&] {
+        EndAlpha();
+        CHECK(list.Count() == 3);
+        CHECK(Selected() == Lines{"Alpha"});
+        CHECK(IsWatching());
+    };
+    SUBCASE("before deleting") {
+        machine.messages.WhileOpen("Alpha löschen", end);
+        machine.messages.Answer("Alpha löschen", 6);
+        Press("cmdDeleteItem");
+        CHECK(machine.messages.Shown().back().title ==
+              "Eintrag konnte nicht gelöscht werden [26001]");
+    }
+    SUBCASE("before uninstalling") {
+        machine.messages.WhileOpen("Deinstallieren", end);
+        machine.messages.Answer("Deinstallieren", 6);
+        list.DoubleClick();
+        CHECK(Started() == Lines{"C:\\Alpha.exe /u", "C:\\Alpha.exe /u"});
+        runs[1].questions = 0;
+    }
+    SUBCASE("before nothing") {
+        machine.messages.WhileOpen("Alpha löschen", end);
+        machine.messages.Answer("Alpha löschen", 7);
+        Press("cmdDeleteItem");
+    }
+    SUBCASE("which could not be shown") {
+        machine.faults.FailAll("MessageBox", 5);
+        CHECK_THROWS_AS(Press("cmdDeleteItem"), runtime::Failure);
+        machine.faults.Clear();
+        EndAlpha();
+    }
+    Tick();
+    CHECK_FALSE(IsWatching());
+    CHECK(HasKey("Beta"));
+    CHECK(Names() == Lines{"Beta", "Gamma"});
+}
+
+TEST_CASE_FIXTURE(Software, "an answer is about the rows of the question and no others") {
+    ShowThree();
+    Select({0});
+    machine.messages.WhileOpen("Deinstallieren", [&] { Select({1, 2}); });
+    machine.messages.Answer("Deinstallieren", 6);
+    list.DoubleClick();
+    CHECK(Started() == Lines{"C:\\Alpha.exe /u"});
+    Select({0});
+    machine.messages.WhileOpen("Alpha löschen", [&] { Select({1, 2}); });
+    machine.messages.Answer("Alpha löschen", 6);
+    Press("cmdDeleteItem");
+    CHECK(Names() == Lines{"Beta", "Gamma"});
+}
+
 TEST_CASE_FIXTURE(Software, "the right button offers both on a list with rows") {
     list.PressRightButton();
     CHECK(machine.journal.Calls("TrackPopupMenu").empty());
@@ -349,6 +413,7 @@ TEST_CASE_FIXTURE(Software, "entries are deleted after a question, and the row a
     machine.messages.Answer("Beta löschen", 6);
     Press("cmdDeleteItem");
     CHECK(Selected() == Lines{"Alpha"});
+    CHECK(LastSent() == "SendMessageA lvwSoftware 4115 0");
     CHECK(machine.messages.Shown().size() == 3);
 }
 
@@ -399,6 +464,27 @@ TEST_CASE_FIXTURE(Software, "a name that holds a backslash reaches the key below
     CHECK(machine.messages.Shown().size() == 3);
     CHECK(HasKey("Andere"));
     CHECK(list.Count() == 2);
+}
+
+TEST_CASE_FIXTURE(Software, "a name that backslashes lead to another key's is not found") {
+    ShowThree();
+    machine.registry.MakeKey(Registry::LocalMachine, UninstallKey + "Beta\\Tief"s);
+    for (const char* name : {"Gamma\\", "\\Gamma", "Beta\\\\Tief"}) {
+        CAPTURE(name);
+        Put("Andere", "DisplayName", TextValue(name));
+        Put("Andere", "UninstallString", TextValue("x"));
+        Press("cmdRefresh");
+        const Lines names = Names();
+        const auto row = std::find(names.begin(), names.end(), name) - names.begin();
+        Select({static_cast<int>(row)});
+        machine.messages.Answer(name + " löschen"s, 6);
+        Press("cmdDeleteItem");
+        CHECK(machine.messages.Shown().back().title ==
+              "Eintrag konnte nicht gelöscht werden [26001]");
+        CHECK(HasKey("Gamma"));
+        CHECK(HasKey("Beta\\Tief"));
+        CHECK(HasKey("Andere"));
+    }
 }
 
 TEST_CASE_FIXTURE(Software, "deleting without a selection is told as the failure that it is") {

@@ -2,128 +2,10 @@
 
 #include <doctest/doctest.h>
 
-#include <map>
-
-#include "controls/chameleonbutton.h"
-#include "platform/simulated/machine.h"
 #include "runtime/failure.h"
-#include "toolkit/combobox.h"
-#include "toolkit/controls.h"
-#include "toolkit/listview.h"
+#include "utilities/drives.h"
 
-namespace {
-
-using namespace std::string_literals;
-using platform::simulated::ShownMessage;
-using toolkit::ListView;
-using Lines = std::vector<std::string>;
-using Run = platform::simulated::Processes::Run;
-
-constexpr char Output[] = "C:\\tmpout.txt";
-constexpr char List[] = "command.com /csubst > tmpout.txt";
-constexpr char Impossible[] = "Virtuelles Laufwerk kann nich erstellt werden";
-constexpr char Question[] = "Virtuelles Laufwerk löschen";
-constexpr char RunKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
-constexpr int KeyDelete = 46;
-constexpr int KeyEscape = 27;
-
-// A machine on which `subst` works: the drives that it has made are there and told.
-struct Drives {
-    platform::simulated::Machine machine;
-    utilities::frmVirtualDrive form{machine.services};
-    ListView& list = form.Find<ListView>("lstDrives");
-    toolkit::ComboBox& letters = form.Find<toolkit::ComboBox>("cbodrives");
-    toolkit::TextBox& path = form.Find<toolkit::TextBox>("txtPathName");
-    toolkit::CheckBox& restore = form.Find<toolkit::CheckBox>("chkrestore");
-    std::map<std::string, std::string> made;
-    std::uint32_t exitCode = 0;
-
-    Drives() {
-        machine.disk.MakeFolder("C:\\Programme\\Quillmore");
-        machine.processes.whenStarted = [this](const std::string& line) { return Subst(line); };
-    }
-
-    Run Subst(const std::string& line) {
-        constexpr std::string_view start = "command.com /csubst ";
-        REQUIRE(line.starts_with(start));
-        const std::string rest = line.substr(start.size());
-        const std::string drive = rest.substr(0, 2);
-        if (rest == "> tmpout.txt") {
-            CHECK(machine.folders.current == "C:\\");
-            std::string output;
-            for (const auto& [letter, folder] : made) {
-                output += letter + "\\: => " + folder + "\r\n";
-            }
-            machine.files.Put(Output, output);
-        } else if (exitCode != 0) {
-            return {exitCode, 3};
-        } else if (rest.ends_with(" /d")) {
-            made.erase(drive);
-        } else {
-            made[drive] = rest.substr(3);
-        }
-        ShowMade();
-        return {exitCode, 3};
-    }
-    void ShowMade() {
-        machine.information.drives.resize(3);
-        for (const auto& each : made) {
-            machine.information.drives.push_back({each.first + '\\', platform::DriveKind::Fixed});
-            machine.information.volumes[each.first + '\\'] = {"NTFS", 40007729152, 12884901888,
-                                                              "SYSTEM"};
-        }
-    }
-    void Make(const std::string& drive, const std::string& folder) {
-        made[drive] = folder;
-        ShowMade();
-    }
-    // What `subst` is to print, whatever drives there are.
-    void Print(const std::string& output) {
-        machine.processes.whenStarted = [this, output](const std::string&) {
-            machine.files.Put(Output, output);
-            return Run{};
-        };
-    }
-    void Press(const char* name) { form.Find<controls::chameleonButton>(name).Press(); }
-    bool Enabled(const char* name) const {
-        return form.Find<controls::chameleonButton>(name).Enabled();
-    }
-    // As the user does, who gets both buttons by it.
-    void Select(int row) {
-        list.SetSelected(row, true);
-        list.Click();
-    }
-    void Browse(const std::string& folder) {
-        machine.shell.WhenBrowsing([folder](platform::simulated::FolderDialog& dialog) {
-            if (!folder.empty()) dialog.Select(folder);
-            return !folder.empty();
-        });
-        Press("cmdbroswe");
-    }
-    Lines Row(int row) const {
-        Lines texts;
-        for (int column = 0; column < 7; ++column) texts.push_back(list.Text(row, column));
-        return texts;
-    }
-    // Command lines since the last look.
-    Lines Started() {
-        Lines lines;
-        for (const auto& each : machine.processes.launched) {
-            CHECK(each.windowStyle == 0);
-            lines.push_back(each.commandLine);
-        }
-        machine.processes.launched.clear();
-        machine.processes.runs.clear();
-        return lines;
-    }
-    std::map<std::string, std::string> Store() const { return machine.settings.All(); }
-    ShownMessage LastBox() const {
-        REQUIRE_FALSE(machine.messages.Shown().empty());
-        return machine.messages.Shown().back();
-    }
-};
-
-}  // namespace
+using namespace utilities_test;
 
 TEST_CASE_FIXTURE(Drives, "the drives are listed with what they are, one command line for all") {
     Make("E:", "C:\\PROGRA~1");
@@ -159,7 +41,8 @@ TEST_CASE_FIXTURE(Drives, "no drives are an empty list whose columns are not fit
     CHECK(machine.journal.Calls("SendMessageA").size() == 7);
 }
 
-TEST_CASE_FIXTURE(Drives, "the short path of a folder is shown in full, umlauts and all") {
+TEST_CASE_FIXTURE(Drives,
+                  "the short path of a folder, told in the ANSI code page, is shown in full") {
     machine.disk.MakeFolder("C:\\Größere Übungen\\Heft Nr 5");
     Print(
         "E:\\: => C:\\GR\xD6\xDF"
@@ -179,6 +62,47 @@ TEST_CASE_FIXTURE(Drives, "a comma cuts a path, and its rest is a row with the p
     CHECK(list.Text(2) == "F:");
     CHECK(list.Text(2, 2) == "C:\\Ein Ort");
     CHECK(list.Key(2) == "3A");
+}
+
+TEST_CASE_FIXTURE(Drives, "rows are counted in 16 bits") {
+    std::string output;
+    for (int line = 0; line < 32770; ++line) output += "E:\\: => C:\\\r\n";
+    Print(output);
+    machine.journal.Record(false);
+    form.Show();
+    CHECK(list.Count() == 32767);
+    CHECK(list.Key(32766) == "32767A");
+}
+
+TEST_CASE_FIXTURE(Drives, "a reading that another one overtakes adds no more rows") {
+    for (const char* drive : {"E:", "F:", "G:"}) Make(drive, "C:\\");
+    form.Show();
+    Browse("C:\\Programme");
+    int rows = 0;
+    SUBCASE("while the command runs") {
+        rows = 0;
+    }
+    SUBCASE("between two rows") {
+        rows = 1;
+    }
+    bool isOvertaken = false;
+    machine.forms.onEvents = [&] {
+        if (isOvertaken || list.Count() != rows) return;
+        isOvertaken = true;
+        Press("cmdcreate");
+        CHECK(list.Count() == 3);
+        // What the overtaken command has to tell comes late.
+        machine.files.Put(Output, "E:\\: => C:\\\r\n");
+    };
+    Select(2);
+    machine.messages.Answer(Question, 6);
+    Press("cmddelete");
+    CHECK(isOvertaken);
+    Lines drives;
+    for (int row = 0; row < list.Count(); ++row) drives.push_back(list.Text(row));
+    CHECK(drives == Lines{"B:", "E:", "F:"});
+    CHECK_FALSE(machine.files.Content(Output));
+    CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
 }
 
 TEST_CASE_FIXTURE(Drives, "output of any kind ends in rows and never in a box") {
@@ -253,13 +177,17 @@ TEST_CASE_FIXTURE(Drives, "a folder is chosen by its short path, and the drive i
 }
 
 TEST_CASE_FIXTURE(Drives, "a failing subst shows no box and keeps the path") {
+    Make("E:", "C:\\");
     form.Show();
     Browse("C:\\Programme");
     exitCode = 1;
+    Started();
     Press("cmdcreate");
     CHECK(machine.messages.Shown().empty());
     CHECK(path.Text() == "C:\\PROGRA~1");
-    CHECK(list.Count() == 0);
+    CHECK(Started().size() == 2);
+    REQUIRE(list.Count() == 1);
+    CHECK(list.Text(0) == "E:");
 }
 
 TEST_CASE_FIXTURE(Drives, "without a folder nothing is made") {
@@ -352,10 +280,14 @@ TEST_CASE_FIXTURE(Drives, "a single character is no folder") {
 }
 
 TEST_CASE_FIXTURE(Drives, "a short path of 164 characters is none") {
-    const std::string below = "C:\\" + std::string(8, 'd');
-    std::string fits = "C:";
-    while (fits.size() + 9 < 164) fits += '\\' + std::string(8, 'd');
-    const std::string longer = fits + "\\12345678";
+    // 155 characters.
+    std::string start = "C:";
+    for (int depth = 0; depth < 17; ++depth) start += '\\' + std::string(8, 'd');
+    const std::string fits = start + "\\1234567";
+    const std::string longer = start + "\\12345678";
+    REQUIRE(fits.size() == 163);
+    REQUIRE(longer.size() == 164);
+    machine.disk.MakeFolder(fits);
     machine.disk.MakeFolder(longer);
     form.Show();
     Browse(fits);
@@ -407,6 +339,22 @@ TEST_CASE_FIXTURE(Drives, "the selected drive is removed after a question, by al
     CHECK(restore.Enabled());
 }
 
+TEST_CASE_FIXTURE(Drives, "the right button enables what acts on the row that it selects") {
+    for (const char* drive : {"E:", "F:"}) Make(drive, "C:\\");
+    form.Show();
+    machine.menus.Pick("Laufwerk entfernen");
+    list.PressRightButton();
+    CHECK_FALSE(Enabled("cmddelete"));
+    CHECK(machine.messages.Shown().empty());
+    list.SetSelected(1, true);
+    machine.menus.Pick("Laufwerk entfernen");
+    machine.messages.Answer(Question, 6);
+    list.PressRightButton();
+    CHECK(Enabled("cmddelete"));
+    REQUIRE(list.Count() == 1);
+    CHECK(list.Text(0) == "E:");
+}
+
 TEST_CASE_FIXTURE(Drives, "removing without a selection is told as the failure that it is") {
     Make("E:", "C:\\");
     form.Show();
@@ -422,13 +370,14 @@ TEST_CASE_FIXTURE(Drives, "a list that has emptied during the question disables 
     form.Show();
     Select(0);
     machine.messages.Answer(Question, 6);
-    machine.messages.WhileOpen(Question, [&] { list.Clear(); });
+    machine.messages.WhileOpen(Question, [&] {
+        list.Clear();
+        made["F:"] = "C:\\";
+    });
     Press("cmddelete");
     CHECK_FALSE(Enabled("cmddelete"));
     CHECK_FALSE(restore.Enabled());
-    Make("E:", "C:\\");
-    form.Unload();
-    form.Show();
+    REQUIRE(list.Count() == 1);
     machine.menus.Pick("Laufwerk entfernen");
     list.PressRightButton();
     CHECK(machine.messages.Shown().size() == 1);
@@ -451,6 +400,12 @@ TEST_CASE_FIXTURE(Drives, "the box stores each drive with its volume's name and 
                                              {"dmVDriveC|Config|Count", "2"},
                                              {"dmVDriveC|Config|Drives1", "E:=>SYSTEM"},
                                              {"dmVDriveC|Config|Drives2", "F:=>SYSTEM"}});
+    Lines stores;
+    for (const std::string& line : machine.journal.Calls("SaveSetting")) {
+        stores.push_back(line.substr(line.find("\"Config\" ") + 9));
+    }
+    CHECK(stores == Lines{"\"Drives1\" \"E:=>SYSTEM\"", "\"Drives2\" \"F:=>SYSTEM\"",
+                          "\"Count\" \"2\"", "\"Restore\" \"1\""});
     CHECK(machine.journal.Calls("RegCreateKeyExA") ==
           Lines{"RegCreateKeyExA 0x02 \""s + RunKey + "\" 0x3F -> 6"});
     CHECK(machine.journal.Calls("RegSetValueExA").size() == 1);
@@ -466,6 +421,19 @@ TEST_CASE_FIXTURE(Drives, "the box stores each drive with its volume's name and 
     CHECK(machine.journal.Calls("RegDeleteValueA").size() == 1);
     CHECK_FALSE(machine.registry.HasKey(platform::Registry::LocalMachine, RunKey));
     CHECK(machine.registry.OpenHandles() == 0);
+}
+
+TEST_CASE_FIXTURE(Drives, "a store that cannot be written passes its failure on") {
+    Make("E:", "C:\\");
+    form.Show();
+    restore.SetValue(1);
+    const auto stored = Store();
+    machine.faults.FailAll("DeleteSetting", runtime::InvalidProcedureCall);
+    CHECK_THROWS_AS(restore.SetValue(0), runtime::Failure);
+    CHECK(Store() == stored);
+    CHECK(machine.registry.OpenHandles() == 0);
+    machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
+    CHECK_THROWS_AS(restore.SetValue(1), runtime::Failure);
 }
 
 TEST_CASE_FIXTURE(Drives, "over an empty list the box stores nothing") {
@@ -506,6 +474,25 @@ TEST_CASE_FIXTURE(Drives, "the stored drives are made again by the routine that 
     machine.settings.Save("dmVDriveC", "Config", "Count", "0");
     form.RestoreDrives();
     CHECK(Started().empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "as many drives are made again as are counted, without half entries") {
+    form.Show();
+    Started();
+    for (int number = 1; number <= 27; ++number) {
+        machine.settings.Save("dmVDriveC", "Config", "Drives" + std::to_string(number),
+                              "E:=>C:\\A");
+    }
+    machine.settings.Save("dmVDriveC", "Config", "Drives2", "F:");
+    machine.settings.Save("dmVDriveC", "Config", "Drives3", "");
+    machine.settings.Save("dmVDriveC", "Config", "Count", "27");
+    form.RestoreDrives();
+    CHECK(Started().size() == 25);
+    machine.journal.Clear();
+    machine.settings.Save("dmVDriveC", "Config", "Count", "1E30");
+    form.RestoreDrives();
+    // The count itself is one of them.
+    CHECK(machine.journal.Calls("GetSetting").size() == 1 + 32767);
 }
 
 TEST_CASE_FIXTURE(Drives, "closing asks only for a path that has not become a drive") {

@@ -119,6 +119,38 @@ TEST_CASE_FIXTURE(ShownButton, "a transparent button shows what its parent shows
     CHECK(At(20, 10) == Red);
 }
 
+TEST_CASE_FIXTURE(ShownButton, "the last of three dots is drawn whole in a button of 26 pixels") {
+    SetWindowPos(window, nullptr, 0, 0, 26, 23, SWP_NOMOVE | SWP_NOZORDER);
+    button.SetCaption("...");
+    const auto isDark = [&](int x) {
+        for (int y = 4; y < 19; ++y) {
+            if (At(x, y) == GetSysColor(COLOR_BTNTEXT)) return true;
+        }
+        return false;
+    };
+    int dots = 0;
+    for (int x = 4; x < 22; ++x) dots += isDark(x) && !isDark(x - 1);
+    CHECK(dots == 3);
+}
+
+TEST_CASE_FIXTURE(ShownButton,
+                  "a paint between DisableRefresh and Refresh leaves the old picture") {
+    const auto shown = [&] {
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        const HDC screen = GetDC(window);
+        const COLORREF colour = GetPixel(screen, 20, 10);
+        ReleaseDC(window, screen);
+        return colour;
+    };
+    button.SetBackColor(Red);
+    CHECK(shown() == Red);
+    button.DisableRefresh();
+    button.SetBackColor(Blue);
+    CHECK(shown() == Red);
+    button.Refresh();
+    CHECK(shown() == Blue);
+}
+
 TEST_CASE_FIXTURE(ShownButton, "1,000 paintings of every look leave nothing behind") {
     button.SetCaption("&Knopf");
     button.SetFont({"Tahoma", 9, true});

@@ -8,7 +8,9 @@ namespace platform::win32 {
 namespace {
 
 constexpr toolkit::Colour SystemColourBit = 0x80000000u;
-constexpr UINT TextFormat = DT_CENTER | DT_WORDBREAK;
+// Not cut to its rectangle: letters may reach beyond their measured width, slanted ones do, and at
+// some sizes a system draws a font's bitmaps but measures its outlines.
+constexpr UINT TextFormat = DT_CENTER | DT_WORDBREAK | DT_NOCLIP;
 constexpr int PointsPerInch = 72;
 
 RECT Native(toolkit::Rect area) {

@@ -104,7 +104,7 @@ LRESULT DrawnWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Paint();
             return 0;
         case WM_PRINTCLIENT:
-            PaintOn(reinterpret_cast<HDC>(wParam));
+            if (control_.IsReady()) PaintOn(reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ERASEBKGND:
             return 1;
@@ -227,7 +227,7 @@ void DrawnWindow::Paint() {
     PAINTSTRUCT facts;
     BeginPaint(Window(), &facts);
     const toolkit::Rect client = Client();
-    if (client.width > 0 && client.height > 0) {
+    if (control_.IsReady() && client.width > 0 && client.height > 0) {
         const Buffer buffer(facts.hdc, client.width, client.height);
         PaintOn(buffer.Get());
         BitBlt(facts.hdc, 0, 0, client.width, client.height, buffer.Get(), 0, 0, SRCCOPY);
