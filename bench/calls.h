@@ -33,8 +33,18 @@ struct Call {
     bool operator==(const Call&) const = default;
 };
 
-// Passes everything on and notes it.
-class Recorder final : public Service {
+// The passes know their keys and values by name and enumerate nothing.
+class WithoutEnumeration : public Service {
+  public:
+    Result EnumerateKey(Key, std::uint32_t, std::string&) override { return NoMoreItems; }
+    Result LongestValueName(Key, std::uint32_t&) override { return NoMoreItems; }
+    Result EnumerateValue(Key, std::uint32_t, std::uint32_t, std::string&) override {
+        return NoMoreItems;
+    }
+};
+
+// Passes everything else on and notes it.
+class Recorder final : public WithoutEnumeration {
   public:
     explicit Recorder(Service& real) : real_(real) {}
 
@@ -46,12 +56,6 @@ class Recorder final : public Service {
                std::uint32_t size) override;
     Result RemoveValue(Key key, std::string_view valueName) override;
     Result RemoveKey(Key parent, std::string_view path) override;
-    // The passes know their keys and values by name.
-    Result EnumerateKey(Key, std::uint32_t, std::string&) override { return NoMoreItems; }
-    Result LongestValueName(Key, std::uint32_t&) override { return NoMoreItems; }
-    Result EnumerateValue(Key, std::uint32_t, std::uint32_t, std::string&) override {
-        return NoMoreItems;
-    }
     Result Close(Key key) override;
 
     // The calls since the last time. Handles opened before cannot be used after.

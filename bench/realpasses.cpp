@@ -9,7 +9,6 @@
 
 #include <shlwapi.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -20,6 +19,7 @@
 #include "platform/win32/locale.h"
 #include "platform/win32/registry.h"
 #include "support/optionsform.h"
+#include "timing.h"
 #include "tweaks/passes.h"
 #include "withservices.h"
 
@@ -50,7 +50,7 @@ std::string FileText(const char* path) {
 
 // The entry points themselves, without a conversion on the way: paths and value names of the
 // catalogue are plain ASCII.
-class BareRegistry final : public platform::Registry {
+class BareRegistry final : public bench::WithoutEnumeration {
   public:
     Result Open(Key parent, std::string_view path, std::uint32_t access, Key& opened) override {
         return RegOpenKeyExA(Native(parent), path.data(), 0, access,
@@ -81,12 +81,6 @@ class BareRegistry final : public platform::Registry {
     }
     Result RemoveKey(Key parent, std::string_view path) override {
         return RegDeleteKeyA(Native(parent), path.data());
-    }
-    // The passes know their keys and values by name.
-    Result EnumerateKey(Key, std::uint32_t, std::string&) override { return NoMoreItems; }
-    Result LongestValueName(Key, std::uint32_t&) override { return NoMoreItems; }
-    Result EnumerateValue(Key, std::uint32_t, std::uint32_t, std::string&) override {
-        return NoMoreItems;
     }
     Result Close(Key key) override { return RegCloseKey(Native(key)); }
 
@@ -173,24 +167,6 @@ Calls RecordedPasses(platform::Registry& registry) {
     return recorder.Take();
 }
 
-template <typename Work>
-double Microseconds(Work&& work) {
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER start;
-    LARGE_INTEGER end;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
-    work();
-    QueryPerformanceCounter(&end);
-    return 1e6 * static_cast<double>(end.QuadPart - start.QuadPart) /
-           static_cast<double>(frequency.QuadPart);
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -214,19 +190,19 @@ int main(int count, char** arguments) {
     std::vector<double> bareTimes;
     for (int i = 0; i < pairs; ++i) {
         Options options(real);
-        ourTimes.push_back(Microseconds([&] { options.passes.Read(); }) +
-                           Microseconds([&] { options.passes.Write(); }));
-        bareTimes.push_back(Microseconds([&] { bench::Repeat(calls, bare); }));
+        ourTimes.push_back(bench::Milliseconds([&] { options.passes.Read(); }) +
+                           bench::Milliseconds([&] { options.passes.Write(); }));
+        bareTimes.push_back(bench::Milliseconds([&] { bench::Repeat(calls, bare); }));
     }
 
     bench::Recorder watched(bare);
     bench::Repeat(calls, watched);
     const bool same = watched.Take() == calls && RecordedPasses(real) == calls;
-    const double ratio = Median(ourTimes) / Median(bareTimes);
+    const double ratio = bench::Median(ourTimes) / bench::Median(bareTimes);
     std::printf(
-        "both passes   real registry ours %.0f us bare %.0f us (%u calls, %s) ratio %.2f limit "
+        "both passes   real registry ours %.1f ms bare %.1f ms (%u calls, %s) ratio %.2f limit "
         "%.2f %s\n",
-        Median(ourTimes), Median(bareTimes), static_cast<unsigned>(calls.size()),
+        bench::Median(ourTimes), bench::Median(bareTimes), static_cast<unsigned>(calls.size()),
         same ? "the same" : "DIFFERENT", ratio, Limit, ratio <= Limit ? "ok" : "TOO SLOW");
     return same && ratio <= Limit ? 0 : 1;
 }

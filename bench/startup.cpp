@@ -6,11 +6,12 @@
 
 #include <psapi.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
+
+#include "timing.h"
 
 namespace {
 
@@ -102,11 +103,6 @@ Run Measure(std::string commandLine) {
     return run;
 }
 
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -125,9 +121,9 @@ int main(int count, char** arguments) {
         ourTimes.push_back(Measure(ours).milliseconds);
         bareTimes.push_back(Measure(bare).milliseconds);
     }
-    const double ratio = Median(ourTimes) / Median(bareTimes);
+    const double ratio = bench::Median(ourTimes) / bench::Median(bareTimes);
     std::printf("start to idle ours %.0f ms bare %.0f ms (%d windows) ratio %.2f limit %.2f %s\n",
-                Median(ourTimes), Median(bareTimes), first.windows, ratio, StartLimit,
+                bench::Median(ourTimes), bench::Median(bareTimes), first.windows, ratio, StartLimit,
                 ratio <= StartLimit ? "ok" : "TOO SLOW");
     const double megabytes = static_cast<double>(first.privateBytes) / (1024 * 1024);
     std::printf("private memory ours %.2f MB limit %.2f MB ratio %.2f %s\n", megabytes,

@@ -5,7 +5,6 @@
 
 #include <shlwapi.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
@@ -22,6 +21,7 @@
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
 #include "platform/win32/windows/windowhost.h"
+#include "timing.h"
 #include "toolkit/form.h"
 #include "withservices.h"
 
@@ -158,24 +158,6 @@ struct BareScreen {
     int files = 0;
 };
 
-template <typename Work>
-double Milliseconds(Work&& work) {
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER start;
-    LARGE_INTEGER end;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
-    work();
-    QueryPerformanceCounter(&end);
-    return 1e3 * static_cast<double>(end.QuadPart - start.QuadPart) /
-           static_cast<double>(frequency.QuadPart);
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 // One line of the report; whether the limit holds. Each of the two is told how many files it saw.
 bool Compare(const char* name, int pairs, int files, const std::function<int()>& ours,
              const std::function<int()>& bare) {
@@ -183,7 +165,7 @@ bool Compare(const char* name, int pairs, int files, const std::function<int()>&
     std::vector<double> bareTimes;
     const auto measure = [&](std::vector<double>& times, const std::function<int()>& walk) {
         int seen = 0;
-        times.push_back(Milliseconds([&] { seen = walk(); }));
+        times.push_back(bench::Milliseconds([&] { seen = walk(); }));
         if (seen != files) Fail("a walk has not seen all files");
     };
     // The first of each warms up what both need.
@@ -193,8 +175,8 @@ bool Compare(const char* name, int pairs, int files, const std::function<int()>&
     }
     ourTimes.erase(ourTimes.begin());
     bareTimes.erase(bareTimes.begin());
-    const double our = Median(ourTimes);
-    const double plain = Median(bareTimes);
+    const double our = bench::Median(ourTimes);
+    const double plain = bench::Median(bareTimes);
     const double ratio = our / plain;
     std::printf("%s ours %.1f ms bare %.1f ms ratio %.2f limit %.2f %s\n", name, our, plain, ratio,
                 Limit, ratio <= Limit ? "ok" : "TOO SLOW");

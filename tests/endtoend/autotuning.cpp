@@ -64,13 +64,13 @@ Behaviour Behind(const std::string& preset, ControlStates states) {
 bool IsChecked(const Program& program, const std::string& control) {
     const HWND window = program.Find(control);
     if (!window) throw Failed("there is no " + control);
-    return SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    return Send(window, BM_GETCHECK) == BST_CHECKED;
 }
 
 // A name that is no such control ends the test.
 std::string ShownBeside(const Program& program, const std::string& control) {
     if (control == "Level") {
-        return std::to_string(SendMessageW(program.Find(control), TBM_GETPOS, 0, 0));
+        return std::to_string(Send(program.Find(control), TBM_GETPOS));
     }
     if (control.starts_with("chk")) return IsChecked(program, control) ? "1" : "0";
     if (control.starts_with("opt"))
