@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/propertystore.h"
+#include "runtime/temporarily.h"
 
 namespace controls {
 
@@ -18,18 +19,6 @@ constexpr int LeftKey = 37;
 constexpr int UpKey = 38;
 constexpr int RightKey = 39;
 constexpr int DownKey = 40;
-
-// A flag that is up as long as this lives, also when what happens meanwhile fails.
-class Raised {
-  public:
-    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-  private:
-    bool& flag_;
-};
 
 template <typename Handler, typename... Facts>
 void Raise(const Handler& handler, const Facts&... facts) {
@@ -53,7 +42,7 @@ chameleonButton::~chameleonButton() {
 void chameleonButton::ReadProperties(const PropertyStore& store) {
     {
         // What is read is nobody's change.
-        const Raised reading(reading_);
+        const runtime::Temporarily reading(reading_, true);
         properties_ = ReadButtonProperties(store);
         SetEnabled(properties_.enabled);
         SetCaption(properties_.caption);

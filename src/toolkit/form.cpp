@@ -1,6 +1,7 @@
 #include "toolkit/form.h"
 
 #include "runtime/mistake.h"
+#include "runtime/temporarily.h"
 #include "runtime/text.h"
 #include "toolkit/drawncontrol.h"
 
@@ -116,11 +117,7 @@ void Form::Hide() {
 
 void Form::Unload() {
     if (!loaded_ || unloading_) return;
-    struct Mark {
-        bool& unloading;
-        explicit Mark(bool& flag) : unloading(flag) { unloading = true; }
-        ~Mark() { unloading = false; }
-    } mark(unloading_);
+    const runtime::Temporarily unloading(unloading_, true);
     OnQueryUnload();
     OnUnload();
     Hide();

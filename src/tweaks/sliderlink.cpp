@@ -5,6 +5,7 @@
 
 #include "platform/locale.h"
 #include "runtime/number.h"
+#include "runtime/temporarily.h"
 #include "toolkit/controls.h"
 
 namespace tweaks {
@@ -13,19 +14,6 @@ namespace {
 bool IsBeyond(const toolkit::SliderRange& range, std::int32_t number) {
     return number < range.minimum || number > range.maximum;
 }
-
-// Gives a flag a value for as long as it lives.
-class Temporarily {
-  public:
-    Temporarily(bool& flag, bool value) : flag_(flag), before_(std::exchange(flag, value)) {}
-    ~Temporarily() { flag_ = before_; }
-    Temporarily(const Temporarily&) = delete;
-    Temporarily& operator=(const Temporarily&) = delete;
-
-  private:
-    bool& flag_;
-    bool before_;
-};
 
 }  // namespace
 
@@ -41,7 +29,7 @@ void LinkSliderWithBox(toolkit::Slider& slider, toolkit::TextBox& box,
         const runtime::NumberSigns signs = locale.Signs();
         if (!runtime::IsNumeric(box.Text(), signs)) return;
         const std::int32_t number = runtime::ToWholeNumber(box.Text(), signs);
-        const Temporarily kept(*keepsText, IsBeyond(slider.Range(), number));
+        const runtime::Temporarily kept(*keepsText, IsBeyond(slider.Range(), number));
         slider.SetValue(number);
     };
 }

@@ -10,6 +10,7 @@
 #include "registry/cregistry.h"
 #include "runtime/failure.h"
 #include "runtime/number.h"
+#include "runtime/temporarily.h"
 #include "toolkit/controls.h"
 #include "toolkit/listhelpers.h"
 #include "toolkit/listview.h"
@@ -250,8 +251,7 @@ std::vector<std::string> frmInstalledSoftware::SelectedTexts(int column) const {
 }
 
 bool frmInstalledSoftware::IsYes(const std::string& question, const std::string& title) {
-    const AtEnd end{[this] { asking_ = false; }};
-    asking_ = true;
+    const runtime::Temporarily asking(asking_, true);
     return machine_.messages.Show(question, Question, title) == platform::message::Yes;
 }
 
