@@ -9,7 +9,7 @@ namespace tweaks {
 inline constexpr const char* Leave = nullptr;
 
 // In place of a value: 1 on a machine that passes the memory test, else 0.
-inline constexpr char ByMemory[] = "by memory";
+inline constexpr const char* ByMemory = "by memory";
 
 // A control, and what the buttons "Standard" and "Empfohlen" make of it: "0" or "1" of a check box,
 // "1" of an option button to be selected, decimal text of a slider, and the text of all others.
