@@ -16,12 +16,12 @@
 
 #include "calls.h"
 #include "platform/simulated/machine.h"
+#include "platform/simulated/withservices.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/registry.h"
 #include "support/optionsform.h"
 #include "timing.h"
 #include "tweaks/passes.h"
-#include "withservices.h"
 
 namespace {
 
@@ -144,7 +144,8 @@ void Fill(const platform::simulated::Registry& from, platform::Registry& registr
 // A form with its passes on the given registry. Each is used once, as the program does.
 struct Options {
     explicit Options(platform::Registry& registry)
-        : services(bench::With(simulated.services, {.registry = &registry, .locale = &locale})),
+        : services(platform::simulated::With(simulated.services,
+                                             {.registry = &registry, .locale = &locale})),
           form(services),
           passes(form, services) {
         simulated.journal.Record(false);

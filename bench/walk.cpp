@@ -17,13 +17,13 @@
 #include "cleanup/knownlinks.h"
 #include "cleanup/tempfilesframe.h"
 #include "platform/simulated/machine.h"
+#include "platform/simulated/withservices.h"
 #include "platform/win32/folders.h"
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
 #include "platform/win32/windows/windowhost.h"
 #include "timing.h"
 #include "toolkit/form.h"
-#include "withservices.h"
 
 namespace {
 
@@ -195,8 +195,11 @@ struct Walk {
         cleanup::KnownLinks links;
         cleanup::FolderWalk walk(frame, machine, links);
         walk.Begin();
+        // As a search does: its rows are painted at the end.
+        frame.lvwFiles.LockWindow();
         walk.ScanFolder(cleanup::GetFolder(machine.folders, platform::win32::FromWide(root)),
                         false);
+        frame.lvwFiles.UnlockWindow();
         if (frame.lvwFiles.Count() * FilesForAHit != walk.ScannedFiles()) Fail("rows are missing");
         return walk.ScannedFiles();
     }
@@ -211,7 +214,8 @@ bool WithoutScreen(int pairs) {
     platform::simulated::Machine simulated;
     simulated.journal.Record(false);
     platform::win32::Folders folders;
-    platform::Machine machine = bench::With(simulated.services, {.folders = &folders});
+    platform::Machine machine =
+        platform::simulated::With(simulated.services, {.folders = &folders});
     Walk walk(machine);
     return Compare(
         "clean-up walk without screen", pairs, tree.Files(),
@@ -227,9 +231,9 @@ bool WithScreen(int pairs) {
     platform::simulated::Machine simulated;
     simulated.journal.Record(false);
     // A row's own texts are not the screen's work.
-    platform::Machine machine =
-        bench::With(windows.services,
-                    {.shell = &simulated.services.shell, .locale = &simulated.services.locale});
+    platform::Machine machine = platform::simulated::With(
+        windows.services,
+        {.shell = &simulated.services.shell, .locale = &simulated.services.locale});
     Walk walk(machine);
     walk.form.SetLayout(walk.frame.Layout());
     walk.form.Load();

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "../../bench/withservices.h"
 #include "contract/machine.h"
+#include "platform/simulated/withservices.h"
 #include "platform/systemfacts.h"
 #include "registry/restless.h"
 #include "runtime/failure.h"
@@ -296,7 +296,8 @@ TEST_CASE_FIXTURE(Fixture, "a value's name needs room for its NUL") {
 TEST_CASE_FIXTURE(Fixture, "a sub-key deleted during the enumeration takes another one's turn") {
     for (const char* name : {"\\a", "\\b", "\\c", "\\d"}) MakeClosed(Key + name);
     registry_tests::Restless restless(service);
-    const platform::Machine disturbed = bench::With(machine.Services(), {.registry = &restless});
+    const platform::Machine disturbed =
+        platform::simulated::With(machine.Services(), {.registry = &restless});
     registry::cRegistry watched(disturbed);
     Point(watched);
     // The third call finds b.
@@ -311,7 +312,8 @@ TEST_CASE_FIXTURE(Fixture, "a sub-key deleted during the enumeration takes anoth
 TEST_CASE_FIXTURE(Fixture, "the key itself deleted during the enumeration ends it") {
     for (const char* name : {"\\Inner\\a", "\\Inner\\b"}) MakeClosed(Key + name);
     registry_tests::Restless restless(service);
-    const platform::Machine disturbed = bench::With(machine.Services(), {.registry = &restless});
+    const platform::Machine disturbed =
+        platform::simulated::With(machine.Services(), {.registry = &restless});
     registry::cRegistry watched(disturbed);
     Point(watched);
     watched.SectionKey = Key + "\\Inner";

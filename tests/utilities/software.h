@@ -2,9 +2,9 @@
 
 #include <doctest/doctest.h>
 
-#include "../../bench/withservices.h"
 #include "controls/chameleonbutton.h"
 #include "platform/simulated/machine.h"
+#include "platform/simulated/withservices.h"
 #include "registry/restless.h"
 #include "toolkit/controls.h"
 #include "toolkit/listview.h"
@@ -29,7 +29,8 @@ inline constexpr int KeyF5 = 116;
 struct Software {
     platform::simulated::Machine machine;
     registry_tests::Restless restless{machine.registry};
-    utilities::frmInstalledSoftware form{bench::With(machine.services, {.registry = &restless})};
+    utilities::frmInstalledSoftware form{
+        platform::simulated::With(machine.services, {.registry = &restless})};
     ListView& list = form.Find<ListView>("lvwSoftware");
     std::vector<Run>& runs = machine.processes.runs;
 

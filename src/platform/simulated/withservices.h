@@ -2,10 +2,11 @@
 
 #include "platform/machine.h"
 
-namespace bench {
+namespace platform::simulated {
 
 // What stands in for a machine's own; nullptr leaves it.
 struct Services {
+    toolkit::FormHost* forms = nullptr;
     platform::Registry* registry = nullptr;
     platform::Folders* folders = nullptr;
     platform::Shell* shell = nullptr;
@@ -19,7 +20,7 @@ Service& Or(Service* other, Service& own) {
 
 inline platform::Machine With(const platform::Machine& machine, const Services& other) {
     return {
-        .forms = machine.forms,
+        .forms = Or(other.forms, machine.forms),
         .registry = Or(other.registry, machine.registry),
         .settings = machine.settings,
         .files = machine.files,
@@ -53,4 +54,4 @@ inline platform::Machine With(const platform::Machine& machine, const Services& 
     };
 }
 
-}  // namespace bench
+}  // namespace platform::simulated
