@@ -14,6 +14,7 @@ namespace {
 
 struct RealButton {
     Desk desk;
+    RealMouse mouse;
     platform::win32::Clock clock{desk.messages};
     TestForm form{desk.host, "frmButton"};
     controls::chameleonButton& button =
