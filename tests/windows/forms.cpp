@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "platform/win32/display.h"
 #include "windows/desk.h"
 
 using namespace windows;
@@ -158,6 +159,31 @@ TEST_CASE("the form gets each key first") {
     PostMessageW(desk.Find(desk.form, "txt"), WM_KEYDOWN, VK_F4, 0);
     desk.host.Run();
     CHECK_FALSE(desk.form.Loaded());
+}
+
+TEST_CASE("a path is shortened for the width of the form's own texts") {
+    Desk desk;
+    TestForm form(desk.host, "frm");
+    form.Add<toolkit::Label>("lbl", "Text");
+    form.SetLayout(Leaf(*form.FindControl("lbl")));
+    form.Show();
+    const LRESULT font = SendMessageW(desk.Find(form, "lbl"), WM_GETFONT, 0, 0);
+    CHECK(font != 0);
+    CHECK(SendMessageW(desk.host.WindowOf(form), WM_GETFONT, 0, 0) == font);
+    const std::string path = "C:\\Dokumente und Einstellungen\\Besitzer\\Eigene Dateien\\Brief.doc";
+    // What stands behind the NUL is what is left of the whole path.
+    const std::string shortened =
+        platform::win32::Display(desk.host).CompactPath(form, path, 300).c_str();
+    CAPTURE(shortened);
+    CHECK(shortened.ends_with("...\\Brief.doc"));
+    const HDC context = GetDC(nullptr);
+    SelectObject(context, reinterpret_cast<HGDIOBJ>(font));
+    SIZE size{};
+    GetTextExtentPoint32A(context, shortened.c_str(), static_cast<int>(shortened.size()), &size);
+    ReleaseDC(nullptr, context);
+    // As much of the path as there is room for, and no more.
+    CHECK(size.cx <= 300);
+    CHECK(size.cx > 270);
 }
 
 TEST_CASE("the hourglass covers the whole form until it is taken away") {

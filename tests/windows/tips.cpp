@@ -4,6 +4,8 @@
 #include <commctrl.h>
 #include <doctest/doctest.h>
 
+#include "controls/chameleonbutton.h"
+#include "platform/win32/clock.h"
 #include "windows/desk.h"
 
 using namespace windows;
@@ -21,15 +23,17 @@ BOOL CALLBACK Look(HWND window, LPARAM lParam) {
     wchar_t name[64] = L"";
     GetClassNameW(window, name, 64);
     if (std::wstring(name) != TOOLTIPS_CLASSW) return TRUE;
-    wchar_t text[1024] = L"";
+    ++search->windows;
     TTTOOLINFOW tool = {};
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.hwnd = search->control;
-    tool.uId = reinterpret_cast<UINT_PTR>(search->control);
-    tool.lpszText = text;
-    SendMessageW(window, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
-    ++search->windows;
-    search->text += platform::win32::FromWide(text);
+    SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (reinterpret_cast<HWND>(tool.uId) != search->control) return TRUE;
+    // What the tooltip window asks when it is about to show.
+    NMTTDISPINFOW question{};
+    question.hdr = {window, tool.uId, TTN_GETDISPINFOW};
+    question.lpszText = question.szText;
+    SendMessageW(tool.hwnd, WM_NOTIFY, tool.uId, reinterpret_cast<LPARAM>(&question));
+    search->text += platform::win32::FromWide(question.lpszText);
     return TRUE;
 }
 
@@ -46,13 +50,22 @@ struct Fixture {
     TestForm form{desk.host, "frmMain"};
     toolkit::CheckBox& box = form.Add<toolkit::CheckBox>("chk", "Kasten");
     toolkit::TextBox& text = form.Add<toolkit::TextBox>("txt");
+    platform::win32::Clock clock{desk.messages};
+    controls::chameleonButton& button =
+        form.Add<controls::chameleonButton>("cmd", controls::Persisted{"TX=Knopf"}, clock);
     toolkit::Label& path = form.Add<toolkit::Label>("lbl", "C:\\a", toolkit::LabelStyle::Path);
 
     void Show() {
-        form.SetLayout(toolkit::Column({Leaf(box), Leaf(text), Leaf(path)}));
+        form.SetLayout(toolkit::Column({Leaf(box), Leaf(text), Leaf(button), Leaf(path)}));
         form.Show();
     }
-    std::string TipOf(const char* name) const { return Tips(desk.Find(form, name)).text; }
+    // What the mouse is told when it comes there.
+    std::string TipOf(const char* name) const {
+        const HWND window = desk.Find(form, name);
+        SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return Tips(window).text;
+    }
 };
 
 }  // namespace
@@ -60,6 +73,23 @@ struct Fixture {
 TEST_CASE_FIXTURE(Fixture, "a control without a tip makes no tooltip window") {
     Show();
     CHECK(Tips().windows == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a tip makes no tooltip window before the mouse comes") {
+    box.SetToolTip("Größe");
+    Show();
+    path.SetToolTip("C:\\eins");
+    CHECK(Tips().windows == 0);
+    CHECK(TipOf("chk") == "Größe");
+    CHECK(Tips().windows == 1);
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a drawn button offers its tip, also where it shows a pointer of its own") {
+    Show();
+    button.SetHandPointer(true);
+    button.SetToolTip("Knopf");
+    CHECK(TipOf("cmd") == "Knopf");
 }
 
 TEST_CASE_FIXTURE(Fixture, "a tip set before the form is loaded is there with its window") {
@@ -92,6 +122,8 @@ TEST_CASE_FIXTURE(Fixture, "tips go with their form, also of controls that watch
     text.SetToolTip("Text");
     box.SetToolTip("Kasten");
     Show();
+    CHECK(TipOf("txt") == "Text");
+    CHECK(TipOf("chk") == "Kasten");
     REQUIRE(Tips().windows == 2);
     SendMessageW(desk.Find(form, "txt"), WM_CHAR, 'a', 0);
     CHECK(text.Text() == "a");

@@ -24,7 +24,6 @@ void ControlWindow::Create(HWND parent, int id, const toolkit::Rect& area) {
     control_.SetView(this);
     Prepare();
     ShowValue();
-    tip_.Show(window_, control_.ToolTip());
 }
 
 void ControlWindow::Detach() {
@@ -73,9 +72,13 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
             Repaint();
             break;
         case toolkit::Aspect::ToolTip:
-            tip_.Show(window_, control_.ToolTip());
+            if (control_.ToolTip().empty()) tip_.Leave();
             break;
     }
+}
+
+void ControlWindow::PointerCame() {
+    if (!control_.ToolTip().empty()) tip_.Offer(window_);
 }
 
 bool ControlWindow::HasFocus() const {

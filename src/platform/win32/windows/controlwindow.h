@@ -28,6 +28,10 @@ class ControlWindow : public toolkit::ControlView,
     virtual void Detach();
     // Comes before Detach.
     void DetachTip() { tip_.Leave(); }
+    // The mouse is over the control, which may have a tip to offer.
+    void PointerCame();
+    // That tip is to be seen, and asks for its text.
+    void AnswerTip(NMTTDISPINFOW& question) { tip_.Answer(question, control_.ToolTip()); }
 
     // nullptr before Create and after Detach.
     HWND Window() const { return window_; }

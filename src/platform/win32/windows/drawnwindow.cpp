@@ -98,6 +98,7 @@ LRESULT DrawnWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Guard([&] { control_.SettingsChanged(); });
             return 0;
         case WM_SETCURSOR:
+            PointerCame();
             if (SetPointer()) return TRUE;
             return DefWindowProcW(window, message, wParam, lParam);
         case WM_PAINT:

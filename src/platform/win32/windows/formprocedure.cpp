@@ -40,7 +40,11 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Command(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
             return 0;
         case WM_NOTIFY: {
-            const auto* notice = reinterpret_cast<const NMHDR*>(lParam);
+            auto* notice = reinterpret_cast<NMHDR*>(lParam);
+            if (notice->code == TTN_GETDISPINFOW) {
+                AnswerTip(*reinterpret_cast<NMTTDISPINFOW*>(notice));
+                return 0;
+            }
             const auto control = controls_.Find(notice->hwndFrom);
             return control ? control->Noticed(*notice) : 0;
         }
@@ -79,7 +83,14 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETFOCUS:
             FocusSomething();
             return 0;
+        // Of the whole form, so that what is to be drawn or measured without a control is as its
+        // texts are.
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(surroundings_.screen.Plain());
         case WM_SETCURSOR:
+            if (const auto control = controls_.Find(reinterpret_cast<HWND>(wParam))) {
+                control->PointerCame();
+            }
             if (form_.Pointer() != toolkit::Hourglass || LOWORD(lParam) != HTCLIENT) break;
             SetCursor(LoadCursorW(nullptr, IDC_WAIT));
             return TRUE;
@@ -116,6 +127,12 @@ void FormWindow::Command(int id, UINT code, HWND control) {
     } else if (id == IDCANCEL) {
         Press(form_.cancelButton);
     }
+}
+
+// The control's window stands in place of its number.
+void FormWindow::AnswerTip(NMTTDISPINFOW& question) const {
+    const auto control = controls_.Find(reinterpret_cast<HWND>(question.hdr.idFrom));
+    if (control) control->AnswerTip(question);
 }
 
 void FormWindow::PressDefault() {

@@ -46,6 +46,7 @@ class FormWindow final : public toolkit::FormView, public std::enable_shared_fro
 
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
     void Command(int id, UINT code, HWND control);
+    void AnswerTip(NMTTDISPINFOW& question) const;
     void PressDefault();
     void Press(toolkit::DrawnControl* button);
     void ReportPlace();
