@@ -54,9 +54,13 @@ void FolderWalk::ScanFolder(const Folder& folder, bool addAll) {
         if (!entry.IsFolder()) continue;
         ScanFolder({PathIn(folder.path, entry.name), entry.attributes, entry.modified}, addAll);
     }
+    // One text for the paths of all files, so that each needs only its name put in.
+    std::string path = PathIn(folder.path, "");
+    const std::size_t start = path.size();
     for (const FolderEntry& entry : entries) {
         if (entry.IsFolder()) continue;
-        ScanFile(PathIn(folder.path, entry.name), entry, addAll);
+        path.replace(start, std::string::npos, entry.name);
+        ScanFile(path, entry, addAll);
         if (StopWanted()) return;
     }
 }
@@ -64,12 +68,10 @@ void FolderWalk::ScanFolder(const Folder& folder, bool addAll) {
 void FolderWalk::ScanFile(const std::string& path, const FolderEntry& file, bool addAll) {
     frame_.lblScannedFiles.SetToolTip(path);
     if (scannedFiles_ < std::numeric_limits<std::int32_t>::max()) ++scannedFiles_;
-    std::string counts;
-    // Made anew for each file, so in one piece.
-    counts.reserve(80);
-    counts.append("Gescannte Dateien: ").append(std::to_string(scannedFiles_));
-    counts.append(" - davon Tempdateien: ").append(std::to_string(frame_.lvwFiles.Count()));
-    frame_.lblHinweisTemp.SetCaption(std::move(counts));
+    counts_ = "Gescannte Dateien: ";
+    counts_.append(std::to_string(scannedFiles_)).append(" - davon Tempdateien: ");
+    counts_.append(std::to_string(frame_.lvwFiles.Count()));
+    frame_.lblHinweisTemp.SetCaption(counts_);
     frame_.ShowProgress(TrimAtNul(machine_.display.CompactPath(frame_.form, path, TextWidth)));
     const auto add = [&] {
         runtime::Skip([&] {

@@ -55,6 +55,8 @@ class FolderWalk {
     KnownLinks& links_;
     std::optional<FolderRules> rules_;
     std::int32_t scannedFiles_ = 0;
+    // Of the last file; told anew for each, in the same room.
+    std::string counts_;
     bool stopped_ = false;
 };
 

@@ -60,8 +60,8 @@ void TempFilesFrame::TickAll(bool ticked) {
     for (int row = 0; row < lvwFiles.Count(); ++row) lvwFiles.SetTicked(row, ticked);
 }
 
-void TempFilesFrame::ShowProgress(std::string text) {
-    lblScannedFiles.SetCaption(std::move(text));
+void TempFilesFrame::ShowProgress(std::string_view text) {
+    lblScannedFiles.SetCaption(text);
     if (lblScannedFiles.View()) lblScannedFiles.View()->PaintNow();
 }
 

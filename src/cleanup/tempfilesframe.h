@@ -36,7 +36,7 @@ class TempFilesFrame {
     void InitFilesView();
     void TickAll(bool ticked);
     // Shows what is being done, at once.
-    void ShowProgress(std::string text);
+    void ShowProgress(std::string_view text);
     // The drive as messages name it.
     const std::string& Drive() const { return drvSelect.Drive(); }
 

@@ -11,9 +11,10 @@ Control::Control(Form& form, ControlKind kind, std::string name, std::string cap
 
 Control::~Control() = default;
 
-void Control::SetCaption(std::string caption) {
+// Texts that change with each file of a search keep the room that they have.
+void Control::SetCaption(std::string_view caption) {
     if (caption == caption_) return;
-    caption_ = std::move(caption);
+    caption_ = caption;
     Changed(Aspect::Caption);
 }
 
@@ -29,9 +30,9 @@ void Control::SetVisible(bool visible) {
     Changed(Aspect::Visible);
 }
 
-void Control::SetToolTip(std::string text) {
+void Control::SetToolTip(std::string_view text) {
     if (text == toolTip_) return;
-    toolTip_ = std::move(text);
+    toolTip_ = text;
     Changed(Aspect::ToolTip);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "toolkit/view.h"
 
@@ -45,7 +46,7 @@ class Control {
     // As written in the source: in the captions of buttons, check boxes, frames and labels a
     // doubled ampersand stands for one, a single one marks the access key.
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string caption);
+    void SetCaption(std::string_view caption);
 
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
@@ -57,7 +58,7 @@ class Control {
     // One line that is shown to a mouse that rests on the control; none while it is "". Of the
     // labels only those of the style Path show it.
     const std::string& ToolTip() const { return toolTip_; }
-    void SetToolTip(std::string text);
+    void SetToolTip(std::string_view text);
 
     // Whether the keyboard reaches the control with the tabulator.
     bool IsTabStop() const { return tabStop_; }

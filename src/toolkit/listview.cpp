@@ -21,7 +21,15 @@ ListView::ListView(Form& form, std::string name, ListViewStyle style)
     : Control(form, ControlKind::ListView, std::move(name), "", true), style_(style) {}
 
 ListView::~ListView() {
-    for (const Row* row : rows_) delete row;
+    DeleteRows();
+}
+
+void ListView::DeleteRows() {
+    rows_.ForEach([](const Row* row) {
+        delete row;
+        return true;
+    });
+    rows_.Clear();
 }
 
 void ListView::AddColumn(std::string header) {
@@ -47,23 +55,36 @@ int ListView::AddRow(std::string text, std::string key) {
     row->texts.reserve(std::max<std::size_t>(columns_.size(), 1));
     row->texts.push_back(std::move(text));
     row->key = std::move(key);
-    auto place = rows_.end();
+    std::size_t place = rows_.Size();
     if (sorted_) {
         row->sortText = SortTextOf(*row);
-        const bool descending = sortOrder_ == Descending;
-        place = std::partition_point(rows_.begin(), rows_.end(), [&](const Row* other) {
-            return descending ? other->sortText >= row->sortText : other->sortText <= row->sortText;
-        });
+        place = PlaceOf(row->sortText);
     }
-    const bool isLast = place == rows_.end();
-    place = rows_.insert(place, row.get());
+    const bool isLast = place == rows_.Size();
+    rows_.Insert(place, row.get());
     row.release();
     if (isLast) {
         Changed(Aspect::Items);
     } else {
         RowsMoved();
     }
-    return static_cast<int>(place - rows_.begin());
+    return static_cast<int>(place);
+}
+
+std::size_t ListView::PlaceOf(const std::string& sortText) const {
+    const bool descending = sortOrder_ == Descending;
+    std::size_t first = 0;
+    std::size_t last = rows_.Size();
+    while (first < last) {
+        const std::size_t middle = first + (last - first) / 2;
+        const std::string& other = rows_[middle]->sortText;
+        if (descending ? other >= sortText : other <= sortText) {
+            first = middle + 1;
+        } else {
+            last = middle;
+        }
+    }
+    return first;
 }
 
 void ListView::RemoveRow(int row) {
@@ -71,7 +92,7 @@ void ListView::RemoveRow(int row) {
     const bool isLast = row == Count() - 1;
     Mark(gone, false);
     if (focused_ == &gone) focused_ = nullptr;
-    rows_.erase(rows_.begin() + row);
+    rows_.Erase(static_cast<std::size_t>(row));
     delete &gone;
     if (isLast) {
         Changed(Aspect::Items);
@@ -81,9 +102,8 @@ void ListView::RemoveRow(int row) {
 }
 
 void ListView::Clear() {
-    if (rows_.empty()) return;
-    for (const Row* row : rows_) delete row;
-    rows_.clear();
+    if (Count() == 0) return;
+    DeleteRows();
     focused_ = nullptr;
     selectedCount_ = 0;
     Changed(Aspect::Items);
@@ -136,10 +156,13 @@ void ListView::SetSelected(int row, bool selected) {
 int ListView::SelectedRow() const {
     if (selectedCount_ == 0) return NoRow;
     const bool atFocus = focused_ && focused_->selected;
-    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row* row) {
-        return atFocus ? row == focused_ : row->selected;
+    int found = 0;
+    rows_.ForEach([&](const Row* row) {
+        if (atFocus ? row == focused_ : row->selected) return false;
+        ++found;
+        return true;
     });
-    return static_cast<int>(found - rows_.begin());
+    return found;
 }
 
 void ListView::Mark(Row& row, bool selected) {
@@ -175,15 +198,18 @@ std::string ListView::SortTextOf(const Row& row) const {
 }
 
 void ListView::Sort() {
-    for (Row* row : rows_) row->sortText = SortTextOf(*row);
-    // Bare pointers sort with a fraction of the code that a deque's iterators take.
-    const auto sorted = std::make_unique<Row*[]>(rows_.size());
-    Row** const end = std::copy(rows_.begin(), rows_.end(), sorted.get());
+    std::vector<Row*> sorted;
+    sorted.reserve(rows_.Size());
+    rows_.ForEach([&](Row* row) {
+        row->sortText = SortTextOf(*row);
+        sorted.push_back(row);
+        return true;
+    });
     const bool descending = sortOrder_ == Descending;
-    std::stable_sort(sorted.get(), end, [&](const Row* left, const Row* right) {
+    std::stable_sort(sorted.begin(), sorted.end(), [&](const Row* left, const Row* right) {
         return descending ? right->sortText < left->sortText : left->sortText < right->sortText;
     });
-    std::copy(sorted.get(), end, rows_.begin());
+    rows_.Replace(sorted.data());
     disordered_ = false;
     RowsMoved();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "toolkit/blocksequence.h"
 #include "toolkit/controls.h"
 
 namespace toolkit {
@@ -46,7 +46,7 @@ class ListView : public Control {
     // Behind the others, with the width of a fresh column.
     void AddColumn(std::string header);
 
-    int Count() const { return static_cast<int>(rows_.size()); }
+    int Count() const { return static_cast<int>(rows_.Size()); }
     bool Has(int row) const { return row >= 0 && row < Count(); }
     // Behind the others, or in its sorted place; unticked. Returns the row's number. Nobody may
     // rely on it being the last one of a sorted list.
@@ -116,6 +116,9 @@ class ListView : public Control {
   private:
     struct Row;
     Row& At(int row) const;
+    // Where a row with that text belongs in a sorted list: behind its equals.
+    std::size_t PlaceOf(const std::string& sortText) const;
+    void DeleteRows();
     std::size_t ColumnAt(int column) const;
     std::string SortTextOf(const Row& row) const;
     void Sort();
@@ -124,9 +127,8 @@ class ListView : public Control {
 
     ListViewStyle style_;
     std::vector<std::string> columns_;
-    // Owned. The rows behind a new one in a sorted list move up, which plain pointers do in blocks
-    // and owning ones one by one.
-    std::deque<Row*> rows_;
+    // Owned.
+    BlockSequence<Row*> rows_;
     // The row that has the focus; may be nullptr.
     const Row* focused_ = nullptr;
     int selectedCount_ = 0;
