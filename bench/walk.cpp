@@ -16,6 +16,7 @@
 #include "cleanup/folderwalk.h"
 #include "cleanup/knownlinks.h"
 #include "cleanup/tempfilesframe.h"
+#include "platform/display.h"
 #include "platform/simulated/machine.h"
 #include "platform/simulated/withservices.h"
 #include "platform/win32/folders.h"
@@ -134,7 +135,11 @@ struct BareScreen {
         GetAsyncKeyState(VK_ESCAPE);
     }
     void Show(const std::wstring& path) {
-        SetWindowTextW(summary, (L"Gescannte Dateien: " + std::to_wstring(++files)).c_str());
+        ++files;
+        const std::wstring counts = L"Gescannte Dateien: " + std::to_wstring(files) +
+                                    L" - davon Tempdateien: " +
+                                    std::to_wstring(files / FilesForAHit);
+        SetWindowTextW(summary, counts.c_str());
         char buffer[MAX_PATH + 1] = "";
         WideCharToMultiByte(CP_ACP, 0, path.c_str(), -1, buffer, MAX_PATH, nullptr, nullptr);
         const HDC context = GetDC(owner);
@@ -209,13 +214,23 @@ struct Walk {
     cleanup::TempFilesFrame frame;
 };
 
+// No screen shortens no path.
+class NoDisplay final : public platform::Display {
+  public:
+    toolkit::Size Size() const override { return {}; }
+    std::string CompactPath(const toolkit::Form&, std::string_view path, int) const override {
+        return std::string(path);
+    }
+};
+
 bool WithoutScreen(int pairs) {
     const Tree tree(FoldersWithoutScreen);
     platform::simulated::Machine simulated;
     simulated.journal.Record(false);
     platform::win32::Folders folders;
+    NoDisplay display;
     platform::Machine machine =
-        platform::simulated::With(simulated.services, {.folders = &folders});
+        platform::simulated::With(simulated.services, {.folders = &folders, .display = &display});
     Walk walk(machine);
     return Compare(
         "clean-up walk without screen", pairs, tree.Files(),

@@ -10,6 +10,7 @@ struct Services {
     platform::Registry* registry = nullptr;
     platform::Folders* folders = nullptr;
     platform::Shell* shell = nullptr;
+    platform::Display* display = nullptr;
     platform::Locale* locale = nullptr;
 };
 
@@ -35,7 +36,7 @@ inline platform::Machine With(const platform::Machine& machine, const Services& 
         .memory = machine.memory,
         .internetCache = machine.internetCache,
         .windows = machine.windows,
-        .display = machine.display,
+        .display = Or(other.display, machine.display),
         .keyboard = machine.keyboard,
         .clock = machine.clock,
         .systemClock = machine.systemClock,
