@@ -214,12 +214,12 @@ struct Walk {
     cleanup::TempFilesFrame frame;
 };
 
-// No screen shortens no path.
+// No screen shows no path.
 class NoDisplay final : public platform::Display {
   public:
     toolkit::Size Size() const override { return {}; }
-    std::string CompactPath(const toolkit::Form&, std::string_view path, int) const override {
-        return std::string(path);
+    std::string CompactPath(const toolkit::Form&, std::string_view, int) const override {
+        return "";
     }
 };
 

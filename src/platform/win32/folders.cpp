@@ -17,19 +17,39 @@ struct SearchTraits {
     static bool Close(Type search) { return FindClose(search) != FALSE; }
 };
 
-LocalTime ToLocal(const FILETIME& time) {
-    FILETIME local{};
-    SYSTEMTIME parts{};
-    if (!FileTimeToLocalFileTime(&time, &local) || !FileTimeToSystemTime(&local, &parts)) return {};
-    return {parts.wYear, parts.wMonth, parts.wDay, parts.wHour, parts.wMinute, parts.wSecond};
+std::uint64_t Ticks(const FILETIME& time) {
+    return std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime;
 }
+
+// FileTimeToLocalFileTime adds the same to each time, which is the zone of the moment, and to ask
+// for it takes longer than all else that is done with a time. So it is asked for once a listing.
+class LocalClock {
+  public:
+    LocalClock() {
+        const FILETIME moment = {0, 0x01000000};
+        FILETIME local{};
+        if (FileTimeToLocalFileTime(&moment, &local)) ahead_ = Ticks(local) - Ticks(moment);
+    }
+
+    LocalTime Of(const FILETIME& time) const {
+        const std::uint64_t ticks = Ticks(time) + ahead_;
+        const FILETIME local = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+        SYSTEMTIME parts{};
+        if (!FileTimeToSystemTime(&local, &parts)) return {};
+        return {parts.wYear, parts.wMonth, parts.wDay, parts.wHour, parts.wMinute, parts.wSecond};
+    }
+
+  private:
+    // In 100 nanoseconds; a zone behind Greenwich wraps round.
+    std::uint64_t ahead_ = 0;
+};
 
 // Both kinds of data that Windows tells about a file.
 template <typename Data>
-FolderEntry ToEntry(std::string name, const Data& data) {
+FolderEntry ToEntry(std::string name, const Data& data, const LocalClock& clock) {
     return {std::move(name), data.dwFileAttributes,
             std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow,
-            ToLocal(data.ftLastWriteTime)};
+            clock.Of(data.ftLastWriteTime)};
 }
 
 bool IsDots(const wchar_t* name) {
@@ -56,6 +76,7 @@ std::vector<FolderEntry> Folders::List(std::string_view path) {
     pattern += L'*';
     if (pattern.size() >= MAX_PATH) throw runtime::Failure(runtime::PathNotFound);
     std::vector<FolderEntry> entries;
+    const LocalClock clock;
     WIN32_FIND_DATAW data;
     const Owned<SearchTraits> search(FindFirstFileW(pattern.c_str(), &data));
     if (!search) {
@@ -64,7 +85,8 @@ std::vector<FolderEntry> Folders::List(std::string_view path) {
         throw FailureOf(GetLastError());
     }
     do {
-        if (!IsDots(data.cFileName)) entries.push_back(ToEntry(FromWide(data.cFileName), data));
+        if (!IsDots(data.cFileName))
+            entries.push_back(ToEntry(FromWide(data.cFileName), data, clock));
     } while (FindNextFileW(search.Get(), &data));
     if (GetLastError() != ERROR_NO_MORE_FILES) throw FailureOf(GetLastError());
     return entries;
@@ -78,7 +100,7 @@ std::optional<FolderEntry> Folders::Find(std::string_view path) const {
         !GetFileAttributesExW(wide.c_str(), GetFileExInfoStandard, &data)) {
         return std::nullopt;
     }
-    return ToEntry(std::string(path), data);
+    return ToEntry(std::string(path), data, LocalClock());
 }
 
 std::string Folders::FullPath(std::string_view path) const {
