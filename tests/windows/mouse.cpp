@@ -159,3 +159,28 @@ TEST_CASE("a label is drawn in its colour, and in the system's before it has one
     CHECK_FALSE(HasColour(label, RGB(255, 0, 0)));
     CHECK(HasColour(label, RGB(0, 0, 0)));
 }
+
+namespace {
+
+// Other colours of the system's, for as long as this lives.
+struct DarkWindows {
+    static constexpr int What[] = {COLOR_BTNFACE, COLOR_WINDOWTEXT};
+    static constexpr COLORREF Dark[] = {RGB(0, 0, 0), RGB(255, 255, 255)};
+    COLORREF before[2] = {GetSysColor(What[0]), GetSysColor(What[1])};
+
+    DarkWindows() { SetSysColors(2, What, Dark); }
+    ~DarkWindows() { SetSysColors(2, What, before); }
+};
+
+}  // namespace
+
+TEST_CASE("a label's colour that cannot be read on dark windows gives way to the system's") {
+    Fixture f;
+    const HWND label = f.Window("lblLink");
+    f.link.SetTextColour(toolkit::Black);
+    const DarkWindows dark;
+    CHECK(HasColour(label, RGB(255, 255, 255)));
+    f.link.SetTextColour(toolkit::Red);
+    CHECK(HasColour(label, RGB(255, 0, 0)));
+    CHECK_FALSE(HasColour(label, RGB(255, 255, 255)));
+}

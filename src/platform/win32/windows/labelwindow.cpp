@@ -1,6 +1,23 @@
 #include "platform/win32/windows/labelwindow.h"
 
+#include <cstdlib>
+
 namespace platform::win32 {
+namespace {
+
+// Of 255, in the eye's weights.
+int Brightness(COLORREF colour) {
+    return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
+}
+
+// A user may have dark windows, as in high contrast, where black could not be read.
+bool CanBeRead(COLORREF colour) {
+    constexpr int LeastDifference = 64;
+    const int behind = Brightness(GetSysColor(COLOR_BTNFACE));
+    return std::abs(Brightness(colour) - behind) >= LeastDifference;
+}
+
+}  // namespace
 
 ControlWindow::Recipe LabelWindow::Describe() const {
     DWORD style = SS_LEFT;
@@ -41,7 +58,8 @@ void LabelWindow::Click() {
 }
 
 void LabelWindow::SetColours(HDC dc) const {
-    if (const auto colour = control_.TextColour()) SetTextColor(dc, *colour);
+    const auto colour = control_.TextColour();
+    if (colour && CanBeRead(*colour)) SetTextColor(dc, *colour);
 }
 
 }  // namespace platform::win32
