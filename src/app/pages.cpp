@@ -1,5 +1,6 @@
 #include "app/pages.h"
 
+#include "app/buttonpictures.h"
 #include "app/frmmain.h"
 #include "app/utilitiespage.h"
 #include "controls/chameleonbutton.h"
@@ -44,8 +45,10 @@ Box AddPages(frmMain& form, platform::Machine& machine, const utilities::Launche
 
 Box AddWindowButtons(frmMain& form, const platform::Machine& machine) {
     const auto button = [&](const char* name, const char* properties) {
-        return toolkit::Leaf(form.Add<controls::chameleonButton>(
-            name, controls::Persisted{properties}, machine.clock));
+        auto& added = form.Add<controls::chameleonButton>(name, controls::Persisted{properties},
+                                                          machine.clock);
+        added.SetPictureNormal(ButtonPicture(name));
+        return toolkit::Leaf(added);
     };
     std::vector<Box> row;
     row.push_back(button("cmdSetAllOptimal", "TX=AutoTuning"));

@@ -210,6 +210,11 @@ void DrawEdges(Canvas& canvas, Rect client, const Look& look, const ButtonFace& 
     }
 }
 
+// The one that the contents are placed for.
+const toolkit::SharedPicture& PictureOf(const ButtonProperties& properties) {
+    return properties.pictureNormal ? properties.pictureNormal : properties.pictureOver;
+}
+
 }  // namespace
 
 Shape ShapeOf(std::int16_t buttonType) {
@@ -220,17 +225,21 @@ bool IsTransparent(std::int16_t buttonType) {
     return LookOf(buttonType).fill == Fill::Parent;
 }
 
+int WidthBesideCaption(const ButtonProperties& properties) {
+    const auto& picture = PictureOf(properties);
+    if (!picture || properties.picturePosition > 1) return 0;
+    return picture->Extent().width + (properties.caption.empty() ? 0 : PictureGap);
+}
+
 Places PlaceContents(const Canvas& canvas, Rect client, const ButtonProperties& properties) {
     const Rect area = Contents(client, LookOf(properties.buttonType));
-    const auto& picture =
-        properties.pictureNormal ? properties.pictureNormal : properties.pictureOver;
+    const auto& picture = PictureOf(properties);
     const Size image = picture ? picture->Extent() : Size{};
-    const bool beside = picture && properties.picturePosition <= 1;
     const bool stacked = properties.picturePosition == 2 || properties.picturePosition == 3;
     const bool behind = properties.picturePosition == 4;
     const bool pictureFirst = properties.picturePosition % 2 == 0;
-    int gap = picture && !properties.caption.empty() && !behind ? PictureGap : 0;
-    const int room = area.width - (beside ? image.width + gap : 0);
+    const int gap = picture && !properties.caption.empty() && !behind ? PictureGap : 0;
+    const int room = area.width - WidthBesideCaption(properties);
     const Size text = properties.caption.empty()
                           ? Size{}
                           : canvas.TextSize(properties.caption, std::max(room, 1));

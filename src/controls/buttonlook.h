@@ -21,6 +21,9 @@ struct Places {
     toolkit::Point picture;
 };
 
+// Pixels that a picture beside the caption takes of the button's width, with the gap between them.
+int WidthBesideCaption(const ButtonProperties& properties);
+
 // Measures the caption; where it is too wide for the button it gets several lines.
 Places PlaceContents(const toolkit::Canvas& canvas, toolkit::Rect client,
                      const ButtonProperties& properties);

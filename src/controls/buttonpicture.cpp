@@ -26,14 +26,17 @@ std::uint32_t Grey(std::uint32_t pixel) {
 void DrawPicture(toolkit::Canvas& canvas, const Picture& picture, toolkit::Point at,
                  std::optional<toolkit::Colour> mask, bool grey) {
     const bool isIcon = picture.What() == Picture::Kind::Icon;
-    if (!grey && (isIcon || !mask)) {
+    const auto* own = dynamic_cast<const toolkit::PixelPicture*>(&picture);
+    if (!grey && !own && (isIcon || !mask)) {
         canvas.Draw(picture, at);
         return;
     }
     const toolkit::Rect area{at.x, at.y, picture.Extent().width, picture.Extent().height};
     const Pixels behind = canvas.PixelsAt(area);
     if (isIcon) canvas.Draw(picture, at);
-    Pixels pixels = isIcon ? canvas.PixelsAt(area) : canvas.PixelsOf(picture);
+    Pixels pixels = own      ? own->Content()
+                    : isIcon ? canvas.PixelsAt(area)
+                             : canvas.PixelsOf(picture);
     for (std::size_t i = 0; i < pixels.size(); ++i) {
         const bool through = isIcon ? pixels[i] == behind[i] : mask && pixels[i] == ToPixel(*mask);
         if (through) {

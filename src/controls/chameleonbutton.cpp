@@ -58,7 +58,8 @@ toolkit::Size chameleonButton::NaturalSize(toolkit::Size text) const {
     constexpr int FontHeight = 13;
     const int fontHeight = std::max(text.height, FontHeight);
     const auto scaled = [&](int pixels) { return pixels * fontHeight / FontHeight; };
-    return {std::max(text.width + scaled(20), scaled(75)), scaled(23)};
+    const int contents = text.width + WidthBesideCaption(properties_);
+    return {std::max(contents + scaled(20), scaled(75)), scaled(23)};
 }
 
 // While the mouse is over a button of the second scheme, its other background takes the place of

@@ -16,10 +16,6 @@ constexpr Colour SystemColour(int index) {
     return 0x80000000u + static_cast<Colour>(index);
 }
 
-// The pixels of a rectangle, row by row from the top, each as 0x00RRGGBB: the other way round than
-// a Colour, as the platform keeps them.
-using Pixels = std::vector<std::uint32_t>;
-
 // What a control that draws itself draws on. Each method is a few calls of the platform.
 class Canvas {
   public:

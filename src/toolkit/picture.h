@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "toolkit/geometry.h"
 
@@ -21,6 +24,23 @@ class Picture {
   private:
     Kind kind_;
     Size size_;
+};
+
+// The pixels of a rectangle, row by row from the top, each as 0x00RRGGBB: the other way round than
+// a Colour, as the platform keeps them.
+using Pixels = std::vector<std::uint32_t>;
+
+// A bitmap of the program's own pixels, which needs no platform.
+class PixelPicture final : public Picture {
+  public:
+    // As many pixels as the size has.
+    PixelPicture(Size size, Pixels pixels)
+        : Picture(Kind::Bitmap, size), pixels_(std::move(pixels)) {}
+
+    const Pixels& Content() const { return pixels_; }
+
+  private:
+    Pixels pixels_;
 };
 
 // nullptr where there is none.

@@ -149,12 +149,11 @@ Box AddSystemPage(Form& form, const platform::Machine& machine) {
     right.push_back(AutoLoginGroup(form));
     right.push_back(StartMenuGroup(form, machine.locale));
     right.push_back(SystemFactsGroup(form));
-    right.push_back(toolkit::Filler());
-    right.push_back(SystemButtons(form, machine));
 
     Box columns = toolkit::Row({Gap(toolkit::Column(std::move(left)), 6),
                                 toolkit::Stretch(Gap(toolkit::Column(std::move(right)), 6))});
-    return toolkit::Column({heading, toolkit::Stretch(Gap(columns, 8))});
+    return toolkit::Column(
+        {heading, toolkit::Stretch(Gap(columns, 8)), SystemButtons(form, machine)});
 }
 
 }  // namespace tweaks

@@ -4,6 +4,7 @@
 
 #include "controls/watchedbutton.h"
 
+using controls_test::TestPicture;
 using controls_test::WatchedButton;
 using toolkit::MouseButton;
 using Calls = std::vector<std::string>;
@@ -121,6 +122,25 @@ TEST_CASE("a button is 75 by 23 pixels, wider for a long caption and larger with
     CHECK(natural(55, 13) == std::pair{75, 23});
     CHECK(natural(56, 13) == std::pair{76, 23});
     CHECK(natural(200, 26) == std::pair{240, 46});
+}
+
+TEST_CASE("a picture beside the caption makes a button wider, by itself and the gap") {
+    WatchedButton test;
+    const auto width = [&] { return test.button.NaturalSize({100, 13}).width; };
+    test.button.SetCaption("Hilfe");
+    CHECK(width() == 120);
+    test.button.SetPictureNormal(
+        std::make_shared<TestPicture>(toolkit::Picture::Kind::Bitmap, toolkit::Size{16, 14}, "p"));
+    CHECK(width() == 140);
+    test.button.SetPicturePosition(1);
+    CHECK(width() == 140);
+    for (const std::int16_t position : {2, 3, 4}) {
+        test.button.SetPicturePosition(position);
+        CHECK(width() == 120);
+    }
+    test.button.SetPicturePosition(0);
+    test.button.SetCaption("");
+    CHECK(width() == 136);
 }
 
 TEST_CASE("scripts find a button by its window class, and the keyboard reaches it") {

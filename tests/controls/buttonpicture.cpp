@@ -57,6 +57,19 @@ TEST_CASE("a bitmap's pixels in the mask colour show what is behind them") {
     CHECK(canvas.put == Pixels{0x111111, 0x0000FF});
 }
 
+TEST_CASE("a bitmap of the program's own pixels is put there by itself, masked or not") {
+    const toolkit::PixelPicture own({2, 1}, {0xC0C0C0, 0x123456});
+    RecordingCanvas canvas;
+    canvas.behind = {0x111111, 0x222222};
+    DrawPicture(canvas, own, {3, 4}, 0xC0C0C0, false);
+    CHECK(canvas.calls == Calls{"PutPixels 3,4 2x1"});
+    CHECK(canvas.put == Pixels{0x111111, 0x123456});
+    DrawPicture(canvas, own, {3, 4}, std::nullopt, false);
+    CHECK(canvas.put == Pixels{0xC0C0C0, 0x123456});
+    DrawPicture(canvas, own, {3, 4}, std::nullopt, true);
+    CHECK(canvas.put == Pixels{0xC0C0C0, 0x2D2D2D});
+}
+
 TEST_CASE("a grey bitmap keeps the brightness of its pixels, and its mask") {
     RecordingCanvas canvas;
     canvas.behind = {0x111111, 0x222222};

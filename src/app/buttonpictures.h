@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+#include "toolkit/picture.h"
+
+namespace app {
+
+// The small picture of a button below the pages, by the button's name; nullptr for one without.
+// Its background has the mask colour of a new button.
+toolkit::SharedPicture ButtonPicture(std::string_view button);
+
+}  // namespace app
