@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -39,14 +40,26 @@ constexpr int FoldersWithScreen = 10;
     std::exit(1);
 }
 
+constexpr wchar_t TreeName[] = L"QuillmoreWalk";
+
+// What runs that were ended from outside have left would make each search in this prefix long.
+void RemoveLeftovers(const std::filesystem::path& temp) {
+    std::vector<std::filesystem::path> left;
+    for (const auto& entry : std::filesystem::directory_iterator(temp)) {
+        if (entry.path().filename().wstring().starts_with(TreeName)) left.push_back(entry.path());
+    }
+    for (const auto& tree : left) std::filesystem::remove_all(tree);
+}
+
 // A folder of folders with empty files, taken away at the end.
 class Tree {
   public:
     explicit Tree(int folders) {
         wchar_t temp[MAX_PATH];
         if (!GetTempPathW(MAX_PATH, temp)) Fail("no folder for the tree");
-        root = std::wstring(temp) + L"QuillmoreWalk" + std::to_wstring(GetCurrentProcessId()) +
-               L" " + std::to_wstring(GetTickCount());
+        RemoveLeftovers(temp);
+        root = std::wstring(temp) + TreeName + std::to_wstring(GetCurrentProcessId()) + L" " +
+               std::to_wstring(GetTickCount());
         Make(root);
         for (int folder = 0; folder < folders; ++folder) {
             const std::wstring path = root + L"\\" + std::to_wstring(folder);
