@@ -6,7 +6,7 @@ function(add_room name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   if(WIN32)
     # Both the code and what optimising the whole program needs; see src/CMakeLists.txt.
-    target_compile_options(${name} PRIVATE -flto -ffat-lto-objects)
+    target_compile_options(${name} PRIVATE $<$<CONFIG:MinSizeRel>:-flto;-ffat-lto-objects>)
   endif()
   target_link_libraries(${name} PUBLIC ${ROOM_USES})
 endfunction()

@@ -116,11 +116,18 @@ constexpr Drawing Drawings[] = {
 };
 // clang-format on
 
-std::uint32_t PixelOf(char sign) {
-    const auto ink = std::find_if(std::begin(Inks), std::end(Inks),
-                                  [&](const Ink& one) { return one.sign == sign; });
-    return ink->pixel;
+constexpr const Ink* InkOf(char sign) {
+    return std::find_if(std::begin(Inks), std::end(Inks),
+                        [&](const Ink& one) { return one.sign == sign; });
 }
+
+constexpr bool IsDrawn(const Drawing& drawing) {
+    return drawing.lines.size() % Width == 0 &&
+           std::all_of(drawing.lines.begin(), drawing.lines.end(),
+                       [](char sign) { return InkOf(sign) != std::end(Inks); });
+}
+
+static_assert(std::all_of(std::begin(Drawings), std::end(Drawings), IsDrawn));
 
 }  // namespace
 
@@ -129,7 +136,7 @@ toolkit::SharedPicture ButtonPicture(std::string_view button) {
                                       [&](const Drawing& one) { return one.button == button; });
     if (drawing == std::end(Drawings)) return nullptr;
     toolkit::Pixels pixels;
-    for (const char sign : drawing->lines) pixels.push_back(PixelOf(sign));
+    for (const char sign : drawing->lines) pixels.push_back(InkOf(sign)->pixel);
     const int height = static_cast<int>(pixels.size()) / Width;
     return std::make_shared<toolkit::PixelPicture>(toolkit::Size{Width, height}, std::move(pixels));
 }

@@ -10,7 +10,7 @@
 
 namespace toolkit {
 
-// An icon or a bitmap. What it is made of knows only the platform that made it.
+// An icon or a bitmap. What it is made of knows only who made it: the platform, or PixelPicture.
 class Picture {
   public:
     enum class Kind { Bitmap, Icon };

@@ -32,6 +32,10 @@ TEST_CASE("each button below the pages shows its picture beside its caption, on 
     }
 }
 
-TEST_CASE("a button with a caption of its own only has no picture") {
-    CHECK(app::ButtonPicture("cmdEmpfohlen") == nullptr);
+TEST_CASE("a button on a page has no picture") {
+    Program program;
+    REQUIRE(program.Start());
+    const auto& button = program.form->Find<controls::chameleonButton>("cmdOptimal");
+    CHECK(button.Properties().pictureNormal == nullptr);
+    CHECK(app::ButtonPicture("cmdOptimal") == nullptr);
 }

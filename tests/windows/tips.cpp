@@ -28,12 +28,11 @@ BOOL CALLBACK Look(HWND window, LPARAM lParam) {
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
     SendMessageW(window, TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool));
     if (reinterpret_cast<HWND>(tool.uId) != search->control) return TRUE;
-    // What the tooltip window asks when it is about to show.
-    NMTTDISPINFOW question{};
-    question.hdr = {window, tool.uId, TTN_GETDISPINFOW};
-    question.lpszText = question.szText;
-    SendMessageW(tool.hwnd, WM_NOTIFY, tool.uId, reinterpret_cast<LPARAM>(&question));
-    search->text += platform::win32::FromWide(question.lpszText);
+    // The tooltip window has no text of its own and asks for it, as when it is about to show.
+    wchar_t text[1024] = L"";
+    tool.lpszText = text;
+    SendMessageW(window, TTM_GETTEXTW, std::size(text), reinterpret_cast<LPARAM>(&tool));
+    search->text += platform::win32::FromWide(text);
     return TRUE;
 }
 
@@ -92,7 +91,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(TipOf("cmd") == "Knopf");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tip set before the form is loaded is there with its window") {
+TEST_CASE_FIXTURE(Fixture, "a tip set before the form is loaded is told to the mouse that comes") {
     box.SetToolTip("Größe & Länge");
     Show();
     CHECK(TipOf("chk") == "Größe & Länge");

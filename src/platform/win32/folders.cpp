@@ -28,18 +28,20 @@ class LocalClock {
     LocalClock() {
         const FILETIME moment = {0, 0x01000000};
         FILETIME local{};
-        if (FileTimeToLocalFileTime(&moment, &local)) ahead_ = Ticks(local) - Ticks(moment);
+        isKnown_ = FileTimeToLocalFileTime(&moment, &local) != FALSE;
+        ahead_ = Ticks(local) - Ticks(moment);
     }
 
     LocalTime Of(const FILETIME& time) const {
         const std::uint64_t ticks = Ticks(time) + ahead_;
         const FILETIME local = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
         SYSTEMTIME parts{};
-        if (!FileTimeToSystemTime(&local, &parts)) return {};
+        if (!isKnown_ || !FileTimeToSystemTime(&local, &parts)) return {};
         return {parts.wYear, parts.wMonth, parts.wDay, parts.wHour, parts.wMinute, parts.wSecond};
     }
 
   private:
+    bool isKnown_ = false;
     // In 100 nanoseconds; a zone behind Greenwich wraps round.
     std::uint64_t ahead_ = 0;
 };

@@ -72,7 +72,11 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
             Repaint();
             break;
         case toolkit::Aspect::ToolTip:
-            if (control_.ToolTip().empty()) tip_.Leave();
+            if (control_.ToolTip().empty()) {
+                tip_.Leave();
+            } else {
+                tip_.ShowChange(window_);
+            }
             break;
     }
 }

@@ -44,8 +44,10 @@ constexpr WORD HandId = 32649;
 
 HCURSOR NativePointer(const toolkit::Pointer& pointer) {
     if (pointer.code == toolkit::Pointer::Own) {
-        return pointer.picture ? static_cast<const NativePicture*>(pointer.picture)->Icon()
-                               : nullptr;
+        // A bitmap is no pointer, whoever made it.
+        const bool isIcon =
+            pointer.picture && pointer.picture->What() == toolkit::Picture::Kind::Icon;
+        return isIcon ? static_cast<const NativePicture*>(pointer.picture)->Icon() : nullptr;
     }
     WORD id = HandId;
     if (pointer.code != toolkit::Pointer::Hand) {

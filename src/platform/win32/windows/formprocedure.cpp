@@ -132,7 +132,7 @@ void FormWindow::Command(int id, UINT code, HWND control) {
 // The control's window stands in place of its number.
 void FormWindow::AnswerTip(NMTTDISPINFOW& question) const {
     const auto control = controls_.Find(reinterpret_cast<HWND>(question.hdr.idFrom));
-    if (control) control->AnswerTip(question);
+    if (control) surroundings_.Guard([&] { control->AnswerTip(question); });
 }
 
 void FormWindow::PressDefault() {

@@ -12,7 +12,7 @@ int Brightness(COLORREF colour) {
 
 // A user may have dark windows, as in high contrast, where black could not be read.
 bool CanBeRead(COLORREF colour) {
-    constexpr int LeastDifference = 64;
+    constexpr int LeastDifference = 32;
     const int behind = Brightness(GetSysColor(COLOR_BTNFACE));
     return std::abs(Brightness(colour) - behind) >= LeastDifference;
 }

@@ -18,6 +18,8 @@ class TipWindow {
     // Gives the control's window a tip. The window's parent is asked for the text whenever it is to
     // be seen.
     void Offer(HWND control);
+    // The text has changed; whoever is reading the tip sees the new one.
+    void ShowChange(HWND control);
     // Answers that question. The text lives until the next one.
     void Answer(NMTTDISPINFOW& question, const std::string& text);
     // To be called before others who listen to the window leave it, since the tip listens too.
