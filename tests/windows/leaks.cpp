@@ -52,6 +52,7 @@ TEST_CASE("a dialog opened again and again leaves nothing behind") {
     for (int i = 0; i < 1000; ++i) OpenAndClose(desk);
     // The system keeps a few of its own; one left behind each time would be a thousand.
     CHECK(DrawingObjects() <= objects + 20);
-    CHECK(NextWindow() <= window + 40);
+    // All programs of the session take from these numbers, those too that are just starting.
+    CHECK(NextWindow() <= window + 400);
     CHECK(GlobalFindAtomA("txtLeak") == 0);
 }
