@@ -52,7 +52,6 @@ struct Fixture {
         // One left behind each time would be a thousand; the system keeps a few of its own.
         CHECK(DrawingObjects() <= objects + 20);
         CHECK(Handles() <= handles + 20);
-        MESSAGE("memory grew by ", static_cast<long>(PrivateMemory()) - static_cast<long>(memory));
         CHECK(PrivateMemory() <= memory + 256 * 1024);
     }
 

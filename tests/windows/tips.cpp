@@ -7,6 +7,7 @@
 #include "controls/chameleonbutton.h"
 #include "platform/win32/clock.h"
 #include "windows/desk.h"
+#include "windows/realmouse.h"
 
 using namespace windows;
 
@@ -107,6 +108,23 @@ TEST_CASE_FIXTURE(Fixture, "a tip follows the control, in the same window, and g
     CHECK(Tips().windows == 1);
     path.SetToolTip("");
     CHECK(Tips().windows == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a tip that is being read follows the control") {
+    path.SetToolTip("C:\\eins");
+    Show();
+    RealMouse mouse;
+    const auto shown = [] {
+        const HWND tip = FindWindowW(TOOLTIPS_CLASSW, nullptr);
+        return tip && IsWindowVisible(tip) ? windows::TextOf(tip) : "";
+    };
+    SetForegroundWindow(desk.host.WindowOf(form));
+    RealMouse::MoveTo(desk.Find(form, "lbl"), 4, 4);
+    ServeQueue();
+    RealMouse::MoveTo(desk.Find(form, "lbl"), 6, 5);
+    ServeUntil([&] { return shown() == "C:\\eins"; });
+    path.SetToolTip("C:\\zwei");
+    CHECK(shown() == "C:\\zwei");
 }
 
 TEST_CASE_FIXTURE(Fixture, "a label of the style Path sees the mouse, for its tip") {
