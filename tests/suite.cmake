@@ -6,6 +6,11 @@ function(add_suite name)
   target_link_libraries(test_${name} PRIVATE test_support ${SUITE_USES})
   # doctest's macros shadow and convert in ways that the program's own code may not.
   target_compile_options(test_${name} PRIVATE -Wno-shadow -Wno-conversion)
+  if(QUILLMORE_SANITIZE)
+    # What is watched for undefined behaviour is the program; watching the framework's macros too
+    # would double the time that a suite takes to compile.
+    target_compile_options(test_${name} PRIVATE -fno-sanitize=undefined -g1)
+  endif()
   if(SUITE_LONG)
     add_test(NAME ${name} COMMAND test_${name} --test-case-exclude=${SUITE_LONG})
     add_test(NAME ${name}_long COMMAND test_${name} --test-case=${SUITE_LONG})
