@@ -20,11 +20,12 @@ void CleanBinDirect(TempFilesFrame& frame, platform::Machine& machine) {
     if (machine.messages.Show("Inhalt des Papierkorbes löschen?", Question | YesNo, title) != Yes) {
         return;
     }
-    frame.form.SetPointer(toolkit::Hourglass);
-    frame.ShowProgress("Lösche Papierkorb von Laufwerk '" + frame.Drive() + "' ...");
-    EmptyRecycleBin(machine.shell);
-    frame.lblHinweisTemp.SetCaption("");
-    frame.form.SetPointer(toolkit::DefaultPointer);
+    {
+        const toolkit::ScreenHourglass hourglass{machine.forms};
+        frame.ShowProgress("Lösche Papierkorb von Laufwerk '" + frame.Drive() + "' ...");
+        EmptyRecycleBin(machine.shell);
+        frame.lblHinweisTemp.SetCaption("");
+    }
     ShowDriveSpace(frame, machine);
     frame.lblScannedFiles.SetCaption("Löschen des Papierkorbs von Laufwerk '" + frame.Drive() +
                                      "' abgeschlossen!");

@@ -53,7 +53,7 @@ void TempFileRemoval::Click() {
         return;
     }
     if (!Confirmed()) return;
-    frame_.form.SetPointer(toolkit::Hourglass);
+    const toolkit::ScreenHourglass hourglass{machine_.forms};
     // Shown whether or not the bin is emptied, on purpose.
     frame_.ShowProgress("Lösche Papierkorb von Laufwerk '" + frame_.Drive() + "' ...");
     if (frame_.chkCleanRecycleBin.Value() == 1) Skip([&] { EmptyRecycleBin(machine_.shell); });
@@ -64,7 +64,6 @@ void TempFileRemoval::Click() {
     frame_.cmdCleanTempFiles.SetEnabled(false);
     frame_.InitFilesView();
     ShowDriveSpace(frame_, machine_);
-    frame_.form.SetPointer(toolkit::DefaultPointer);
 }
 
 bool TempFileRemoval::AnyTicked() const {

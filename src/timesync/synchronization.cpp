@@ -29,7 +29,8 @@ Synchronization::Synchronization(toolkit::Form& form, const platform::Machine& m
                                  TimeServer server)
     : form_(form),
       machine_(machine),
-      client_(form, machine.socket, machine.clock, machine.systemClock, std::move(server)) {}
+      client_(machine.forms, machine.socket, machine.clock, machine.systemClock,
+              std::move(server)) {}
 
 Synchronization::~Synchronization() {
     Stop_tmrUhrzeit();
@@ -63,7 +64,7 @@ void Synchronization::cmdSynchronizeDateTime_Click() {
 
 void Synchronization::TellFailure(const runtime::Failure& failure) {
     ShowInLabel("");
-    form_.SetPointer(toolkit::DefaultPointer);
+    machine_.forms.SetScreenPointer(toolkit::DefaultPointer);
     machine_.messages.Show(
         "Datum und Uhrzeit NICHT erfolgreich synchronisiert!\r\n\r\n"
         "Beschreibung: " +
@@ -76,7 +77,7 @@ void Synchronization::TellFailure(const runtime::Failure& failure) {
 // changes later, maybe behind the open box. The computer on the network has answered by then, and
 // its success is told twice. Both are on purpose.
 void Synchronization::Synchronize() {
-    form_.SetPointer(toolkit::Hourglass);
+    machine_.forms.SetScreenPointer(toolkit::Hourglass);
     Stop_tmrUhrzeit();
     ShowInLabel("Bitte warten, Daten werden angefordert ...");
     if (form_.Find<toolkit::OptionButton>("optAtomUhr").Value()) {
@@ -86,7 +87,7 @@ void Synchronization::Synchronize() {
         Succeeded();
     }
     ShowInLabel("");
-    form_.SetPointer(toolkit::DefaultPointer);
+    machine_.forms.SetScreenPointer(toolkit::DefaultPointer);
     TellSuccess();
     Start_tmrUhrzeit();
 }
@@ -98,7 +99,7 @@ bool Synchronization::SetByServer() {
         SetLocalClock(machine_.systemClock, date);
         return true;
     }
-    form_.SetPointer(toolkit::DefaultPointer);
+    machine_.forms.SetScreenPointer(toolkit::DefaultPointer);
     ShowInLabel("");
     machine_.messages.Show(
         "Während der Verbindung zum Server ist ein Fehler aufgetreten. Überprüfen Sie den "
@@ -109,7 +110,7 @@ bool Synchronization::SetByServer() {
 }
 
 void Synchronization::Succeeded() {
-    form_.SetPointer(toolkit::DefaultPointer);
+    machine_.forms.SetScreenPointer(toolkit::DefaultPointer);
     ShowInLabel("");
     TellSuccess();
     Start_tmrUhrzeit();
@@ -153,7 +154,7 @@ void Synchronization::ApplyTimeAnswerChecked(std::string_view answer) {
             "Bitte stellen Sie eine Verbindung her und starten die Funktion erneut.",
             Exclamation, "DFUE Verbindung kann nicht hergestellt werden");
     }
-    form_.SetPointer(toolkit::DefaultPointer);
+    machine_.forms.SetScreenPointer(toolkit::DefaultPointer);
     Start_tmrUhrzeit();
 }
 

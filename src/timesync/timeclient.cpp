@@ -10,9 +10,9 @@
 
 namespace timesync {
 
-TimeClient::TimeClient(toolkit::Form& form, platform::Socket& socket, platform::Clock& clock,
+TimeClient::TimeClient(toolkit::FormHost& forms, platform::Socket& socket, platform::Clock& clock,
                        platform::SystemClock& systemClock, TimeServer server)
-    : form_(form),
+    : forms_(forms),
       WSock1_(socket),
       clock_(clock),
       systemClock_(systemClock),
@@ -21,6 +21,11 @@ TimeClient::TimeClient(toolkit::Form& form, platform::Socket& socket, platform::
     WSock1_.onDataArrival = [this] { WSock1_DataArrival(); };
     WSock1_.onClose = [this] { WSock1_Close(); };
     WSock1_.onError = [this](int number) { WSock1_Error(number); };
+}
+
+TimeClient::~TimeClient() {
+    WSock1_.onConnect = WSock1_.onDataArrival = WSock1_.onClose = nullptr;
+    WSock1_.onError = nullptr;
 }
 
 void TimeClient::Request() {
@@ -34,7 +39,7 @@ void TimeClient::Request() {
 
 void TimeClient::WSock1_DataArrival() {
     received_ += WSock1_.GetData();
-    form_.SetPointer(toolkit::DefaultPointer);
+    forms_.SetScreenPointer(toolkit::DefaultPointer);
 }
 
 void TimeClient::WSock1_Close() {

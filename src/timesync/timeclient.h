@@ -10,18 +10,19 @@ class Socket;
 class SystemClock;
 }  // namespace platform
 namespace toolkit {
-class Form;
+class FormHost;
 }
 
 namespace timesync {
 
 // Asks a time server and sets the clock when the answer is complete, which is when the server
-// closes the connection. Whatever goes wrong on that road goes wrong in silence.
+// closes the connection. A connection or an answer that comes to nothing does so in silence.
 class TimeClient {
   public:
-    // Takes the socket for itself. The form's pointer is put right when bytes arrive.
-    TimeClient(toolkit::Form& form, platform::Socket& socket, platform::Clock& clock,
+    // Takes the socket for itself. Bytes that arrive give the screen its default pointer back.
+    TimeClient(toolkit::FormHost& forms, platform::Socket& socket, platform::Clock& clock,
                platform::SystemClock& systemClock, TimeServer server);
+    ~TimeClient();
     TimeClient(const TimeClient&) = delete;
     TimeClient& operator=(const TimeClient&) = delete;
 
@@ -35,11 +36,12 @@ class TimeClient {
     float connectTime = 0;
 
   private:
+    // Throws what Socket::GetData throws.
     void WSock1_DataArrival();
     void WSock1_Close();
     void WSock1_Error(int number);
 
-    toolkit::Form& form_;
+    toolkit::FormHost& forms_;
     platform::Socket& WSock1_;
     platform::Clock& clock_;
     platform::SystemClock& systemClock_;

@@ -75,6 +75,11 @@ void Form::SetPointer(int pointer) {
     Changed(FormAspect::Pointer);
 }
 
+int Form::ShownPointer() const {
+    const int screen = host_.ScreenPointer();
+    return screen == DefaultPointer ? pointer_ : screen;
+}
+
 void Form::MakeLayered() {
     if (layered_) return;
     layered_ = true;
@@ -143,6 +148,12 @@ void Form::Changed(FormAspect what) {
 // Before a window is seen the first time its size is the program's own affair.
 void Form::SizeChanged() {
     if (everShown_) OnResize();
+}
+
+void FormHost::SetScreenPointer(int pointer) {
+    if (pointer == screenPointer_) return;
+    screenPointer_ = pointer;
+    ScreenPointerChanged();
 }
 
 std::string FormHost::SortKey(std::string_view text) const {

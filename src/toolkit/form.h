@@ -21,7 +21,7 @@ class FormHost;
 
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
-// Pointer codes of a form.
+// Pointer codes of a form and of the screen.
 inline constexpr int DefaultPointer = 0;
 inline constexpr int Hourglass = 11;
 
@@ -112,8 +112,11 @@ class Form {
     bool InTaskbar() const { return inTaskbar_; }
     void SetInTaskbar(bool shown);
 
+    // The form's own.
     int Pointer() const { return pointer_; }
     void SetPointer(int pointer);
+    // What the mouse shows over the form: its own, unless the screen's covers it.
+    int ShownPointer() const;
 
     // Both last until the form is unloaded, like the window that they belong to.
     bool Layered() const { return layered_; }
@@ -231,6 +234,29 @@ class FormHost {
     // Bytes that compare as the texts do in the order of the user's language, in which letters'
     // case plays no part. Here the order of the alphabet, without any language's.
     virtual std::string SortKey(std::string_view text) const;
+
+    // The screen's, that is of all the program's forms at once. One that is not the default covers
+    // each form's own, which comes back to light with the default.
+    int ScreenPointer() const { return screenPointer_; }
+    void SetScreenPointer(int pointer);
+
+  private:
+    virtual void ScreenPointerChanged() {}
+
+    int screenPointer_ = DefaultPointer;
+};
+
+// The screen's pointer is the hourglass for as long as this lives, also when what happens meanwhile
+// fails. It ends with the default, whatever was before.
+class ScreenHourglass {
+  public:
+    explicit ScreenHourglass(FormHost& host) : host_(host) { host_.SetScreenPointer(Hourglass); }
+    ~ScreenHourglass() { host_.SetScreenPointer(DefaultPointer); }
+    ScreenHourglass(const ScreenHourglass&) = delete;
+    ScreenHourglass& operator=(const ScreenHourglass&) = delete;
+
+  private:
+    FormHost& host_;
 };
 
 }  // namespace toolkit

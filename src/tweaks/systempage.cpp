@@ -127,8 +127,8 @@ Box SystemButtons(Form& form, const platform::Machine& machine) {
                                 {{"cmdFreeMemory", "TX=Speicher aufräumen"},
                                  {"cmdNormal", "TX=Standard"},
                                  {"cmdOptimal", "TX=Empfohlen"}});
-    form.Find<controls::chameleonButton>("cmdFreeMemory").onClick = [&form, machine] {
-        utilities::ReleaseMemory(form, machine.memory, machine.locale);
+    form.Find<controls::chameleonButton>("cmdFreeMemory").onClick = [machine] {
+        utilities::ReleaseMemory(machine.forms, machine.memory, machine.locale);
     };
     return buttons;
 }

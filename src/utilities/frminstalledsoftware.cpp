@@ -122,11 +122,8 @@ void frmInstalledSoftware::OnUnload() {
 }
 
 void frmInstalledSoftware::FillSoftwareList(bool onlyInvalid) {
-    const AtEnd end{[this] {
-        lvwSoftware_.UnlockWindow();
-        SetPointer(toolkit::DefaultPointer);
-    }};
-    SetPointer(toolkit::Hourglass);
+    const toolkit::ScreenHourglass hourglass{host_};
+    const AtEnd end{[this] { lvwSoftware_.UnlockWindow(); }};
     lvwSoftware_.LockWindow();
     lvwSoftware_.SetSorted(false);
     for (int rows = lvwSoftware_.Count(); rows > 0; --rows) lvwSoftware_.RemoveRow(0);

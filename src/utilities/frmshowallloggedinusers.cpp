@@ -70,7 +70,7 @@ bool frmShowAllLoggedInUsers::OnKeyDown(int virtualKey) {
 void frmShowAllLoggedInUsers::FillUserList() {
     auto& lstUsers = Find<toolkit::ListBox>("lstUsers");
     auto& lblWait = Find<toolkit::Label>("lblWait");
-    SetPointer(toolkit::Hourglass);
+    const toolkit::ScreenHourglass hourglass{host_};
     lblWait.SetVisible(true);
     // The thread is busy until the list is there, so nothing else would paint it.
     if (lblWait.View()) lblWait.View()->PaintNow();
@@ -82,7 +82,6 @@ void frmShowAllLoggedInUsers::FillUserList() {
         lstUsers.AddItem(user.wkui1_logon_domain + '\\' + user.wkui1_username);
     }
     lblWait.SetVisible(false);
-    SetPointer(toolkit::DefaultPointer);
 }
 
 // Two oddities on purpose: each batch takes the place of the one before, so that the list shows the

@@ -114,7 +114,7 @@ frmVirtualDrive::frmVirtualDrive(const platform::Machine& machine)
 }
 
 void frmVirtualDrive::OnLoad() {
-    SetPointer(toolkit::Hourglass);
+    const toolkit::ScreenHourglass hourglass{host_};
     ResetControls();
     // A stored number that is no state of the box leaves it off.
     Skip([&] {
@@ -129,7 +129,6 @@ void frmVirtualDrive::OnLoad() {
     AppRoot_ = runtime::Left(machine_.folders.FullPath(runtime::Left(directory, 2)), 3);
     AppFolder_ = AddBackslash(directory);
     RefreshDrives();
-    SetPointer(toolkit::DefaultPointer);
 }
 
 // Nothing remains of an earlier time. The list goes first, so that the box finds no drives to
@@ -154,10 +153,9 @@ bool frmVirtualDrive::OnKeyDown(int virtualKey) {
 }
 
 void frmVirtualDrive::RefreshDrives() {
-    SetPointer(toolkit::Hourglass);
+    const toolkit::ScreenHourglass hourglass{host_};
     ReadSubstList();
     FillFreeLetters(cbodrives_);
-    SetPointer(toolkit::DefaultPointer);
 }
 
 void frmVirtualDrive::FillFreeLetters(toolkit::ComboBox& combo) {

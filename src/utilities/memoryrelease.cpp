@@ -38,15 +38,14 @@ std::size_t BlockSizeFor(std::string_view totalPhysical, const runtime::NumberSi
     return SmallestBlock;
 }
 
-void ReleaseMemory(toolkit::Form& form, platform::Memory& memory, const platform::Locale& locale) {
-    // What a failed pass left standing stays standing.
-    const int before = form.Pointer();
-    form.SetPointer(toolkit::Hourglass);
+void ReleaseMemory(toolkit::FormHost& forms, platform::Memory& memory,
+                   const platform::Locale& locale) {
+    // Goes after the hourglass.
+    std::unique_ptr<platform::MemoryBlock> block;
+    const toolkit::ScreenHourglass hourglass{forms};
     std::string total;
     Skip([&] { total = memory.TotalPhysical(); });
-    std::unique_ptr<platform::MemoryBlock> block;
     Skip([&] { block = memory.Blanks(BlockSizeFor(total, locale.Signs())); });
-    form.SetPointer(before);
 }
 
 }  // namespace utilities

@@ -11,7 +11,7 @@ namespace runtime {
 struct NumberSigns;
 }
 namespace toolkit {
-class Form;
+class FormHost;
 }
 
 namespace utilities {
@@ -21,8 +21,9 @@ namespace utilities {
 std::size_t BlockSizeFor(std::string_view totalPhysical, const runtime::NumberSigns& signs);
 
 // Takes one large block of memory for a moment, which makes the system give up what other programs
-// hold idle, and gives it back. The form's pointer is the hourglass meanwhile, and nothing else
-// tells of it: a block that cannot be had is passed over in silence.
-void ReleaseMemory(toolkit::Form& form, platform::Memory& memory, const platform::Locale& locale);
+// hold idle, and gives it back. The screen's hourglass alone tells of it: a block that cannot
+// be had is passed over in silence.
+void ReleaseMemory(toolkit::FormHost& forms, platform::Memory& memory,
+                   const platform::Locale& locale);
 
 }  // namespace utilities

@@ -81,7 +81,7 @@ TEST_CASE_FIXTURE(Dialogs, "a refused list of users is told before its dialog is
         CHECK(machine.messages.Shown().size() == before + 1);
         CHECK(users.Find<toolkit::ListBox>("lstUsers").Items().empty());
     });
-    CHECK(form->Pointer() == 0);
+    CHECK(machine.forms.ScreenPointer() == 0);
 }
 
 TEST_CASE_FIXTURE(Dialogs, "the installed software is shown over the window's middle, each time") {
@@ -124,6 +124,16 @@ TEST_CASE_FIXTURE(Dialogs,
     Open("cmdVirtualDrive", "frmVirtualDrive", [](toolkit::Form&) {});
     CHECK(events == 1);
     CHECK(machine.processes.launched.size() == 1);
+}
+
+TEST_CASE_FIXTURE(Dialogs,
+                  "while the drives are first read the window itself shows the hourglass") {
+    std::vector<int> shown;
+    machine.forms.onEvents = [&] { shown.push_back(form->ShownPointer()); };
+    Open("cmdVirtualDrive", "frmVirtualDrive",
+         [&](toolkit::Form& drives) { CHECK(drives.ShownPointer() == toolkit::DefaultPointer); });
+    CHECK(shown == std::vector<int>{toolkit::Hourglass});
+    CHECK(form->ShownPointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Dialogs, "the dialogs are there when nothing can be read") {

@@ -96,6 +96,18 @@ TEST_CASE_FIXTURE(Applying, "the message of success follows a pass that ended at
     CHECK(form->Pointer() == toolkit::Hourglass);
 }
 
+TEST_CASE_FIXTURE(Applying,
+                  "the hourglass of a failed pass stands until the window gets another pointer") {
+    Text("txtRWIN").SetText("abc");
+    form->WriteRegistry();
+    Press("cmdSynchronizeDateTime");
+    Press("cmdFreeMemory");
+    CHECK(form->ShownPointer() == toolkit::Hourglass);
+    // It sets the window's own pointer, as the passes do.
+    form->Find<controls::chameleonButton>("cmdClearIECache").onClick();
+    CHECK(form->ShownPointer() == toolkit::DefaultPointer);
+}
+
 TEST_CASE_FIXTURE(Applying, "a pass that comes to its end takes the hourglass away again") {
     Text("txtRWIN").SetText("abc");
     form->WriteRegistry();

@@ -36,7 +36,7 @@ TEST_CASE_FIXTURE(Bin, "after Yes the bins of all drives are empty, though one d
     CHECK(frame.lblScannedFiles.Caption() ==
           "Löschen des Papierkorbs von Laufwerk 'd:' abgeschlossen!");
     CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 60 Bytes");
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Bin, "while the bins are emptied the hourglass and a painted line say so") {
@@ -45,7 +45,7 @@ TEST_CASE_FIXTURE(Bin, "while the bins are emptied the hourglass and a painted l
         ~Painting() override { on.frame.lblScannedFiles.SetView(nullptr); }
         void PaintNow() override {
             painted.push_back(on.frame.lblScannedFiles.Caption());
-            hourglass = on.form.Pointer() == toolkit::Hourglass;
+            hourglass = on.machine.forms.ScreenPointer() == toolkit::Hourglass;
             before = on.machine.journal.Calls("SHEmptyRecycleBinA").empty();
         }
         void Refresh(toolkit::Aspect) override {}
@@ -64,6 +64,14 @@ TEST_CASE_FIXTURE(Bin, "while the bins are emptied the hourglass and a painted l
     CHECK(painting.painted == Lines{"Lösche Papierkorb von Laufwerk 'd:' ..."});
     CHECK(painting.hourglass);
     CHECK(painting.before);
+}
+
+TEST_CASE_FIXTURE(Bin, "emptying the bins takes no hourglass of the form's own away") {
+    form.SetPointer(toolkit::Hourglass);
+    Press(platform::message::Yes);
+    CHECK(machine.shell.recycleBin.empty());
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
+    CHECK(form.ShownPointer() == toolkit::Hourglass);
 }
 
 TEST_CASE_FIXTURE(Bin, "any answer but Yes leaves bins and labels as they are") {

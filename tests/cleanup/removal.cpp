@@ -85,17 +85,24 @@ TEST_CASE_FIXTURE(Found,
     int pointer = 0;
     machine.folders.afterListing = [&](const std::string&) {
         progress = frame.lblScannedFiles.Caption();
-        pointer = form.Pointer();
+        pointer = machine.forms.ScreenPointer();
     };
     Clean();
     CHECK(progress == "Lösche 'C:\\WINDOWS\\Temp\\sub'");
     CHECK(pointer == toolkit::Hourglass);
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
     CHECK(list.Count() == 0);
     CHECK_FALSE(frame.cmdCleanTempFiles.Enabled());
     CHECK(frame.lblScannedFiles.Caption() == "Löschvorgang abgeschlossen!");
     CHECK(frame.lblHinweisTemp.Caption() ==
           "0 Dateien konnten nicht gelöscht werden (in Benutzung).");
+}
+
+TEST_CASE_FIXTURE(Found, "the deletion takes no hourglass of the form's own away") {
+    form.SetPointer(toolkit::Hourglass);
+    Clean();
+    CHECK(list.Count() == 0);
+    CHECK(form.ShownPointer() == toolkit::Hourglass);
 }
 
 TEST_CASE_FIXTURE(Found, "an unticked file stays, an unticked folder goes all the same") {

@@ -16,14 +16,13 @@ using Settings = std::vector<contract::ClockSetting>;
 
 struct Fixture {
     contract::TestMachine machine;
-    toolkit::Form form{machine.Services().forms, "frmMain", "", {}};
     Socket& socket = machine.Services().socket;
 
     // What the clock is set to by the client's requests, one pressed behind the other, when all is
     // over.
     Settings Ask(std::uint16_t port, int requests = 1, const char* host = "127.0.0.1") {
-        timesync::TimeClient client(form, socket, machine.Services().clock, machine.NotingClock(),
-                                    {host, port});
+        timesync::TimeClient client(machine.Services().forms, socket, machine.Services().clock,
+                                    machine.NotingClock(), {host, port});
         connections = 0;
         bytesCame = false;
         closes = 0;

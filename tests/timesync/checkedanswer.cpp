@@ -26,7 +26,7 @@ struct Connected : Frame {
         machine.clock.Advance(500);
         machine.socket.RaiseAll();
         machine.network.dialUpConnections = 1;
-        form.SetPointer(toolkit::Hourglass);
+        machine.forms.SetScreenPointer(toolkit::Hourglass);
         synchronization.Stop_tmrUhrzeit();
         form.Find<toolkit::Label>("lblDateAndTime").SetCaption("angefordert");
         machine.journal.Clear();
@@ -65,8 +65,9 @@ TEST_CASE_FIXTURE(Frame, "half a second goes down where the even neighbour is be
 TEST_CASE_FIXTURE(Connected, "without a dial-up connection the clock is set and a warning shown") {
     machine.network.dialUpConnections = 0;
     bool hourglass = false;
-    machine.messages.WhileOpen(NoConnection.title,
-                               [&] { hourglass = form.Pointer() == toolkit::Hourglass; });
+    machine.messages.WhileOpen(NoConnection.title, [&] {
+        hourglass = machine.forms.ScreenPointer() == toolkit::Hourglass;
+    });
     CHECK_FALSE(Runs());
     Apply(Answer);
     CHECK(ClockCalls().size() == 1);
@@ -75,7 +76,7 @@ TEST_CASE_FIXTURE(Connected, "without a dial-up connection the clock is set and 
     CHECK(hourglass);
     CHECK(Label() == "");
     CHECK(machine.journal.Calls("Label") == Lines{"Label \"\""});
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
     CHECK(Runs());
 }
 
@@ -91,7 +92,7 @@ TEST_CASE_FIXTURE(Connected, "an answer of the wrong length is not expected any 
     // Emptied, but not painted at once.
     CHECK(Label() == "");
     CHECK(machine.journal.Calls("Label").empty());
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
     CHECK(Runs());
 }
 

@@ -59,35 +59,17 @@ struct LabelWatch final : toolkit::ControlView {
     platform::simulated::Journal& journal;
 };
 
-// Notes in the journal when the form's pointer changes.
-struct PointerWatch final : toolkit::FormView {
-    PointerWatch(toolkit::Form& watched, platform::simulated::Journal& into)
-        : form(watched), journal(into) {
-        form.SetView(this);
-    }
-    ~PointerWatch() override { form.SetView(nullptr); }
-    void Refresh(toolkit::FormAspect what) override {
-        if (what != toolkit::FormAspect::Pointer) return;
-        journal.Note([&] { return "Pointer " + std::to_string(form.Pointer()); });
-    }
-
-    toolkit::Form& form;
-    platform::simulated::Journal& journal;
-};
-
 // The frame on a form of its own, its clock running, the time server chosen.
 struct Frame {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmMain", "", {}};
     timesync::Synchronization synchronization{form, machine.services};
     std::unique_ptr<LabelWatch> labelWatch;
-    std::unique_ptr<PointerWatch> pointerWatch;
 
     Frame() {
         timesync::AddSynchronizeFrame(form, machine.clock);
         labelWatch = std::make_unique<LabelWatch>(form.Find<toolkit::Label>("lblDateAndTime"),
                                                   machine.journal);
-        pointerWatch = std::make_unique<PointerWatch>(form, machine.journal);
         form.Find<toolkit::OptionButton>("optAtomUhr").SetValue(true);
         synchronization.Start_tmrUhrzeit();
         machine.journal.Clear();

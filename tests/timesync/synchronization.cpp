@@ -110,7 +110,7 @@ TEST_CASE_FIXTURE(Frame, "a server that refuses has been told a success all the 
     CHECK(Shown() == std::vector{Success});
     CHECK(ClockCalls().empty());
     CHECK(Runs());
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Frame, "pressing again while the answer is pending asks anew") {
@@ -135,6 +135,25 @@ TEST_CASE_FIXTURE(Frame,
                          "Label \"\"", SuccessLine, "SetTimer 1000 -> #2", "Label \"\"",
                          SuccessLine});
     CHECK(Runs());
+}
+
+TEST_CASE_FIXTURE(Frame, "neither source, nor an answer, takes a form's own hourglass away") {
+    machine.socket.Serve(37, {{Answer}});
+    form.SetPointer(toolkit::Hourglass);
+    Press();
+    machine.socket.RaiseAll();
+    for (const char* server : {"", "niemand"}) {
+        UseServer(server);
+        Press();
+    }
+    machine.faults.FailAll("SetLocalDate", 70);
+    UseServer("");
+    Press();
+    CHECK(ClockCalls() == Lines{"SetLocalDate 2026-11-21 -> failure 70"});
+    CHECK(Shown().size() == 5);
+    CHECK(form.ShownPointer() == toolkit::Hourglass);
+    form.SetPointer(toolkit::DefaultPointer);
+    CHECK(form.ShownPointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Frame, "the clock runs again from the first of the two messages on") {
@@ -167,7 +186,7 @@ TEST_CASE_FIXTURE(Frame, "a server that does not answer is told of, once, and no
     UseServer("niemand");
     bool runs = true;
     machine.messages.WhileOpen("Fehler beim synchronisieren", [&] {
-        runs = Runs() || Label() != "" || form.Pointer() != toolkit::DefaultPointer;
+        runs = Runs() || Label() != "" || machine.forms.ScreenPointer() != toolkit::DefaultPointer;
     });
     Press();
     CHECK(Shown() == std::vector{ServerFailure});
@@ -189,7 +208,8 @@ TEST_CASE_FIXTURE(Frame, "without the right to set the clock the failure is told
     UseServer("");
     bool atRest = false;
     machine.messages.WhileOpen(Title, [&] {
-        atRest = !Runs() && Label() == "" && form.Pointer() == toolkit::DefaultPointer;
+        atRest =
+            !Runs() && Label() == "" && machine.forms.ScreenPointer() == toolkit::DefaultPointer;
     });
     Press();
     CHECK(Shown() == std::vector{NotDone("Zugriff verweigert [70]")});

@@ -16,7 +16,7 @@ const std::string Answer = "\xC3\xF2\xF9\xFD";
 struct Client {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmMain", "", {}};
-    timesync::TimeClient client{form, machine.socket, machine.clock, machine.systemClock,
+    timesync::TimeClient client{machine.forms, machine.socket, machine.clock, machine.systemClock,
                                 timesync::PublicTimeServer()};
 
     // The clock calls that one whole connection brings.
@@ -151,11 +151,11 @@ TEST_CASE_FIXTURE(Client, "a second request drops the first with what has come o
 TEST_CASE_FIXTURE(Client, "arriving bytes bring the default pointer back") {
     machine.socket.Serve(37, {{Answer}});
     client.Request();
-    form.SetPointer(toolkit::Hourglass);
+    machine.forms.SetScreenPointer(toolkit::Hourglass);
     machine.socket.RaiseNext();
-    CHECK(form.Pointer() == toolkit::Hourglass);
+    CHECK(machine.forms.ScreenPointer() == toolkit::Hourglass);
     machine.socket.RaiseNext();
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Client, "the moment of connecting is kept, in seconds since midnight") {
@@ -171,12 +171,12 @@ TEST_CASE_FIXTURE(Client, "the moment of connecting is kept, in seconds since mi
 
 TEST_CASE_FIXTURE(Client, "bytes that cannot be taken are the failure of their arrival") {
     machine.faults.FailAll("Socket.GetData", 10053);
-    form.SetPointer(toolkit::Hourglass);
+    machine.forms.SetScreenPointer(toolkit::Hourglass);
     machine.socket.Serve(37, {{Answer}});
     client.Request();
     CHECK(machine.socket.RaiseNext());
     CHECK(FailureOf([&] { machine.socket.RaiseNext(); }) == 10053);
-    CHECK(form.Pointer() == toolkit::Hourglass);
+    CHECK(machine.forms.ScreenPointer() == toolkit::Hourglass);
     machine.socket.RaiseAll();
     CHECK(machine.journal.Calls("SetSystemTime").empty());
     CHECK(machine.socket.State() == Socket::Closed);
@@ -186,4 +186,17 @@ TEST_CASE_FIXTURE(Client, "a system without a network fails the request") {
     machine.faults.FailAll("Socket.Connect", 429);
     CHECK(FailureOf([&] { client.Request(); }) == 429);
     CHECK(client.answerExpected);
+}
+
+TEST_CASE("a client that is gone hears nothing more of its socket") {
+    platform::simulated::Machine machine;
+    {
+        timesync::TimeClient client(machine.forms, machine.socket, machine.clock,
+                                    machine.systemClock, timesync::PublicTimeServer());
+        CHECK(machine.socket.onConnect);
+    }
+    CHECK_FALSE(machine.socket.onConnect);
+    CHECK_FALSE(machine.socket.onDataArrival);
+    CHECK_FALSE(machine.socket.onClose);
+    CHECK_FALSE(machine.socket.onError);
 }

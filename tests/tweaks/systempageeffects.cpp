@@ -91,5 +91,5 @@ TEST_CASE_FIXTURE(SystemPage, "the button takes the block and gives it back with
     CHECK(machine.journal.Calls("Memory.Blanks").size() == 2);
     CHECK(machine.memory.Peak() == 240000000);
     CHECK(machine.memory.Held() == 0);
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
 }

@@ -51,7 +51,7 @@ struct Drives {
         const std::string drive = rest.substr(0, 2);
         if (rest == "> tmpout.txt") {
             CHECK(machine.folders.current == "C:\\");
-            CHECK(form.Pointer() == toolkit::Hourglass);
+            CHECK(machine.forms.ScreenPointer() == toolkit::Hourglass);
             std::string output;
             for (const auto& [letter, folder] : made) {
                 output += letter + "\\: => " + folder + "\r\n";

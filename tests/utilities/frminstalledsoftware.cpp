@@ -20,7 +20,7 @@ TEST_CASE_FIXTURE(Software, "complete entries are listed by name with key and un
     CHECK(list.Text(1, 1) == "{123}");
     CHECK(list.Text(1, 2) == "C:\\o.exe");
     CHECK(Found() == "Gefunden: 2 Anwendungen");
-    CHECK(form.Pointer() == 0);
+    CHECK(machine.forms.ScreenPointer() == 0);
     CHECK(machine.messages.Shown().empty());
 }
 
@@ -167,10 +167,10 @@ TEST_CASE_FIXTURE(Software, "the list is painted again when it is sorted, not be
 TEST_CASE_FIXTURE(Software, "the hourglass is shown as long as the list is filled") {
     ShowThree();
     int pointer = -1;
-    restless.After(2, [&] { pointer = form.Pointer(); });
+    restless.After(2, [&] { pointer = machine.forms.ScreenPointer(); });
     Press("cmdRefresh");
     CHECK(pointer == toolkit::Hourglass);
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Software, "a failure on the way leaves neither a locked list nor the hourglass") {
@@ -180,7 +180,7 @@ TEST_CASE_FIXTURE(Software, "a failure on the way leaves neither a locked list n
         machine.journal.Clear();
         restless.After(call, [] { throw runtime::Failure(runtime::OutOfMemory); });
         CHECK_THROWS_AS(Press("cmdRefresh"), runtime::Failure);
-        CHECK(form.Pointer() == toolkit::DefaultPointer);
+        CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
         CHECK(machine.journal.Calls("LockWindowUpdate") ==
               Lines{"LockWindowUpdate lvwSoftware", "LockWindowUpdate 0"});
     }

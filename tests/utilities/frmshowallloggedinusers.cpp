@@ -25,7 +25,7 @@ struct Users {
         REQUIRE(machine.messages.Shown().size() == 1);
         CHECK(machine.messages.Shown()[0] == platform::simulated::ShownMessage{"Fehler", text, 16});
         CHECK_FALSE(lblWait.Visible());
-        CHECK(form.Pointer() == 0);
+        CHECK(machine.forms.ScreenPointer() == 0);
         CHECK(form.Loaded());
     }
 };
@@ -43,7 +43,7 @@ TEST_CASE_FIXTURE(Users, "each logon is a line of domain and name, in the order 
                                     "NT-AUTORITÄT\\LOKALER DIENST", "ARBEITSGRUPPE\\PC-1$"});
     CHECK(machine.messages.Shown().empty());
     CHECK_FALSE(lblWait.Visible());
-    CHECK(form.Pointer() == 0);
+    CHECK(machine.forms.ScreenPointer() == 0);
 }
 
 TEST_CASE_FIXTURE(Users, "what a record does not tell is empty beside the backslash") {
@@ -114,7 +114,7 @@ TEST_CASE_FIXTURE(Users, "access denied is told in the system's words, over an e
     machine.faults.FailAll("NetWkstaUserEnum", 5);
     machine.messages.WhileOpen("Fehler", [&] {
         CHECK(lblWait.Visible());
-        CHECK(form.Pointer() == 11);
+        CHECK(machine.forms.ScreenPointer() == 11);
     });
     form.Show();
     CHECK(lstUsers.Items().empty());
@@ -156,7 +156,7 @@ TEST_CASE_FIXTURE(Users, "a box that cannot be shown leaves an empty list and a 
     CHECK(machine.messages.Shown().empty());
     CHECK(lstUsers.Items().empty());
     CHECK_FALSE(lblWait.Visible());
-    CHECK(form.Pointer() == 0);
+    CHECK(machine.forms.ScreenPointer() == 0);
 }
 
 TEST_CASE_FIXTURE(Users, "Aktualisieren reads the list anew, which does not grow by it") {

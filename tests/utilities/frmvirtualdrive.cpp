@@ -24,7 +24,7 @@ TEST_CASE_FIXTURE(Drives, "the drives are listed with what they are, one command
     CHECK_FALSE(machine.files.Content(Output));
     CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
     CHECK(machine.processes.OpenHandles() == 0);
-    CHECK(form.Pointer() == 0);
+    CHECK(machine.forms.ScreenPointer() == 0);
     CHECK_FALSE(Enabled("cmdcreate"));
     CHECK_FALSE(Enabled("cmddelete"));
 }
@@ -541,7 +541,7 @@ TEST_CASE_FIXTURE(Drives, "while a command runs the dialog lives, and may even b
     }
     CHECK(events > 1);
     CHECK(machine.processes.OpenHandles() == 0);
-    CHECK(form.Pointer() == 0);
+    CHECK(machine.forms.ScreenPointer() == 0);
 }
 
 TEST_CASE_FIXTURE(Drives, "a header sorts, and a new time starts unsorted") {

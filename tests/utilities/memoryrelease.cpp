@@ -12,29 +12,12 @@ using utilities::BlockSizeFor;
 
 namespace {
 
-// Notes in the journal when the form's pointer changes.
-struct PointerWatch final : toolkit::FormView {
-    PointerWatch(toolkit::Form& watched, platform::simulated::Journal& into)
-        : form(watched), journal(into) {
-        form.SetView(this);
-    }
-    ~PointerWatch() override { form.SetView(nullptr); }
-    void Refresh(toolkit::FormAspect what) override {
-        if (what != toolkit::FormAspect::Pointer) return;
-        journal.Note([&] { return "Pointer " + std::to_string(form.Pointer()); });
-    }
-
-    toolkit::Form& form;
-    platform::simulated::Journal& journal;
-};
-
 struct Released {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmMain", "", {}};
-    PointerWatch watch{form, machine.journal};
     const Lines& lines = machine.journal.Lines();
 
-    void Release() { utilities::ReleaseMemory(form, machine.memory, machine.locale); }
+    void Release() { utilities::ReleaseMemory(machine.forms, machine.memory, machine.locale); }
 };
 
 }  // namespace
@@ -68,6 +51,18 @@ TEST_CASE_FIXTURE(Released, "the block is taken under the hourglass and given ba
     CHECK(machine.memory.Held() == 0);
 }
 
+TEST_CASE_FIXTURE(Released, "a form's own hourglass stands before and after") {
+    form.SetPointer(toolkit::Hourglass);
+    Release();
+    CHECK(form.ShownPointer() == toolkit::Hourglass);
+}
+
+TEST_CASE_FIXTURE(Released, "the screen's pointer is the default afterwards, whatever it was") {
+    machine.forms.SetScreenPointer(toolkit::Hourglass);
+    Release();
+    CHECK(form.ShownPointer() == toolkit::DefaultPointer);
+}
+
 TEST_CASE_FIXTURE(Released, "half exactly at a limit takes the smaller block") {
     machine.memory.totalPhysical = "512000000";
     Release();
@@ -97,6 +92,6 @@ TEST_CASE_FIXTURE(Released, "a system that does not tell its memory gets the sma
     machine.faults.FailAll("Memory.TotalPhysical", runtime::CannotCreateObject);
     Release();
     CHECK(machine.memory.Peak() == 40000000);
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
     CHECK(machine.messages.Shown().empty());
 }

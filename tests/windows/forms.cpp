@@ -200,3 +200,40 @@ TEST_CASE("the hourglass covers the whole form until it is taken away") {
     desk.form.SetPointer(toolkit::DefaultPointer);
     CHECK(pointer() == LoadCursorW(nullptr, IDC_ARROW));
 }
+
+TEST_CASE("the screen's hourglass covers every form with what is on it, and uncovers their own") {
+    MainWindow desk;
+    desk.form.Add<toolkit::TextBox>("txt", toolkit::TextBoxStyle{});
+    desk.form.Add<PlainButton>("cmd", "OK");
+    desk.form.Show();
+    TestForm dialog(desk.host, "frmPassword");
+    dialog.Load();
+    const HCURSOR busy = LoadCursorW(nullptr, IDC_WAIT);
+    const HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
+    const auto over = [](HWND window, int place = HTCLIENT, UINT message = WM_MOUSEMOVE) {
+        SetCursor(nullptr);
+        SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                     MAKELPARAM(place, message));
+        return GetCursor();
+    };
+    desk.host.SetScreenPointer(toolkit::Hourglass);
+    CHECK(GetCursor() == busy);
+    CHECK(over(desk.Window()) == busy);
+    CHECK(over(desk.Find(desk.form, "txt")) == busy);
+    CHECK(over(desk.Find(desk.form, "cmd")) == busy);
+    CHECK(over(desk.host.WindowOf(dialog)) == busy);
+    // A window behind a dialog, where a press is the system's to answer.
+    CHECK(over(desk.Window(), HTERROR) == busy);
+    CHECK(over(desk.Window(), HTERROR, WM_LBUTTONDOWN) == arrow);
+    CHECK(over(desk.Window(), HTCAPTION) == arrow);
+    desk.form.SetPointer(toolkit::Hourglass);
+    desk.host.SetScreenPointer(toolkit::DefaultPointer);
+    CHECK(GetCursor() == arrow);
+    CHECK(over(desk.Window()) == busy);
+    CHECK(over(desk.Find(desk.form, "cmd")) == busy);
+    CHECK(over(desk.host.WindowOf(dialog)) == arrow);
+    desk.form.SetPointer(toolkit::DefaultPointer);
+    CHECK(over(desk.Window()) == arrow);
+    CHECK(over(desk.Find(desk.form, "txt")) == LoadCursorW(nullptr, IDC_IBEAM));
+    CHECK(over(desk.Find(desk.form, "cmd")) == arrow);
+}

@@ -64,6 +64,10 @@ Forms::Forms(Journal& journal) : journal_(journal) {}
 
 Forms::~Forms() = default;
 
+void Forms::ScreenPointerChanged() {
+    journal_.Note([&] { return "Pointer " + std::to_string(ScreenPointer()); });
+}
+
 void Forms::Open(toolkit::Form& form) {
     journal_.Note([&] { return "OpenForm " + form.Name(); });
     open_.push_back(&form);

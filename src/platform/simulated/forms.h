@@ -15,7 +15,7 @@ class Journal;
 
 // Windows without a screen. A modal form is answered from a script. Of what a form shows only its
 // transparency is journalled, and what its list views are told, since that is asked of the system
-// call by call.
+// call by call; and the screen's pointer.
 class Forms final : public toolkit::FormHost {
   public:
     explicit Forms(Journal& journal);
@@ -46,6 +46,8 @@ class Forms final : public toolkit::FormHost {
     toolkit::Bounds workArea{0, 0, 15360, 11100};
 
   private:
+    void ScreenPointerChanged() override;
+
     class View;
     class ListView;
 

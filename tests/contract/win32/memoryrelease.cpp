@@ -37,9 +37,10 @@ class SmallMemory final : public platform::Memory {
 struct Fixture {
     contract::TestMachine machine;
     SmallMemory memory{machine};
-    toolkit::Form form{machine.Services().forms, "frmMain", "", {}};
 
-    void Release() { utilities::ReleaseMemory(form, memory, machine.Services().locale); }
+    void Release() {
+        utilities::ReleaseMemory(machine.Services().forms, memory, machine.Services().locale);
+    }
 };
 
 }  // namespace
@@ -61,5 +62,5 @@ TEST_CASE_FIXTURE(Fixture, "a system that refuses the block is left in peace") {
     CHECK_NOTHROW(Release());
     CHECK(memory.asked == 20000000);
     CHECK(memory.peak == 0);
-    CHECK(form.Pointer() == toolkit::DefaultPointer);
+    CHECK(machine.Services().forms.ScreenPointer() == toolkit::DefaultPointer);
 }

@@ -54,9 +54,8 @@ TEST_CASE_FIXTURE(Fixture,
 
 TEST_CASE_FIXTURE(Fixture, "four bytes of a connection that then breaks off set no clock") {
     socket.Close();
-    toolkit::Form form(machine.Services().forms, "frmMain", "", {});
     timesync::TimeClient client(
-        form, socket, machine.Services().clock, machine.NotingClock(),
+        machine.Services().forms, socket, machine.Services().clock, machine.NotingClock(),
         {"127.0.0.1", machine.Serve({{{"\xC3\xF2\xF9\xFD"}, ServerAnswer::End::Stays}})});
     bool arrived = false;
     const auto take = socket.onDataArrival;

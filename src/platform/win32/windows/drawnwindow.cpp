@@ -179,9 +179,9 @@ bool DrawnWindow::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     return false;
 }
 
-// While its form waits, its pointer counts for all that is on it.
+// While the hourglass covers its form, it counts for all that is on it.
 bool DrawnWindow::SetPointer() const {
-    if (control_.Owner().Pointer() == toolkit::Hourglass) return false;
+    if (control_.Owner().ShownPointer() == toolkit::Hourglass) return false;
     const HCURSOR pointer = NativePointer(control_.MousePicture());
     if (pointer) SetCursor(pointer);
     return pointer != nullptr;

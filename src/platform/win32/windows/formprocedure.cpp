@@ -20,6 +20,12 @@ toolkit::WindowState StateOf(HWND window) {
     return IsZoomed(window) ? toolkit::WindowState::Maximised : toolkit::WindowState::Normal;
 }
 
+// Whether the mouse moves inside the window, or there while a dialog keeps the user from it.
+bool IsInside(LPARAM place) {
+    return LOWORD(place) == HTCLIENT ||
+           (LOWORD(place) == LOWORD(HTERROR) && HIWORD(place) == WM_MOUSEMOVE);
+}
+
 }  // namespace
 
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -91,7 +97,7 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (const auto control = controls_.Find(reinterpret_cast<HWND>(wParam))) {
                 control->PointerCame();
             }
-            if (form_.Pointer() != toolkit::Hourglass || LOWORD(lParam) != HTCLIENT) break;
+            if (form_.ShownPointer() != toolkit::Hourglass || !IsInside(lParam)) break;
             SetCursor(LoadCursorW(nullptr, IDC_WAIT));
             return TRUE;
         case WM_SYSCOLORCHANGE:

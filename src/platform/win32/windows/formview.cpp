@@ -88,7 +88,7 @@ void FormWindow::ShowTaskbarEntry() {
 
 // At once, since the work that the hourglass stands for lets no message through.
 void FormWindow::ShowPointer() {
-    const bool busy = form_.Pointer() == toolkit::Hourglass;
+    const bool busy = form_.ShownPointer() == toolkit::Hourglass;
     SetCursor(LoadCursorW(nullptr, busy ? IDC_WAIT : IDC_ARROW));
 }
 

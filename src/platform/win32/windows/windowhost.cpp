@@ -107,6 +107,11 @@ std::string WindowHost::SortKey(std::string_view text) const {
     return key;
 }
 
+// The last word has the form that was loaded last, which is the one that the user works with.
+void WindowHost::ScreenPointerChanged() {
+    for (const auto& window : windows_) window->Refresh(toolkit::FormAspect::Pointer);
+}
+
 // Its view, if it has one, is one that this host has made.
 std::uintptr_t WindowHost::HandleOf(const toolkit::Control& control) const {
     const auto* window = static_cast<const ControlWindow*>(control.View());

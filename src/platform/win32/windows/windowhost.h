@@ -43,6 +43,7 @@ class WindowHost final : public FormHandles {
     HWND WindowOf(const toolkit::Form& form) const override;
 
   private:
+    void ScreenPointerChanged() override;
     std::shared_ptr<FormWindow> Find(const toolkit::Form& form) const;
     HWND OwnerFor(const toolkit::Form& form) const;
     bool ServeOne();
