@@ -86,8 +86,7 @@ Slider::Slider(Form& form, std::string name, SliderRange range, std::int32_t val
       value_(std::clamp(value, range.minimum, range.maximum)) {}
 
 void Slider::SetValue(std::int32_t value) {
-    value = std::clamp(value, range_.minimum, range_.maximum);
-    if (value == value_) return;
+    if (value == value_ || value < range_.minimum || value > range_.maximum) return;
     value_ = value;
     Changed(Aspect::Value);
     Raise(onChange);

@@ -144,7 +144,7 @@ class Slider : public Control {
     Slider(Form& form, std::string name, SliderRange range, std::int32_t value);
 
     std::int32_t Value() const { return value_; }
-    // A value outside the range is taken to its nearer end.
+    // A value outside the range leaves the slider where it is.
     void SetValue(std::int32_t value);
     const SliderRange& Range() const { return range_; }
 

@@ -36,6 +36,43 @@ TEST_CASE_FIXTURE(Start, "a stored level of 255 asks nothing of the shell") {
     CHECK(machine.journal.Calls("FindWindowA").empty());
 }
 
+TEST_CASE_FIXTURE(Start, "closing leaves the taskbar and the icons as they were made") {
+    const auto desktop = machine.windows.Open("Progman", "Program Manager");
+    const auto view = machine.windows.Open("SHELLDLL_DefView", "", desktop);
+    const auto icons = machine.windows.Open("SysListView32", "", view);
+    machine.settings.Put("TaskBar", "Luminance", "100");
+    machine.settings.Put("Desktop", "TransparentIcons", "1");
+    REQUIRE(Program::Start());
+    machine.journal.Clear();
+    CHECK(Close());
+    CHECK(Alpha() == 100);
+    CHECK(machine.windows.At(icons).textBackground == 0xFFFFFFFF);
+    for (const char* call :
+         {"FindWindow", "SetWindowLongA", "SetLayered", "SetWindowPos", "InvalidateRect"}) {
+        CAPTURE(call);
+        CHECK(machine.journal.Calls(call).empty());
+    }
+    CHECK(Setting("TaskBar", "Luminance") == "100");
+    CHECK(Setting("Desktop", "TransparentIcons") == "1");
+}
+
+TEST_CASE_FIXTURE(Start, "the opacity is asked of no other section and of no command line") {
+    machine.settings.Put("Settings", "TransparencyLevel", "77");
+    machine.settings.Put("Settings", "DesktopTransparent", "1");
+    machine.program.commandLine = "/silent /TransLevel:77 /transicons:1";
+    REQUIRE(Program::Start());
+    CHECK(Alpha() == 255);
+    CHECK(Text("txtLevelValue").Text() == "255");
+    CHECK(Check("chkIcons").Value() == 0);
+    CHECK(Close());
+    for (const std::string& line : machine.journal.Lines()) {
+        CHECK(line.find("\"Settings\"") == std::string::npos);
+        CHECK(line.find("ransLevel") == std::string::npos);
+    }
+    CHECK(Setting("Settings", "TransparencyLevel") == "77");
+    CHECK(Setting("Settings", "DesktopTransparent") == "1");
+}
+
 TEST_CASE_FIXTURE(Start, "a start without settings touches neither shell nor files nor processes") {
     REQUIRE(Program::Start());
     CHECK(machine.journal.Calls("FindWindowA").empty());
@@ -49,6 +86,14 @@ TEST_CASE_FIXTURE(Start, "a stored level that is no number stays in the box and 
     REQUIRE(Program::Start());
     CHECK(Text("txtLevelValue").Text() == "hell");
     CHECK(Alpha() == 255);
+}
+
+TEST_CASE_FIXTURE(Start, "a stored level outside the slider's range does nothing either") {
+    machine.settings.Put("TaskBar", "Luminance", "30");
+    REQUIRE(Program::Start());
+    CHECK(Text("txtLevelValue").Text() == "30");
+    CHECK(machine.journal.Calls("FindWindowA").empty());
+    CHECK(Setting("TaskBar", "Luminance") == "30");
 }
 
 TEST_CASE_FIXTURE(Start, "a stored level beyond 32 bits is passed over, and the start goes on") {

@@ -57,13 +57,26 @@ TEST_CASE_FIXTURE(SystemPage, "a box without a number keeps the level") {
     CHECK(machine.journal.Count() == 0);
 }
 
-TEST_CASE_FIXTURE(SystemPage, "a level below 55 becomes 55 and one above 255 becomes 255") {
-    Box().SetText("0");
-    CHECK(Luminance() == "55");
-    CHECK(Alpha() == 55);
-    Box().SetText("1000");
-    CHECK(Luminance() == "255");
-    CHECK(Alpha() == 255);
+TEST_CASE_FIXTURE(SystemPage, "a number below 55 or above 255 is neither stored nor applied") {
+    Box().SetText("200");
+    machine.journal.Clear();
+    for (const char* text : {"0", "54", "256", "1000", "-100"}) {
+        CAPTURE(text);
+        Box().SetText(text);
+        CHECK(Level().Value() == 200);
+        CHECK(Box().Text() == text);
+    }
+    CHECK(machine.journal.Count() == 0);
+    Level().SetValue(100);
+    CHECK(Box().Text() == "100");
+}
+
+TEST_CASE_FIXTURE(SystemPage, "a level typed digit by digit acts when it is one, and only then") {
+    for (const char* text : {"", "2", "20", "200"}) Box().SetText(text);
+    CHECK(machine.journal.Calls("SaveSetting").size() == 1);
+    CHECK(Luminance() == "200");
+    CHECK(Alpha() == 200);
+    CHECK(Box().Text() == "200");
 }
 
 TEST_CASE_FIXTURE(SystemPage, "the designed level given once more does nothing") {
