@@ -23,8 +23,8 @@ class Messages {
   public:
     virtual ~Messages() = default;
 
-    // Shows the box over the program's active window and returns the answer's code. Line ends in
-    // the text are CR LF.
+    // Shows the box over the program's active window and returns the answer's code, or 0, which is
+    // no answer, when the box cannot be shown. Line ends in the text are CR LF.
     virtual int Show(std::string_view text, int style, std::string_view title) = 0;
 };
 

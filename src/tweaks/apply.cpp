@@ -19,11 +19,9 @@ using runtime::Skip;
 
 constexpr int AskYesNo = message::YesNo + message::Question;
 
-// A box that cannot be shown answers nothing, which is neither Yes nor No.
-int Ask(const platform::Machine& machine, const char* text, const char* title) {
-    int answer = 0;
-    Skip([&] { answer = machine.messages.Show(text, AskYesNo, title); });
-    return answer;
+// A box that cannot be shown answers nothing, which is not Yes.
+bool IsYes(const platform::Machine& machine, const char* text, const char* title) {
+    return machine.messages.Show(text, AskYesNo, title) == message::Yes;
 }
 
 }  // namespace
@@ -33,8 +31,8 @@ Apply::Apply(toolkit::Form& mainForm, controls::frmPassword& password,
     : mainForm_(mainForm), password_(password), machine_(machine), parts_(std::move(parts)) {}
 
 void Apply::Run() {
-    if (Ask(machine_, "Sollen die Einstellungen übernommen werden?", "Einstellungen speichern") !=
-        message::Yes) {
+    if (!IsYes(machine_, "Sollen die Einstellungen übernommen werden?",
+               "Einstellungen speichern")) {
         return;
     }
     if (!PasswordConfirmed()) return;
@@ -59,23 +57,21 @@ bool Apply::PasswordConfirmed() {
     });
     Skip([&] { password_.ShowModal(); });
     if (typed.Text() == expected) return true;
-    Skip([&] {
-        machine_.messages.Show(
-            "Das Passwort ist falsch.\r\nBitte Passworteingabe beim Auto-Login überprüfen!",
-            message::Exclamation, "Passwort falsch");
-    });
+    machine_.messages.Show(
+        "Das Passwort ist falsch.\r\nBitte Passworteingabe beim Auto-Login überprüfen!",
+        message::Exclamation, "Passwort falsch");
     return false;
 }
 
 // The system's own wizard does the work; whether a point was really set is not known. Neither
 // answer changes what follows.
 void Apply::OfferRestorePoint() {
-    const int answer = Ask(machine_,
-                           "Sollen ein Systemwiederherstellungspunkt gesetzt werden?\r\n\r\n"
-                           "(Sie können damit das System wieder herstellen wenn es nach den\r\n"
-                           "Änderungen nicht mehr Ordnungsgemäß funktioniert!)",
-                           "Systemwiederherstellungspunkt");
-    if (answer != message::Yes) return;
+    const bool wanted = IsYes(machine_,
+                              "Sollen ein Systemwiederherstellungspunkt gesetzt werden?\r\n\r\n"
+                              "(Sie können damit das System wieder herstellen wenn es nach den\r\n"
+                              "Änderungen nicht mehr Ordnungsgemäß funktioniert!)",
+                              "Systemwiederherstellungspunkt");
+    if (!wanted) return;
     Skip([&] {
         const utilities::clsGetSystemDirectoryPaths paths(machine_.facts);
         utilities::ShellWait(machine_.processes, paths.SystemDirectory() + "\\restore\\rstrui.exe",
@@ -86,13 +82,13 @@ void Apply::OfferRestorePoint() {
 // Asked after every pass, whatever the pass did: it gives nothing back. The restart never forces,
 // and the option boxes for restarts have no say here.
 void Apply::OfferRestart() {
-    const int answer =
-        Ask(machine_,
-            "Einstellungen erfolgreich übernommen!\r\n\r\n"
-            "Zum initialisieren einiger Einstellungen ist ein Neustart erforderlich.\r\n\r\n"
-            "Soll der Neustart von Windows nun durchgeführt werden?",
-            "Einstellungen gespeichert");
-    if (answer != message::Yes) return;
+    const bool wanted =
+        IsYes(machine_,
+              "Einstellungen erfolgreich übernommen!\r\n\r\n"
+              "Zum initialisieren einiger Einstellungen ist ein Neustart erforderlich.\r\n\r\n"
+              "Soll der Neustart von Windows nun durchgeführt werden?",
+              "Einstellungen gespeichert");
+    if (!wanted) return;
     Skip([&] { machine_.session.ExitSession(platform::Session::Restart, 0); });
     Skip([&] { mainForm_.Unload(); });
 }

@@ -319,7 +319,7 @@ void frmVirtualDrive::RunDelete() {
     const std::string drive = runtime::Left(lstDrives_.Text(lstDrives_.SelectedRow()), 2);
     const std::string question =
         "Sind Sie sicher das Sie das virtuelle Laufwerk '" + drive + "' löschen wollen?";
-    if (machine_.messages.Show(question, Question, "Virtuelles Laufwerk löschen") == message::No) {
+    if (machine_.messages.Show(question, Question, "Virtuelles Laufwerk löschen") != message::Yes) {
         return;
     }
     machine_.folders.MakeCurrent(AppRoot_);
@@ -378,7 +378,7 @@ void frmVirtualDrive::Exit() {
         const std::string question =
             "Wollen Sie die Einstellungen zum neuen virtuellen Laufwerk '" + cbodrives_.Text() +
             "' wirklich verwerfen?";
-        if (machine_.messages.Show(question, Question, "Einstellungen verwerfen") == message::No) {
+        if (machine_.messages.Show(question, Question, "Einstellungen verwerfen") != message::Yes) {
             return;
         }
     }

@@ -37,7 +37,7 @@ void Launchers::CheckSystemFiles() const {
         "Für diesen Vorgang benötigen Sie die Windows XP Installations CD\r\n\r\n"
         "Möchten Sie fortfahren?",
         message::YesNo + message::Question, "Überprüfung der Windows XP Systemdateien");
-    if (answer != message::No) LoadExtern("\\System32\\sfc.exe /scannow");
+    if (answer == message::Yes) LoadExtern("\\System32\\sfc.exe /scannow");
 }
 
 void Launchers::OpenSystemProperties() const {

@@ -187,18 +187,24 @@ TEST_CASE("a missing restore wizard is passed over in silence") {
     CHECK_FALSE(dialogue.machine.files.Content(LogPath).has_value());
 }
 
-TEST_CASE("the program's options are stored before the system is written") {
+TEST_CASE("after the wizard the program's options are stored, and then the system is written") {
     Dialogue dialogue;
-    dialogue.Answer(6, 7, 7);
+    dialogue.Answer(6, 6, 7);
     dialogue.Apply();
+    std::size_t wizardEnd = 0;
+    std::size_t firstSave = 0;
     std::size_t lastSave = 0;
     std::size_t firstSet = 0;
     const auto& lines = dialogue.machine.journal.Lines();
     for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].starts_with("WaitForSingleObject")) wizardEnd = i;
+        if (firstSave == 0 && lines[i].starts_with("SaveSetting")) firstSave = i;
         // The preview's own setting is saved by the pass.
         if (lines[i].starts_with("SaveSetting \"Quillmore\" \"Options\"")) lastSave = i;
         if (firstSet == 0 && lines[i].rfind("RegSetValueExA", 0) == 0) firstSet = i;
     }
+    CHECK(wizardEnd > 0);
+    CHECK(wizardEnd < firstSave);
     CHECK(lastSave > 0);
     CHECK(lastSave < firstSet);
 }
@@ -214,15 +220,72 @@ TEST_CASE("No to the restart keeps the program open and the controls as they are
           platform::simulated::DwordValue(1));
 }
 
-TEST_CASE("Yes to the restart asks for a restart without force, then closes the program") {
+TEST_CASE("the restart is asked about and never forced, whatever the boxes for restarts say") {
+    for (const int asks : {0, 1}) {
+        for (const int forces : {0, 1}) {
+            CAPTURE(asks);
+            CAPTURE(forces);
+            Dialogue dialogue;
+            dialogue.Check("chkRebootQuestion").SetValue(asks);
+            dialogue.Check("chkForceReboot").SetValue(forces);
+            dialogue.Answer(6, 7, 6);
+            CHECK(dialogue.Apply());
+            CHECK(dialogue.Titles() == Strings{Confirm, RestorePoint, Done});
+            CHECK(dialogue.machine.session.requests ==
+                  std::vector<platform::simulated::Session::Request>{{2, 0}});
+            CHECK(dialogue.Stored("Tab") == "0");
+        }
+    }
+}
+
+TEST_CASE("a first question that cannot be shown writes nothing") {
     Dialogue dialogue;
-    dialogue.Check("chkForceReboot").SetValue(1);
-    dialogue.Check("chkRebootQuestion").SetValue(1);
+    dialogue.machine.faults.FailOn(Confirm, runtime::OutOfMemory);
+    CHECK_FALSE(dialogue.Apply());
+    CHECK(dialogue.Titles().empty());
+    CHECK_FALSE(dialogue.Wrote());
+    CHECK(dialogue.machine.journal.Calls("SaveSetting").empty());
+}
+
+TEST_CASE("a restore point that cannot be asked about is not made, and all is written") {
+    Dialogue dialogue;
+    dialogue.machine.faults.FailOn(RestorePoint, runtime::OutOfMemory);
+    dialogue.Answer(6, 6, 7);
+    CHECK_FALSE(dialogue.Apply());
+    CHECK(dialogue.machine.processes.All().empty());
+    CHECK(dialogue.Titles() == Strings{Confirm, Done});
+    CHECK(dialogue.Wrote());
+}
+
+TEST_CASE("a restart that cannot be asked about does not come") {
+    Dialogue dialogue;
+    dialogue.machine.faults.FailOn(Done, runtime::OutOfMemory);
     dialogue.Answer(6, 7, 6);
-    CHECK(dialogue.Apply());
-    CHECK(dialogue.machine.session.requests ==
-          std::vector<platform::simulated::Session::Request>{{2, 0}});
-    CHECK(dialogue.Stored("Tab") == "0");
+    CHECK_FALSE(dialogue.Apply());
+    CHECK(dialogue.Wrote());
+    CHECK(dialogue.machine.session.requests.empty());
+    CHECK(dialogue.form->Loaded());
+}
+
+TEST_CASE("the hourglass is shown while the system is written, not while Apply asks") {
+    Dialogue dialogue;
+    dialogue.SetAutoLogin("Geheim");
+    dialogue.Combo("cboMTU").SetText("");
+    std::vector<int> pointers;
+    const auto look = [&] { pointers.push_back(dialogue.form->Pointer()); };
+    dialogue.machine.forms.WhenModal("frmPassword", [&](toolkit::Form& dialog) {
+        look();
+        dialog.Find<toolkit::TextBox>("txtPasswort").SetText("Geheim");
+        dialog.Hide();
+    });
+    for (const char* title : {Confirm, RestorePoint, "Fehler", Done}) {
+        dialogue.machine.messages.WhileOpen(title, look);
+    }
+    dialogue.Answer(6, 7, 7);
+    dialogue.Apply();
+    CHECK(pointers == std::vector<int>{toolkit::DefaultPointer, toolkit::DefaultPointer,
+                                       toolkit::DefaultPointer, toolkit::Hourglass,
+                                       toolkit::DefaultPointer});
 }
 
 TEST_CASE("a restart request that fails is silent and still closes the program") {

@@ -126,3 +126,15 @@ TEST_CASE_FIXTURE(Applying, "a complaint about a number is no failure") {
     CHECK(OfTcp("DefaultTTL") == DwordValue(64));
     CHECK(form->Pointer() == toolkit::DefaultPointer);
 }
+
+TEST_CASE_FIXTURE(Applying,
+                  "a complaint that cannot be shown does not keep the pass from going on") {
+    Combo("cboMTU").SetText("abc");
+    machine.faults.FailOn("Fehler", runtime::OutOfMemory);
+    form->WriteRegistry();
+    CHECK(machine.journal.Calls("MessageBox").size() == 3);
+    CHECK(machine.messages.Shown().empty());
+    CHECK(Records() == 0);
+    CHECK(OfTcp("DefaultTTL") == DwordValue(64));
+    CHECK(form->Pointer() == toolkit::DefaultPointer);
+}

@@ -144,6 +144,9 @@ class TestMachine {
     // that is empty. `whileOpen` runs before.
     void UseNextMenu(std::string caption, std::function<void()> whileOpen = nullptr);
 
+    // While the action runs, no message box can be shown.
+    void WithoutBoxes(const std::function<void()>& action);
+
     // The user of the next folder dialog leaves it as it opened and closes it with OK, or cancels.
     void UseNextFolderDialog(bool ok);
 

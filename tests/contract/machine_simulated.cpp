@@ -189,6 +189,12 @@ void TestMachine::UseNextMenu(std::string caption, std::function<void()> whileOp
     inside_->machine.menus.WhileOpen(std::move(whileOpen));
 }
 
+void TestMachine::WithoutBoxes(const std::function<void()>& action) {
+    inside_->machine.faults.FailAll("MessageBox", runtime::OutOfMemory);
+    action();
+    inside_->machine.faults.Clear();
+}
+
 void TestMachine::UseNextFolderDialog(bool ok) {
     inside_->machine.shell.WhenBrowsing([ok](platform::simulated::FolderDialog&) { return ok; });
 }

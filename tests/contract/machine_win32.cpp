@@ -157,6 +157,15 @@ BOOL WINAPI NoteSystem(const SYSTEMTIME* moment) {
     return NoteSetting(moment, true);
 }
 
+LRESULT CALLBACK RefuseDialogs(int code, WPARAM window, LPARAM facts) {
+    const auto isDialog = [&] {
+        return GetClassLongW(reinterpret_cast<HWND>(window), GCW_ATOM) ==
+               LOWORD(reinterpret_cast<ULONG_PTR>(WC_DIALOG));
+    };
+    if (code == HCBT_CREATEWND && isDialog()) return 1;
+    return CallNextHookEx(nullptr, code, window, facts);
+}
+
 }  // namespace
 
 struct TestMachine::Inside {
@@ -374,6 +383,12 @@ bool TestMachine::PassTime(int milliseconds, const std::function<bool()>& done) 
 void TestMachine::UseNextMenu(std::string caption, std::function<void()> whileOpen) {
     inside_->menuUser.reset();
     inside_->menuUser = std::make_unique<MenuUser>(std::move(caption), std::move(whileOpen));
+}
+
+void TestMachine::WithoutBoxes(const std::function<void()>& action) {
+    const HHOOK hook = SetWindowsHookExW(WH_CBT, RefuseDialogs, nullptr, GetCurrentThreadId());
+    action();
+    UnhookWindowsHookEx(hook);
 }
 
 void TestMachine::UseNextFolderDialog(bool ok) {

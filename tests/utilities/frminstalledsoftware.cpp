@@ -355,7 +355,8 @@ TEST_CASE_FIXTURE(Software,
     }
     SUBCASE("which could not be shown") {
         machine.faults.FailAll("MessageBox", 5);
-        CHECK_THROWS_AS(Press("cmdDeleteItem"), runtime::Failure);
+        Press("cmdDeleteItem");
+        CHECK(HasKey("Alpha"));
         machine.faults.Clear();
         EndAlpha();
     }

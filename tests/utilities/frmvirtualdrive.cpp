@@ -521,6 +521,20 @@ TEST_CASE_FIXTURE(Drives, "closing asks only for a path that has not become a dr
     CHECK_FALSE(form.Loaded());
 }
 
+TEST_CASE_FIXTURE(Drives, "a question that cannot be shown removes nothing and closes nothing") {
+    Make("E:", "C:\\");
+    form.Show();
+    Browse("C:\\Programme");
+    Select(0);
+    Started();
+    machine.faults.FailAll("MessageBox", 5);
+    Press("cmddelete");
+    CHECK(Started().empty());
+    Press("cmdexit");
+    CHECK(form.Loaded());
+    CHECK(path.Text() == "C:\\PROGRA~1");
+}
+
 TEST_CASE_FIXTURE(Drives, "while a command runs the dialog lives, and may even be closed") {
     form.Show();
     Browse("C:\\Programme");

@@ -111,6 +111,13 @@ TEST_CASE("the check of the system's files asks for the CD first") {
               36});
 }
 
+TEST_CASE("a check of the system's files that cannot be asked about does not start") {
+    LauncherFixture f;
+    f.machine.faults.FailOn(Question, 5);
+    f.launchers.CheckSystemFiles();
+    CHECK(f.machine.processes.launched.empty());
+}
+
 TEST_CASE("the properties of the system are the shell's sheet number 2") {
     LauncherFixture f;
     f.launchers.OpenSystemProperties();

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
@@ -21,8 +23,10 @@ HWND ActiveWindow() {
 
 int Messages::Show(std::string_view text, int style, std::string_view title) {
     // Task-modal: without an owner all windows of the program are disabled, as an owner would be.
-    return MessageBoxW(ActiveWindow(), ToWide(text).c_str(), ToWide(title).c_str(),
-                       static_cast<UINT>(style) | MB_TASKMODAL);
+    const int answer = MessageBoxW(ActiveWindow(), ToWide(text).c_str(), ToWide(title).c_str(),
+                                   static_cast<UINT>(style) | MB_TASKMODAL);
+    // Wine tells -1 of a box that it could not make.
+    return std::max(answer, 0);
 }
 
 }  // namespace platform::win32
