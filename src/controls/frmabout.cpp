@@ -8,6 +8,7 @@
 #include "platform/systeminformation.h"
 #include "runtime/failure.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 
 namespace controls {
 namespace {
@@ -20,7 +21,6 @@ constexpr int Step = 2;
 constexpr int Shown = 254;
 constexpr int Gone = 4;
 
-constexpr int KeyEscape = 0x1B;
 constexpr toolkit::Colour Blue = 0xFF0000;
 
 constexpr const char* WebPage = "http://www.quillmore.example/";
@@ -102,7 +102,7 @@ void frmAbout::tmrOut_Timer() {
 }
 
 bool frmAbout::OnKeyDown(int virtualKey) {
-    if (virtualKey != KeyEscape) return false;
+    if (virtualKey != toolkit::key::Escape) return false;
     FadeOut();
     Unload();
     return true;

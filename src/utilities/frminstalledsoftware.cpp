@@ -8,10 +8,12 @@
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "registry/cregistry.h"
+#include "runtime/atend.h"
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "runtime/temporarily.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 #include "toolkit/listhelpers.h"
 #include "toolkit/listview.h"
 #include "utilities/processend.h"
@@ -23,9 +25,6 @@ using controls::chameleonButton;
 using platform::Registry;
 using toolkit::ListView;
 
-constexpr int KeyEscape = 0x1B;
-constexpr int KeyDelete = 0x2E;
-constexpr int KeyF5 = 0x74;
 constexpr int Question = platform::message::YesNo + platform::message::Question;
 
 constexpr const char* UninstallKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
@@ -40,13 +39,6 @@ std::string ReadText(registry::cRegistry& entry, const char* name) {
     entry.ValueType = Registry::String;
     return registry::AsText(entry.Value()).c_str();
 }
-
-// What a procedure leaves behind it, also when a failure ends it.
-template <typename Action>
-struct AtEnd {
-    Action action;
-    ~AtEnd() { action(); }
-};
 
 }  // namespace
 
@@ -67,7 +59,7 @@ frmInstalledSoftware::frmInstalledSoftware(const platform::Machine& machine)
     lvwSoftware_.onDoubleClick = [this] { AskUninstall(); };
     lvwSoftware_.onRightButton = [this] { OpenMenu(); };
     lvwSoftware_.onKeyDown = [this](int virtualKey) {
-        if (virtualKey == KeyDelete) DeleteSelected();
+        if (virtualKey == toolkit::key::Delete) DeleteSelected();
     };
 
     auto& lblFound = Add<toolkit::Label>("lblFound", "");
@@ -106,9 +98,9 @@ void frmInstalledSoftware::OnLoad() {
 }
 
 bool frmInstalledSoftware::OnKeyDown(int virtualKey) {
-    if (virtualKey == KeyF5) {
+    if (virtualKey == toolkit::key::F5) {
         FillSoftwareList(false);
-    } else if (virtualKey == KeyEscape) {
+    } else if (virtualKey == toolkit::key::Escape) {
         Unload();
     } else {
         return false;
@@ -123,7 +115,7 @@ void frmInstalledSoftware::OnUnload() {
 
 void frmInstalledSoftware::FillSoftwareList(bool onlyInvalid) {
     const toolkit::ScreenHourglass hourglass{host_};
-    const AtEnd end{[this] { lvwSoftware_.UnlockWindow(); }};
+    const runtime::AtEnd end{[this] { lvwSoftware_.UnlockWindow(); }};
     lvwSoftware_.LockWindow();
     lvwSoftware_.SetSorted(false);
     for (int rows = lvwSoftware_.Count(); rows > 0; --rows) lvwSoftware_.RemoveRow(0);
@@ -166,11 +158,7 @@ void frmInstalledSoftware::Uninstall(const std::vector<std::string>& commands) {
         StartUninstallers(commands);
     } catch (const runtime::Failure& failure) {
         EnableTimer(false);
-        machine_.messages.Show('\'' + SelectedText() + "' konnte nicht entfernt werden.\r\n\r\n" +
-                                   "Fehler: " + failure.description,
-                               platform::message::Critical,
-                               "Fehler beim deinstallieren aufgetreten");
-        FillSoftwareList(false);
+        TellFailure("entfernt werden.", failure, "Fehler beim deinstallieren aufgetreten");
     }
 }
 
@@ -184,7 +172,7 @@ void frmInstalledSoftware::StartUninstallers(const std::vector<std::string>& com
 }
 
 void frmInstalledSoftware::tmrActiveProcess_Timer() {
-    if (asking_ || IsProcessActive(machine_.processes, processId_)) return;
+    if (keepsRows_ || IsProcessActive(machine_.processes, processId_)) return;
     const int index = std::max(SelectedIndex(), 1);
     EnableTimer(false);
     FillSoftwareList(false);
@@ -195,13 +183,9 @@ void frmInstalledSoftware::DeleteSelected() {
     try {
         DeleteEntries();
     } catch (const runtime::Failure& failure) {
-        // Nothing may be selected at all, which is such a failure.
-        const std::string text = SelectedIndex() > 0 ? SelectedText() : "";
-        machine_.messages.Show(
-            '\'' + text + "' konnte nicht gelöscht werden!\r\n\r\nFehler: " + failure.description,
-            platform::message::Critical,
+        TellFailure(
+            "gelöscht werden!", failure,
             "Eintrag konnte nicht gelöscht werden [" + runtime::ToText(failure.number) + ']');
-        FillSoftwareList(false);
     }
 }
 
@@ -222,6 +206,16 @@ void frmInstalledSoftware::DeleteEntries() {
     }
     FillSoftwareList(false);
     SelectIndex(index);
+}
+
+// Nothing may be selected by then, which may be the very failure.
+void frmInstalledSoftware::TellFailure(const std::string& what, const runtime::Failure& failure,
+                                       const std::string& title) {
+    const std::string text = SelectedIndex() > 0 ? SelectedText() : "";
+    machine_.messages.Show(
+        '\'' + text + "' konnte nicht " + what + "\r\n\r\nFehler: " + failure.description,
+        platform::message::Critical, title);
+    FillSoftwareList(false);
 }
 
 int frmInstalledSoftware::SelectedIndex() const {
@@ -248,7 +242,7 @@ std::vector<std::string> frmInstalledSoftware::SelectedTexts(int column) const {
 }
 
 bool frmInstalledSoftware::IsYes(const std::string& question, const std::string& title) {
-    const runtime::Temporarily asking(asking_, true);
+    const runtime::Temporarily keepsRows(keepsRows_, true);
     return machine_.messages.Show(question, Question, title) == platform::message::Yes;
 }
 
@@ -264,7 +258,10 @@ void frmInstalledSoftware::EnableTimer(bool enabled) {
 
 void frmInstalledSoftware::OpenMenu() {
     if (lvwSoftware_.Count() == 0) return;
-    const toolkit::MenuItem* chosen = machine_.menus.Choose(mnuFile_);
+    const toolkit::MenuItem* chosen = [this] {
+        const runtime::Temporarily keepsRows(keepsRows_, true);
+        return machine_.menus.Choose(mnuFile_);
+    }();
     if (chosen) chosen->onClick();
 }
 

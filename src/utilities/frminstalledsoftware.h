@@ -9,6 +9,9 @@
 #include "toolkit/form.h"
 #include "toolkit/popupmenu.h"
 
+namespace runtime {
+class Failure;
+}
 namespace toolkit {
 class ListView;
 }
@@ -42,6 +45,9 @@ class frmInstalledSoftware final : public toolkit::Form {
     void DeleteSelected();
     void DeleteEntries();
     void tmrActiveProcess_Timer();
+    // What could not be done with the selected entry; then reads the list anew.
+    void TellFailure(const std::string& what, const runtime::Failure& failure,
+                     const std::string& title);
     // Rows count from 1 here, as the user counts them.
     int SelectedIndex() const;
     void SelectIndex(int index);
@@ -49,7 +55,6 @@ class frmInstalledSoftware final : public toolkit::Form {
     const std::string& SelectedText() const;
     // What the selected rows show in that column, first to last.
     std::vector<std::string> SelectedTexts(int column) const;
-    // The watch leaves the list alone until it is answered.
     bool IsYes(const std::string& question, const std::string& title);
     void EnableTimer(bool enabled);
     void OpenMenu();
@@ -63,7 +68,9 @@ class frmInstalledSoftware final : public toolkit::Form {
     // Of the last uninstaller started.
     std::int32_t processId_ = 0;
     platform::Clock::Timer tmrActiveProcess_ = 0;
-    bool asking_ = false;
+    // While a question or a menu about the selected rows is open. The watch then leaves the list
+    // alone.
+    bool keepsRows_ = false;
 };
 
 }  // namespace utilities

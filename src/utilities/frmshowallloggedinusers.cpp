@@ -5,6 +5,7 @@
 #include "platform/systeminformation.h"
 #include "runtime/failure.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 #include "toolkit/listbox.h"
 
 namespace utilities {
@@ -13,8 +14,6 @@ namespace {
 using controls::chameleonButton;
 using platform::Workstation;
 using runtime::Skip;
-
-constexpr int KeyEscape = 0x1B;
 
 // "" when the system does not tell.
 std::string GetComputerName(const platform::SystemInformation& information) {
@@ -62,7 +61,7 @@ void frmShowAllLoggedInUsers::OnLoad() {
 }
 
 bool frmShowAllLoggedInUsers::OnKeyDown(int virtualKey) {
-    if (virtualKey != KeyEscape) return false;
+    if (virtualKey != toolkit::key::Escape) return false;
     Unload();
     return true;
 }

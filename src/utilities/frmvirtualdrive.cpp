@@ -16,6 +16,7 @@
 #include "runtime/text.h"
 #include "toolkit/combobox.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 #include "toolkit/listhelpers.h"
 #include "toolkit/listview.h"
 #include "utilities/moddirdialog.h"
@@ -31,8 +32,6 @@ using runtime::Skip;
 using toolkit::ListView;
 namespace message = platform::message;
 
-constexpr int KeyEscape = 0x1B;
-constexpr int KeyDelete = 0x2E;
 constexpr int Question = message::YesNo + message::Question;
 
 // The dialog's own settings, apart from the program's.
@@ -89,7 +88,7 @@ frmVirtualDrive::frmVirtualDrive(const platform::Machine& machine)
     lstDrives_.onClick = [this] { EnableDelete(true); };
     lstDrives_.onRightButton = [this] { OpenMenu(); };
     lstDrives_.onKeyDown = [this](int virtualKey) {
-        if (virtualKey == KeyDelete) DeleteDrive();
+        if (virtualKey == toolkit::key::Delete) DeleteDrive();
     };
     cmdbroswe_.onClick = [this] { BrowseFolder(); };
     cmdcreate_.onClick = [this] { CreateDrive(); };
@@ -147,7 +146,7 @@ void frmVirtualDrive::ResetControls() {
 }
 
 bool frmVirtualDrive::OnKeyDown(int virtualKey) {
-    if (virtualKey != KeyEscape) return false;
+    if (virtualKey != toolkit::key::Escape) return false;
     Unload();
     return true;
 }
@@ -178,7 +177,7 @@ void frmVirtualDrive::ReadSubstList() {
     const auto remove = [&] { machine_.files.Remove(file, false); };
     Skip([&] { machine_.folders.MakeCurrent(AppRoot_); });
     bool failed = false;
-    Skip([&] { failed = RunSubst(std::string("> ") + OutputName); });
+    Skip([&] { failed = !RunSubst(std::string("> ") + OutputName); });
     if (!failed) {
         const auto found = machine_.folders.Find(file);
         if (found && found->size == 0) {
@@ -234,7 +233,7 @@ void frmVirtualDrive::AddRow(int number, const std::string& drive, const std::st
 
 bool frmVirtualDrive::RunSubst(const std::string& arguments) {
     const std::string command = std::string(HiddenShell) + "subst " + arguments;
-    return WaitForProcessEnd(machine_, RunHidden(machine_.processes, command));
+    return !WaitForProcessEnd(machine_, RunHidden(machine_.processes, command));
 }
 
 void frmVirtualDrive::CreateDrive() {
@@ -267,7 +266,7 @@ void frmVirtualDrive::RunCreate() {
     }
     machine_.folders.MakeCurrent(AppRoot_);
     const std::string letter = cbodrives_.Text();
-    if (!RunSubst(letter + ' ' + path)) {
+    if (RunSubst(letter + ' ' + path)) {
         machine_.messages.Show(
             "Das virtuelle Laufwerk '" + letter + "' wurde erfolgreich erstellt.",
             message::Information, "Virtuelles Laufwerk erstellt");

@@ -48,9 +48,9 @@ class frmVirtualDrive final : public toolkit::Form {
     void StoreDrives();
     void Exit();
     void OpenMenu();
-    // Of the selected drive.
+    // The button and the menu's item that remove the selected drive.
     void EnableDelete(bool enabled);
-    // Runs `subst` with these arguments; true when it reported a failure.
+    // Runs `subst` with these arguments; false when it reported a failure.
     bool RunSubst(const std::string& arguments);
 
     platform::Machine machine_;

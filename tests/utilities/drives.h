@@ -47,10 +47,10 @@ struct Drives {
     Run Subst(const std::string& line) {
         constexpr std::string_view start = "command.com /csubst ";
         REQUIRE(line.starts_with(start));
+        CHECK(machine.folders.current == "C:\\");
         const std::string rest = line.substr(start.size());
         const std::string drive = rest.substr(0, 2);
         if (rest == "> tmpout.txt") {
-            CHECK(machine.folders.current == "C:\\");
             CHECK(machine.forms.ScreenPointer() == toolkit::Hourglass);
             std::string output;
             for (const auto& [letter, folder] : made) {

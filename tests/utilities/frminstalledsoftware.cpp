@@ -366,6 +366,45 @@ TEST_CASE_FIXTURE(Software,
     CHECK(Names() == Lines{"Beta", "Gamma"});
 }
 
+TEST_CASE_FIXTURE(Software, "what is chosen in a menu goes to the row on which it was opened") {
+    ShowThree();
+    Select({0});
+    Press("cmdUninstall");
+    Select({1});
+    const auto openMenu = [&](const char* item) {
+        machine.menus.WhileOpen([&] { EndAlpha(); });
+        machine.menus.Pick(item);
+        list.PressRightButton();
+    };
+    SUBCASE("an item") {
+        openMenu("Deinstallieren");
+        CHECK(Started() == Lines{"C:\\Alpha.exe /u", "C:\\Beta.exe /u"});
+        runs[1].questions = 0;
+    }
+    SUBCASE("none") {
+        openMenu("");
+        CHECK(IsWatching());
+    }
+    Tick();
+    CHECK_FALSE(IsWatching());
+    CHECK(Names() == Lines{"Beta", "Gamma"});
+}
+
+TEST_CASE_FIXTURE(Software, "a failure is told without a name when no row is selected any more") {
+    ShowThree();
+    Select({0});
+    machine.faults.FailOn("C:\\Alpha.exe", runtime::FileNotFound);
+    machine.messages.WhileOpen("Deinstallieren", [&] { Select({}); });
+    machine.messages.Answer("Deinstallieren", 6);
+    list.DoubleClick();
+    CHECK(machine.messages.Shown().back() ==
+          platform::simulated::ShownMessage{CannotStart,
+                                            "'' konnte nicht entfernt werden.\r\n\r\nFehler: " +
+                                                runtime::DescriptionOf(runtime::FileNotFound),
+                                            16});
+    CHECK(list.Count() == 3);
+}
+
 TEST_CASE_FIXTURE(Software, "an answer is about the rows of the question and no others") {
     ShowThree();
     Select({0});

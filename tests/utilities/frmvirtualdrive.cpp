@@ -29,6 +29,15 @@ TEST_CASE_FIXTURE(Drives, "the drives are listed with what they are, one command
     CHECK_FALSE(Enabled("cmddelete"));
 }
 
+TEST_CASE_FIXTURE(Drives, "buttons and box say what they do") {
+    const auto caption = [&](const char* name) {
+        return form.Find<controls::chameleonButton>(name).Caption();
+    };
+    CHECK(caption("cmdcreate") == "Neues Laufwerk erstellen");
+    CHECK(caption("cmddelete") == "Entfernt das ausgewählte Laufwerk");
+    CHECK(restore.Caption() == "Laufwerke beim Windows Neustart wieder herstellen");
+}
+
 TEST_CASE_FIXTURE(Drives, "no drives are an empty list whose columns are not fitted") {
     form.Show();
     CHECK(list.Count() == 0);
@@ -38,7 +47,11 @@ TEST_CASE_FIXTURE(Drives, "no drives are an empty list whose columns are not fit
     Make("E:", "C:\\");
     form.Unload();
     form.Show();
-    CHECK(machine.journal.Calls("SendMessageA").size() == 7);
+    Lines fits;
+    for (int column = 0; column < 7; ++column) {
+        fits.push_back("SendMessageA lstDrives 4126 " + std::to_string(column) + " -2");
+    }
+    CHECK(machine.journal.Calls("SendMessageA") == fits);
 }
 
 TEST_CASE_FIXTURE(Drives,
@@ -166,7 +179,15 @@ TEST_CASE_FIXTURE(Drives, "a folder is chosen by its short path, and the drive i
     CHECK(Enabled("cmdcreate"));
     letters.SetListIndex(1);
     Started();
+    bool isTold = false;
+    machine.messages.WhileOpen("Virtuelles Laufwerk erstellt", [&] {
+        isTold = true;
+        CHECK(path.Text() == "C:\\EIGENE~1");
+        CHECK(list.Count() == 0);
+    });
     Press("cmdcreate");
+    CHECK(isTold);
+    CHECK(Enabled("cmdcreate"));
     CHECK(Started() == Lines{"command.com /csubst E: C:\\EIGENE~1", List});
     CHECK(LastBox() == ShownMessage{"Virtuelles Laufwerk erstellt",
                                     "Das virtuelle Laufwerk 'E:' wurde erfolgreich erstellt.", 64});
@@ -394,6 +415,7 @@ TEST_CASE_FIXTURE(Drives, "the box stores each drive with its volume's name and 
     Make("F:", "C:\\");
     form.Show();
     machine.journal.Clear();
+    machine.folders.current = "D:\\";
     restore.SetValue(1);
     CHECK(Store() ==
           std::map<std::string, std::string>{{"dmVDriveC|Config|Restore", "1"},
@@ -414,11 +436,15 @@ TEST_CASE_FIXTURE(Drives, "the box stores each drive with its volume's name and 
               "6") != std::string::npos);
     CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
     machine.settings.Save("dmVDriveC", "Other", "x", "stays");
+    machine.folders.current = "D:\\";
     restore.SetValue(0);
+    CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
     CHECK(Store() == std::map<std::string, std::string>{{"dmVDriveC|Other|x", "stays"}});
     CHECK(machine.journal.Calls("RegOpenKeyExA") ==
           Lines{"RegOpenKeyExA 0x02 \""s + RunKey + "\" 0x3F -> 6"});
-    CHECK(machine.journal.Calls("RegDeleteValueA").size() == 1);
+    REQUIRE(machine.journal.Calls("RegDeleteValueA").size() == 1);
+    CHECK(machine.journal.Calls("RegDeleteValueA")[0].find("\"VDriveC\" -> 6") !=
+          std::string::npos);
     CHECK_FALSE(machine.registry.HasKey(platform::Registry::LocalMachine, RunKey));
     CHECK(machine.registry.OpenHandles() == 0);
 }
@@ -474,6 +500,24 @@ TEST_CASE_FIXTURE(Drives, "the stored drives are made again by the routine that 
     machine.settings.Save("dmVDriveC", "Config", "Count", "0");
     form.RestoreDrives();
     CHECK(Started().empty());
+}
+
+TEST_CASE_FIXTURE(Drives, "each stored drive is awaited before the next one is made") {
+    machine.settings.Save("dmVDriveC", "Config", "Count", "2");
+    machine.settings.Save("dmVDriveC", "Config", "Drives1", "E:=>C:\\A");
+    machine.settings.Save("dmVDriveC", "Config", "Drives2", "F:=>C:\\B");
+    form.Show();
+    Started();
+    machine.folders.current = "D:\\";
+    machine.journal.Clear();
+    std::vector<std::size_t> runningAtEvents;
+    machine.forms.onEvents = [&] {
+        runningAtEvents.push_back(machine.processes.OpenHandles());
+        CHECK(machine.processes.launched.size() == (runningAtEvents.size() > 4 ? 2 : 1));
+    };
+    form.RestoreDrives();
+    // Three times while each command runs, and once behind it.
+    CHECK(runningAtEvents == std::vector<std::size_t>{1, 1, 1, 0, 1, 1, 1, 0});
 }
 
 TEST_CASE_FIXTURE(Drives, "as many drives are made again as are counted, without half entries") {

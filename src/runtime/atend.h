@@ -1,0 +1,12 @@
+#pragma once
+
+namespace runtime {
+
+// What a procedure leaves behind it, also when a failure ends it.
+template <typename Action>
+struct AtEnd {
+    Action action;
+    ~AtEnd() { action(); }
+};
+
+}  // namespace runtime
