@@ -4,6 +4,7 @@
 #include "platform/machine.h"
 #include "platform/program.h"
 #include "platform/systemfacts.h"
+#include "registry/littleendian.h"
 #include "runtime/failure.h"
 #include "runtime/number.h"
 
@@ -14,12 +15,6 @@ using Service = platform::Registry;
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr const char* Classes = "SOFTWARE\\Classes\\";
-
-std::uint32_t FromLittleEndian(const Bytes& bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t at = bytes.size(); at-- > 0;) number = number << 8 | bytes[at];
-    return number;
-}
 
 // The number whose bytes lie the other way round.
 std::uint32_t Swapped(std::uint32_t number) {
@@ -138,11 +133,8 @@ Service::Result cRegistry::Write(Service::Key key, const Data& data) {
         case Service::Dword:
         case Service::BigEndianDword: {
             if (!number) break;
-            const auto value = static_cast<std::uint32_t>(*number);
-            const std::uint8_t raw[] = {
-                static_cast<std::uint8_t>(value), static_cast<std::uint8_t>(value >> 8),
-                static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 24)};
-            return set(Service::Dword, raw, sizeof raw);
+            const auto raw = ToLittleEndian(static_cast<std::uint32_t>(*number));
+            return set(Service::Dword, raw.data(), raw.size());
         }
         default:
             break;
@@ -158,7 +150,8 @@ bool cRegistry::KeyExists() {
     return true;
 }
 
-// The texts of these failures do not close their last quote, on purpose: callers show them so.
+// The texts of these failures do not close their last quote but where a word follows it, on
+// purpose: callers show them so.
 bool cRegistry::CreateKey() {
     Service::Key key = 0;
     const auto result = machine_.registry.Create(ClassKey, SectionKey, Service::MayDoAll, key);

@@ -55,7 +55,8 @@ class cRegistry {
     // The stored value: types 1 and 7 as text without its last byte, which should be the NUL (a
     // text stored without one loses a character, on purpose: the size is all that is gone by);
     // type 2 as the same with environment references expanded; 4 and 5 as number; all others as
-    // bytes. Leaves the opened key open, on purpose: a dialog reads a bounded number of values.
+    // bytes. Leaves the opened key open, on purpose: each refresh of a list costs a handle a value
+    // for as long as the program runs.
     Data Value();
     // Makes the key when it is not there. By ValueType: 1 and 2 store a text, as type 2 if it has
     // two percent signs and as type 1 otherwise, whatever was said; 3 stores bytes; 4 and 5 store

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "platform/locale.h"
+#include "registry/littleendian.h"
 #include "runtime/failure.h"
 #include "runtime/number.h"
 
@@ -53,9 +53,7 @@ bool QueryNumber(Service& service, Service::Key key, std::string_view valueName,
     std::uint32_t type = Service::None;
     std::uint32_t size = sizeof bytes;
     if (service.Query(key, valueName, type, bytes, size) != Service::Success) return false;
-    std::uint32_t value = 0;
-    for (int i = 3; i >= 0; --i) value = value << 8 | bytes[i];
-    number = static_cast<std::int32_t>(value);
+    number = static_cast<std::int32_t>(FromLittleEndian(bytes));
     return true;
 }
 
@@ -133,11 +131,9 @@ void Registry::RegWriteDword(Root root, std::string_view subKey, std::string_vie
                              std::int32_t number) {
     RegCreateKeyAt(root, subKey);
     if (number < 0) throw runtime::Failure(runtime::InvalidProcedureCall);
-    std::string bytes;
-    for (std::int32_t rest = number; bytes.size() < 4; rest /= 256) {
-        bytes += static_cast<char>(rest % 256);
-    }
-    RegWriteRaw(root, subKey, valueName, Service::Dword, bytes, 4);
+    const auto bytes = ToLittleEndian(static_cast<std::uint32_t>(number));
+    RegWriteRaw(root, subKey, valueName, Service::Dword, std::string(bytes.begin(), bytes.end()),
+                4);
 }
 
 void Registry::RegWriteBinary(Root root, std::string_view subKey, std::string_view valueName,

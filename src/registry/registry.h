@@ -41,9 +41,9 @@ class Registry {
 
     // The value as text: a text up to its first NUL (so of several texts the first, and
     // unexpanded); a 32-bit number as signed decimal; binary data as hexadecimal bytes with a blank
-    // behind each.
-    // "" for an absent value and for any other type. Leaves the key open when a query fails, on
-    // purpose like the two above.
+    // behind each. "" for an absent value and for any other type.
+    //
+    // Leaves the key open when a query fails, on purpose like the two above.
     std::string RegReadValue(Root root, std::string_view subKey, std::string_view valueName) const;
 
     // The writers create the key with all its levels first. The terminating NUL of a text is not

@@ -178,10 +178,12 @@ TEST_CASE_FIXTURE(Object, "reading leaves one key open, everything else closes i
     CHECK(machine.registry.OpenHandles() == 2);
 }
 
-TEST_CASE_FIXTURE(Object, "the rights that are asked for are the least that each call needs") {
+TEST_CASE_FIXTURE(Object, "each call asks for the rights that are told for it") {
     object.CreateKey();
     object.Value();
     object.KeyExists();
+    Write(Service::Dword, 1);
+    object.DeleteValue();
     std::vector<std::string> names;
     int count = 0;
     object.EnumerateSections(names, count);
@@ -189,10 +191,12 @@ TEST_CASE_FIXTURE(Object, "the rights that are asked for are the least that each
     CHECK(machine.journal.Calls("RegOpenKeyExA") ==
           Lines{"RegOpenKeyExA HKLM \"Software\\Test\" 0x01 -> 0 #2",
                 "RegOpenKeyExA HKLM \"Software\\Test\" 0x01 -> 0 #3",
-                "RegOpenKeyExA HKLM \"Software\\Test\" 0x08 -> 0 #4",
-                "RegOpenKeyExA HKLM \"Software\\Test\" 0x01 -> 0 #5"});
+                "RegOpenKeyExA HKLM \"Software\\Test\" 0x02 -> 0 #5",
+                "RegOpenKeyExA HKLM \"Software\\Test\" 0x08 -> 0 #6",
+                "RegOpenKeyExA HKLM \"Software\\Test\" 0x01 -> 0 #7"});
     CHECK(machine.journal.Calls("RegCreateKeyExA") ==
-          Lines{"RegCreateKeyExA HKLM \"Software\\Test\" 0x3F -> 0 #1"});
+          Lines{"RegCreateKeyExA HKLM \"Software\\Test\" 0x3F -> 0 #1",
+                "RegCreateKeyExA HKLM \"Software\\Test\" 0x3F -> 0 #4"});
 }
 
 TEST_CASE_FIXTURE(Object, "a size that is told with more data is a size all the same") {
@@ -227,7 +231,9 @@ TEST_CASE_FIXTURE(Object, "a value that goes or grows while it is read is the de
             machine.registry.Put(Service::LocalMachine, "Software\\Test", "Name",
                                  TextValue("abcdef"));
         });
+        watched.ValueType = 77;
         CHECK(watched.Value() == Data("default"s));
+        CHECK(watched.ValueType == 77);
         CHECK(restless.HasActed());
     }
 }
