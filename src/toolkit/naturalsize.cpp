@@ -83,6 +83,12 @@ Size OfListView(const ListView& list, const TextMeasure& measure) {
         LineHeight(measure) + measure.Scale(HeaderEdges) + list.Style().lines * row + edges};
 }
 
+// Systems differ in the height of no text.
+Size OfCaption(const Control& control, const TextMeasure& measure) {
+    if (control.Caption().empty()) return {0, LineHeight(measure)};
+    return measure.SizeOf(control.Caption(), false);
+}
+
 Size OfTabStrip(const TabStrip& tabs, const TextMeasure& measure) {
     Size size{0, LineHeight(measure) + measure.Scale(TabStripEdges)};
     for (const std::string& caption : tabs.Captions()) {
@@ -125,7 +131,7 @@ Size NaturalSize(const Control& control, const TextMeasure& measure) {
             return {measure.Scale(ProgressBarSize.width), measure.Scale(ProgressBarSize.height)};
         case ControlKind::Drawn:
             return dynamic_cast<const DrawnControl&>(control).NaturalSize(
-                measure.SizeOf(control.Caption(), false));
+                OfCaption(control, measure));
     }
     return {};
 }

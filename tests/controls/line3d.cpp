@@ -5,6 +5,7 @@
 #include "controls/recordingcanvas.h"
 #include "platform/simulated/machine.h"
 #include "toolkit/form.h"
+#include "toolkit/naturalsize.h"
 
 namespace {
 
@@ -12,6 +13,16 @@ struct Line {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmTest", "", {}};
     controls::Line3D& line = form.Add<controls::Line3D>("Line3D");
+};
+
+// As the system measures: what has no characters has no height.
+struct DialogText : toolkit::TextMeasure {
+    toolkit::Size SizeOf(std::string_view text, bool) const override {
+        return {0, text.empty() ? 0 : lineHeight};
+    }
+    int Scale(int pixels) const override { return pixels; }
+
+    int lineHeight = 13;
 };
 
 }  // namespace
@@ -32,11 +43,14 @@ TEST_CASE("an engraved line runs over the width that it is given, wherever it li
           std::vector<std::string>{"Line 8,41 128,41 white", "Line 8,40 128,40 shadow"});
 }
 
-TEST_CASE("an engraved line is 30 twips high") {
+TEST_CASE("an engraved line is 30 twips high at each resolution, though it has no text") {
     Line test;
-    CHECK(test.line.NaturalSize({0, 0}).height == 2);
-    CHECK(test.line.NaturalSize({0, 13}).height == 2);
-    CHECK(test.line.NaturalSize({0, 26}).height == 4);
+    DialogText text;
+    CHECK(toolkit::NaturalSize(test.line, text).height == 2);
+    text.lineHeight = 20;
+    CHECK(toolkit::NaturalSize(test.line, text).height == 3);
+    text.lineHeight = 26;
+    CHECK(toolkit::NaturalSize(test.line, text).height == 4);
 }
 
 TEST_CASE("the keyboard passes an engraved line by, and scripts find it by its window class") {

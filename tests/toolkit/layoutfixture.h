@@ -12,14 +12,15 @@
 #include "toolkit/layout.h"
 
 // Every character is 6 pixels wide and 13 high, bold ones 7 and 15, on a screen of `percent` of 96
-// dots per inch. Access-key marks are left out, as a real screen leaves them out.
+// dots per inch. Access-key marks are left out, as a real screen leaves them out, and no character
+// has no height.
 class EvenText : public toolkit::TextMeasure {
   public:
     toolkit::Size SizeOf(std::string_view text, bool bold) const override {
         ++asked[std::string(text)];
         int characters = 0;
         for (char sign : text) characters += sign != '&';
-        return {Scale(bold ? 7 : 6) * characters, Scale(bold ? 15 : 13)};
+        return {Scale(bold ? 7 : 6) * characters, text.empty() ? 0 : Scale(bold ? 15 : 13)};
     }
     int Scale(int pixels) const override { return pixels * percent / 100; }
 

@@ -69,6 +69,11 @@ TEST_CASE_FIXTURE(LayoutFixture,
     CHECK(NaturalSize(form.Add<DrawnBox>("a", "&Hilfe"), text) == Size{40, 23});
 }
 
+TEST_CASE_FIXTURE(LayoutFixture,
+                  "a control that draws itself without a text knows the height of a line") {
+    CHECK(NaturalSize(form.Add<DrawnBox>("a", ""), text) == Size{10, 23});
+}
+
 TEST_CASE_FIXTURE(LayoutFixture, "sizes grow with the screen's dots per inch") {
     text.percent = 200;
     CHECK(NaturalSize(form.Add<Slider>("a", SliderRange{}, 0), text) == Size{240, 56});
