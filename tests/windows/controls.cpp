@@ -6,6 +6,7 @@
 #include "platform/win32/windows/controlwindow.h"
 #include "runtime/failure.h"
 #include "windows/desk.h"
+#include "windows/realmouse.h"
 
 using namespace windows;
 
@@ -182,6 +183,45 @@ TEST_CASE("a control that loses its use hands the focus on") {
     SetFocus(desk.Find(form, "txtOne"));
     first.SetEnabled(false);
     CHECK(GetFocus() == desk.Find(form, "txtTwo"));
+}
+
+TEST_CASE("the only control hands the focus to the form when it loses its use") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& only = form.Add<PlainButton>("cmdOnly", "OK");
+    form.Show();
+    SetFocus(desk.Find(form, "cmdOnly"));
+    SUBCASE("disabled") {
+        only.SetEnabled(false);
+    }
+    SUBCASE("hidden") {
+        only.SetVisible(false);
+    }
+    CHECK(GetFocus() == desk.host.WindowOf(form));
+}
+
+TEST_CASE("keys reach the form after its only control has disabled itself") {
+    Desk desk;
+    TestForm form(desk.host, "frmAbout");
+    auto& only = form.Add<PlainButton>("cmdOK", "OK");
+    only.onPress = [&] { only.SetEnabled(false); };
+    form.keyDown = [&](int key) {
+        if (key == VK_ESCAPE) form.Unload();
+        return key == VK_ESCAPE;
+    };
+    form.Show();
+    const HWND window = desk.host.WindowOf(form);
+    SetForegroundWindow(window);
+    SetFocus(desk.Find(form, "cmdOK"));
+    SendMessageW(desk.Find(form, "cmdOK"), BM_CLICK, 0, 0);
+    RealMouse::Press(VK_ESCAPE, true);
+    RealMouse::Press(VK_ESCAPE, false);
+    const DWORD start = GetTickCount();
+    while (form.Loaded() && GetTickCount() - start < 3000) {
+        desk.host.DoEvents();
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+    CHECK_FALSE(form.Loaded());
 }
 
 TEST_CASE("a path is shown in one line without access keys, and its window holds all of it") {

@@ -56,15 +56,18 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
         case toolkit::Aspect::Caption:
             SetWindowTextW(window_, ToWide(control_.Caption()).c_str());
             break;
-        case toolkit::Aspect::Enabled:
-            // A disabled window that keeps the focus would leave the keyboard dead.
-            if (!control_.Enabled() && HasFocus()) MoveFocus(true);
+        case toolkit::Aspect::Enabled: {
+            const bool leaves = !control_.Enabled() && HasFocus();
             EnableWindow(window_, control_.Enabled());
+            if (leaves) HandFocusOn();
             break;
-        case toolkit::Aspect::Visible:
-            if (!control_.Visible() && HasFocus()) MoveFocus(true);
+        }
+        case toolkit::Aspect::Visible: {
+            const bool leaves = !control_.Visible() && HasFocus();
             ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+            if (leaves) HandFocusOn();
             break;
+        }
         case toolkit::Aspect::Limits:
             Prepare();
             break;
@@ -114,6 +117,18 @@ void ControlWindow::CaptureMouse() {
 void ControlWindow::MoveFocus(bool forward) {
     const HWND next = GetNextDlgTabItem(GetAncestor(window_, GA_ROOT), window_, !forward);
     if (next) FocusLikeDialog(next);
+}
+
+// Without a window that has the focus the keyboard would be dead; where no other control takes it,
+// the form does.
+void ControlWindow::HandFocusOn() const {
+    const HWND form = GetAncestor(window_, GA_ROOT);
+    const HWND next = GetNextDlgTabItem(form, window_, FALSE);
+    if (next && IsWindowEnabled(next) && IsWindowVisible(next)) {
+        FocusLikeDialog(next);
+    } else {
+        SetFocus(form);
+    }
 }
 
 void FocusLikeDialog(HWND window) {

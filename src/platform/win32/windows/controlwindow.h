@@ -93,6 +93,9 @@ class ControlWindow : public toolkit::ControlView,
     const Surroundings surroundings_;
 
   private:
+    // After the native window has lost its use.
+    void HandFocusOn() const;
+
     toolkit::Control& control_;
     HWND window_ = nullptr;
     toolkit::Rect area_;
