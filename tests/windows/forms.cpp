@@ -129,6 +129,25 @@ TEST_CASE("the main window has a taskbar entry while nobody owns it") {
     CHECK(GetWindow(desk.Window(), GW_OWNER) == nullptr);
 }
 
+TEST_CASE("a dialog over a hidden window has a taskbar entry of its own") {
+    Desk desk;
+    TestForm main(desk.host, "frmMain");
+    main.isDialog = false;
+    main.Load();
+    TestForm first(desk.host, "frmFirst");
+    first.Load();
+    main.Show();
+    TestForm second(desk.host, "frmSecond");
+    second.Load();
+    const auto isInTaskbar = [&](const toolkit::Form& form) {
+        const HWND window = desk.host.WindowOf(form);
+        return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_APPWINDOW) != 0;
+    };
+    CHECK(isInTaskbar(first));
+    CHECK_FALSE(isInTaskbar(second));
+    CHECK_FALSE(isInTaskbar(main));
+}
+
 TEST_CASE("closing by the close box or by the session's end unloads the form") {
     MainWindow desk;
     desk.form.Show();

@@ -29,8 +29,11 @@ DWORD FormWindow::Style() const {
     return (form_.isDialog ? dialog : WS_OVERLAPPEDWINDOW) | WS_CLIPCHILDREN;
 }
 
+// A dialog over a window that is not to be seen would have no taskbar entry at all.
 DWORD FormWindow::ExtendedStyle() const {
-    return (form_.isDialog ? WS_EX_DLGMODALFRAME : 0) | WS_EX_CONTROLPARENT;
+    if (!form_.isDialog) return WS_EX_CONTROLPARENT;
+    const DWORD entry = IsWindowVisible(owner_) ? 0 : WS_EX_APPWINDOW;
+    return WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME | entry;
 }
 
 // The taskbar shows the windows that nobody owns.
@@ -49,7 +52,7 @@ void FormWindow::Create(HWND owner) {
                               screen.ToPixels(place.width), screen.ToPixels(place.height), Owner(),
                               nullptr, GetModuleHandleW(nullptr), this);
     name_.emplace(window_, form_.Name());
-    if (!form_.isDialog) SetIcons();
+    if (!form_.isDialog || ExtendedStyle() & WS_EX_APPWINDOW) SetIcons();
     controls_.Create(form_, window_);
     form_.SetView(this);
 }
