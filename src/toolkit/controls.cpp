@@ -16,7 +16,8 @@ void Raise(const Handler& handler) {
 }  // namespace
 
 Label::Label(Form& form, std::string name, std::string caption, LabelStyle style)
-    : Control(form, ControlKind::Label, std::move(name), std::move(caption), false),
+    : Control(form, ControlKind::Label, std::move(name), std::move(caption),
+              style == LabelStyle::Link),
       style_(style) {}
 
 void Label::SetTextColour(Colour colour) {

@@ -21,8 +21,10 @@ using Handler = std::function<void()>;
 using KeyHandler = std::function<void(char16_t& character)>;
 
 // A path takes one line, as wide as the layout makes it; where it does not fit, its middle is left
-// out of the picture. An ampersand in it is nothing but one.
-enum class LabelStyle { Plain, Heading, Path };
+// out of the picture. An ampersand in it is nothing but one. A link is for the keyboard, too: Space
+// and Return click it. Of links made one after the other the tabulator reaches the first, the arrow
+// keys the rest.
+enum class LabelStyle { Plain, Heading, Path, Link };
 
 // A colour as the platform writes it: red in the lowest byte, then green, then blue.
 using Colour = std::uint32_t;

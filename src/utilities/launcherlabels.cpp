@@ -81,7 +81,7 @@ void Highlight(Label& label) {
 }
 
 Label& AddLabel(toolkit::Form& form, const Row& row, const Launchers& launchers) {
-    auto& label = form.Add<Label>(row.name, row.caption);
+    auto& label = form.Add<Label>(row.name, row.caption, toolkit::LabelStyle::Link);
     label.onClick = [&row, &launchers] { Launch(launchers, row); };
     label.onMouseMove = [&label] { Highlight(label); };
     return label;

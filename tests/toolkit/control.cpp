@@ -56,10 +56,11 @@ TEST_CASE_FIXTURE(Fixture, "a control without a view keeps what it is given") {
     CHECK(view.shown.empty());
 }
 
-TEST_CASE("labels and frames are passed over by the tabulator, all others are reached") {
+TEST_CASE("texts and frames are passed over by the tabulator, links and all others are reached") {
     NotingHost host;
     TestForm form(host);
     CHECK_FALSE(form.Add<Label>("label", "").IsTabStop());
+    CHECK(form.Add<Label>("link", "", LabelStyle::Link).IsTabStop());
     CHECK_FALSE(form.Add<Frame>("frame", "").IsTabStop());
     CHECK(form.Add<CheckBox>("check", "").IsTabStop());
     CHECK(form.Add<OptionButton>("option", "", 1).IsTabStop());

@@ -104,6 +104,14 @@ TEST_CASE("each of the 24 labels has its caption and starts its tool, and nothin
     CHECK(f.reports.empty());
 }
 
+TEST_CASE("the keyboard reaches each of the labels") {
+    Fixture f;
+    for (const Expected& label : Labels) {
+        CAPTURE(label.name);
+        CHECK(f.Find(label.name).IsTabStop());
+    }
+}
+
 TEST_CASE("the frame holds the 24 labels and nothing else") {
     Fixture f;
     CHECK(f.form.Controls().size() == Labels.size() + 1);

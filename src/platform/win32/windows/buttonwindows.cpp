@@ -61,9 +61,10 @@ ControlWindow::Recipe FrameWindow::Describe() const {
 }
 
 // A group box takes a press for that of a button, and the focus along with it.
-bool FrameWindow::Hear(UINT message) {
-    if (message == WM_MOUSEMOVE) Guard([this] { control_.MouseMoved(); });
-    return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
+LRESULT FrameWindow::Hear(const HookedMessage& hooked) {
+    if (hooked.message == WM_MOUSEMOVE) Guard([this] { control_.MouseMoved(); });
+    const bool isMouse = hooked.message >= WM_MOUSEFIRST && hooked.message <= WM_MOUSELAST;
+    return isMouse ? 0 : hooked.Pass();
 }
 
 }  // namespace platform::win32

@@ -48,7 +48,7 @@ class FrameWindow final : public ListeningWindow {
   protected:
     Recipe Describe() const override;
     bool IsHeard() const override { return control_.onMouseMove != nullptr; }
-    bool Hear(UINT message) override;
+    LRESULT Hear(const HookedMessage& hooked) override;
 
   private:
     toolkit::Frame& control_;

@@ -82,14 +82,20 @@ void FindPages(const toolkit::Box& box, int page, PagesOfControls& pages) {
     }
 }
 
-// Groups of option buttons begin and end where the number of the group changes.
+constexpr int NoGroup = -1;
+constexpr int LinkGroup = -2;
+
+// Groups of option buttons begin and end where the number of the group changes, a group of links
+// where other controls follow.
 int GroupOf(const toolkit::Control& control) {
     const auto* option = dynamic_cast<const toolkit::OptionButton*>(&control);
-    return option ? option->Group() : -1;
+    if (option) return option->Group();
+    const bool isLink = control.Kind() == toolkit::ControlKind::Label && control.IsTabStop();
+    return isLink ? LinkGroup : NoGroup;
 }
 
-void MarkGroupStart(HWND window) {
-    SetWindowLongW(window, GWL_STYLE, GetWindowLongW(window, GWL_STYLE) | WS_GROUP);
+void ChangeStyle(HWND window, LONG without, LONG with) {
+    SetWindowLongW(window, GWL_STYLE, (GetWindowLongW(window, GWL_STYLE) & ~without) | with);
 }
 
 }  // namespace
@@ -108,13 +114,18 @@ void ControlWindows::Create(const toolkit::Form& form, HWND formWindow) {
             CreateTabs(*strip, formWindow, areas[strip]);
         }
     }
-    int groupBefore = -1;
+    int groupBefore = NoGroup;
     for (const auto& control : form.Controls()) {
         const auto page = pages.find(control.get());
         CreateOne(*control, formWindow, page == pages.end() ? -1 : page->second,
                   areas[control.get()]);
         const int group = GroupOf(*control);
-        if (group != groupBefore) MarkGroupStart(windows_.back()->Window());
+        const HWND window = windows_.back()->Window();
+        if (group != groupBefore) {
+            ChangeStyle(window, 0, WS_GROUP);
+        } else if (group == LinkGroup) {
+            ChangeStyle(window, WS_TABSTOP, 0);
+        }
         groupBefore = group;
     }
     PutBehind(toolkit::ControlKind::Frame);
@@ -194,6 +205,12 @@ std::shared_ptr<ControlWindow> ControlWindows::FirstToFocus() const {
     const auto found = std::find_if(windows_.begin(), windows_.end(),
                                     [](const auto& window) { return window->TakesFocus(); });
     return found == windows_.end() ? nullptr : *found;
+}
+
+bool ControlWindows::TurnPage(bool forward) const {
+    const auto tabs = tabs_;
+    if (tabs) tabs->Turn(forward);
+    return tabs != nullptr;
 }
 
 void ControlWindows::Broadcast(UINT message, WPARAM wParam, LPARAM lParam) const {

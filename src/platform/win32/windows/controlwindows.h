@@ -29,6 +29,8 @@ class ControlWindows {
     std::shared_ptr<ControlWindow> Find(const toolkit::Control* control) const;
     // Where the focus goes when nothing else is said.
     std::shared_ptr<ControlWindow> FirstToFocus() const;
+    // False for a form without pages.
+    bool TurnPage(bool forward) const;
 
     void Broadcast(UINT message, WPARAM wParam, LPARAM lParam) const;
 

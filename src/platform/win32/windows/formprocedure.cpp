@@ -70,9 +70,15 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             return brush;
         }
-        // A field of several lines handles the tabulator itself, by asking for this.
+        // A field of several lines handles the tabulator itself, by asking for this. For an arrow
+        // key a system may name the window.
         case WM_NEXTDLGCTL:
-            if (const auto focused = controls_.Find(GetFocus())) focused->MoveFocus(wParam == 0);
+            if (LOWORD(lParam)) {
+                const auto named = controls_.Find(reinterpret_cast<HWND>(wParam));
+                if (named && named->TakesFocus()) named->TakeFocus();
+            } else if (const auto focused = controls_.Find(GetFocus())) {
+                focused->MoveFocus(wParam == 0);
+            }
             return 0;
         case DM_GETDEFID:
             return MAKELRESULT(IDOK, DC_HASDEFID);

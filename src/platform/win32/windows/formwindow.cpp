@@ -100,6 +100,8 @@ bool FormWindow::UsesUp(MSG& message) {
         bool used = false;
         surroundings_.Guard([&] { used = form_.KeyPressed(static_cast<int>(message.wParam)); });
         if (used || !window_) return true;
+        const bool turns = message.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0;
+        if (turns && controls_.TurnPage(GetKeyState(VK_SHIFT) >= 0)) return true;
     }
     return IsDialogMessageW(window_, &message);
 }

@@ -40,17 +40,55 @@ void LabelWindow::Notified(UINT code) {
 }
 
 // BM_CLICK is how a script presses whatever can be pressed; labels do not know it by themselves.
-bool LabelWindow::Hear(UINT message) {
-    switch (message) {
+LRESULT LabelWindow::Hear(const HookedMessage& hooked) {
+    switch (hooked.message) {
         case WM_MOUSEMOVE:
             Guard([this] { control_.MouseMoved(); });
-            return true;
+            return 0;
         case BM_CLICK:
             Click();
-            return true;
+            return 0;
         default:
-            return false;
+            return control_.IsTabStop() ? HearAsLink(hooked) : hooked.Pass();
     }
+}
+
+// For the form a link is no text, which the arrow keys would pass over, and Return is its own.
+LRESULT LabelWindow::HearAsLink(const HookedMessage& hooked) {
+    switch (hooked.message) {
+        case WM_GETDLGCODE: {
+            const auto* key = reinterpret_cast<const MSG*>(hooked.lParam);
+            const bool isReturn = key && key->wParam == VK_RETURN;
+            return DLGC_BUTTON | (isReturn ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_KEYDOWN: {
+            const bool presses = hooked.wParam == VK_SPACE || hooked.wParam == VK_RETURN;
+            // Once, however long the key is held.
+            if (presses && !(HIWORD(hooked.lParam) & KF_REPEAT)) Click();
+            return 0;
+        }
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+            Repaint();
+            return 0;
+        case WM_PAINT:
+            return PaintLink(hooked);
+        default:
+            return hooked.Pass();
+    }
+}
+
+// The rectangle inverts what is there, so all of that must be drawn anew.
+LRESULT LabelWindow::PaintLink(const HookedMessage& hooked) {
+    if (!HasFocus()) return hooked.Pass();
+    Repaint();
+    const LRESULT result = hooked.Pass();
+    RECT client{};
+    GetClientRect(Window(), &client);
+    const HDC dc = GetDC(Window());
+    DrawFocusRect(dc, &client);
+    ReleaseDC(Window(), dc);
+    return result;
 }
 
 void LabelWindow::Click() {

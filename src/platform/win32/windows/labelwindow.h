@@ -18,9 +18,11 @@ class LabelWindow final : public ListeningWindow {
     Recipe Describe() const override;
     HFONT Font() const override;
     bool IsHeard() const override { return control_.onClick || control_.onMouseMove; }
-    bool Hear(UINT message) override;
+    LRESULT Hear(const HookedMessage& hooked) override;
 
   private:
+    LRESULT HearAsLink(const HookedMessage& hooked);
+    LRESULT PaintLink(const HookedMessage& hooked);
     void Click();
 
     toolkit::Label& control_;

@@ -7,7 +7,7 @@ void ListeningWindow::Prepare() {
     hook_.Watch(Window(), [this](HookedMessage& hooked) -> LRESULT {
         if (hooked.message == WM_NCHITTEST) return HTCLIENT;
         const auto alive = shared_from_this();
-        return Hear(hooked.message) ? 0 : hooked.Pass();
+        return Hear(hooked);
     });
 }
 

@@ -15,8 +15,8 @@ class ListeningWindow : public ControlWindow {
     using ControlWindow::ControlWindow;
 
     virtual bool IsHeard() const = 0;
-    // True when the message ends here; the class does not get it then.
-    virtual bool Hear(UINT message) = 0;
+    // Passes the message on to the class or not, and gives its result.
+    virtual LRESULT Hear(const HookedMessage& hooked) = 0;
 
     void Prepare() override;
 

@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
@@ -105,8 +107,25 @@ void TabStripWindow::ShowValue() {
     const int current = control_.Tab();
     if (Send(TCM_GETCURSEL) != current) Send(TCM_SETCURSEL, static_cast<WPARAM>(current));
     for (std::size_t index = 0; index < pages_.size(); ++index) {
-        ShowWindow(pages_[index], static_cast<int>(index) == current ? SW_SHOWNA : SW_HIDE);
+        const bool shown = static_cast<int>(index) == current;
+        // A control that nobody sees would go on hearing the keyboard.
+        if (!shown && IsChild(pages_[index], GetFocus())) TakeFocus();
+        ShowWindow(pages_[index], shown ? SW_SHOWNA : SW_HIDE);
     }
+}
+
+void TabStripWindow::Turn(bool forward) {
+    if (!control_.Enabled()) return;
+    const int count = static_cast<int>(control_.Captions().size());
+    const int next = (control_.Tab() + (forward ? 1 : count - 1)) % count;
+    const HWND focus = GetFocus();
+    const bool wasOnPage =
+        std::any_of(pages_.begin(), pages_.end(), [&](HWND page) { return IsChild(page, focus); });
+    Guard([&] { control_.SetTab(next); });
+    if (!Window() || !wasOnPage) return;
+    const HWND page = pages_.at(static_cast<std::size_t>(control_.Tab()));
+    const HWND first = GetNextDlgTabItem(page, nullptr, FALSE);
+    if (first && IsWindowVisible(first)) FocusLikeDialog(first);
 }
 
 void TabStripWindow::Notified(UINT code) {

@@ -30,6 +30,10 @@ class TabStripWindow final : public ControlWindow {
     // Puts the pages where they lie when the strip takes `strip` of the form; those to come too.
     void PlacePages(const toolkit::Rect& strip);
 
+    // To the next page, or the one before; after the last one the first comes. Who was on the old
+    // page goes on on the new one.
+    void Turn(bool forward);
+
     void Notified(UINT code) override;
 
   protected:
