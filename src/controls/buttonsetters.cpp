@@ -1,6 +1,6 @@
-// What somebody needs who makes new buttons or changes their properties. The program's forms only
-// read theirs, so this stands apart and is not linked. Each setter stores, draws anew what the
-// property bears upon, and announces the key.
+// What somebody needs who makes new buttons or changes their properties. Of it the program only
+// sets pictures; the rest goes when it is linked. Each setter stores, draws anew what the property
+// bears upon, and announces the key.
 #include <utility>
 
 #include "controls/chameleonbutton.h"

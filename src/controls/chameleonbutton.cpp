@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/propertystore.h"
+#include "runtime/failure.h"
 #include "runtime/temporarily.h"
 
 namespace controls {
@@ -101,16 +102,16 @@ void chameleonButton::Resize(toolkit::Rect client) {
 }
 
 void chameleonButton::SettingsChanged() {
-    Refresh();
+    colours_.reset();
+    places_.reset();
+    ShapeChanged();
+    Redraw(PointerIsOver() ? state_ : ButtonState::Normal, true);
 }
 
 // What happened meanwhile was not drawn, the leaving of the mouse neither.
 void chameleonButton::Refresh() {
     settingUp_ = false;
-    colours_.reset();
-    places_.reset();
-    ShapeChanged();
-    Redraw(PointerIsOver() ? state_ : ButtonState::Normal, true);
+    SettingsChanged();
 }
 
 toolkit::Pointer chameleonButton::MousePicture() const {
@@ -156,7 +157,8 @@ void chameleonButton::MouseMove(toolkit::Mouse mouse) {
     if (!PointerIsOver()) {
         Redraw(ButtonState::Normal);
     } else if (mouse.button == MouseButton::None && overTimer_ == NoTimer) {
-        WatchPointer();
+        // Without a timer nobody would tell the leaving. The next move tries again.
+        if (!runtime::Skip([this] { WatchPointer(); })) return;
         Redraw(ButtonState::Hovered);
         Raise(onMouseOver);
     } else if (mouse.button == MouseButton::Left) {
@@ -178,6 +180,7 @@ void chameleonButton::MouseUp(toolkit::Mouse mouse) {
     Raise(onMouseUp, mouse);
     if (mouse.button == MouseButton::Right) return;
     Redraw(ButtonState::Hovered);
+    if (mouse.button != MouseButton::Left) return;
     const bool clicked = leftPress_ && PointerIsOver();
     leftPress_ = false;
     if (clicked) Click();

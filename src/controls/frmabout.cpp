@@ -133,7 +133,8 @@ void frmAbout::Label1_Click() {
 
 void frmAbout::FadeOut() {
     Find<chameleonButton>("cmdOK").SetEnabled(false);
-    Enable(tmrOut_, &frmAbout::tmrOut_Timer);
+    // Without a timer there is no fade.
+    if (!Skip([this] { Enable(tmrOut_, &frmAbout::tmrOut_Timer); })) Unload();
 }
 
 void frmAbout::ShowAlpha() {

@@ -1,4 +1,4 @@
-// The way into a store. The program only reads its buttons, so this stands apart and is not linked.
+// The way into a store. The program only reads its buttons, so this goes when it is linked.
 #include <utility>
 
 #include "controls/buttonpropertylist.h"

@@ -70,6 +70,29 @@ TEST_CASE("the middle button is drawn like the left one, and clicks nothing") {
     CHECK(test.events == Events{"MouseDown 4 0,0 0 in state 1", "MouseUp 4 0,0 0 in state 2"});
 }
 
+TEST_CASE("a click comes with the release of the left button, whichever other goes up before") {
+    WatchedButton test;
+    test.MouseEnters();
+    test.events.clear();
+    test.button.MouseDown(MouseButton::Middle);
+    test.button.MouseDown(MouseButton::Left);
+    test.button.MouseUp(MouseButton::Middle);
+    CHECK(test.events.empty());
+    test.button.MouseUp(MouseButton::Left);
+    CHECK(test.events == Events{"Click"});
+}
+
+TEST_CASE("a middle press during a left one takes the click away") {
+    WatchedButton test;
+    test.MouseEnters();
+    test.events.clear();
+    test.button.MouseDown(MouseButton::Left);
+    test.button.MouseDown(MouseButton::Middle);
+    test.button.MouseUp(MouseButton::Middle);
+    test.button.MouseUp(MouseButton::Left);
+    CHECK(test.events.empty());
+}
+
 TEST_CASE("the keys' events come first, then what the button does, then the click") {
     ListeningButton test;
     test.button.KeyDown({32, toolkit::ShiftKey});

@@ -33,6 +33,18 @@ TEST_CASE("the mouse leaving the button is told once, by the timer that then sto
     CHECK(test.events.size() == 2);
 }
 
+TEST_CASE("where the system has no timer left the mouse has not come, and fails nothing") {
+    WatchedButton test;
+    test.machine.faults.FailAll("SetTimer", 7);
+    CHECK_NOTHROW(test.MouseEnters());
+    CHECK(test.button.State() == ButtonState::Normal);
+    CHECK(test.events.empty());
+    test.machine.faults.Clear();
+    test.button.MouseMove(MouseButton::None);
+    CHECK(test.button.State() == ButtonState::Hovered);
+    CHECK(test.events == Events{"MouseOver"});
+}
+
 TEST_CASE("each further entering and leaving is told anew") {
     WatchedButton test;
     for (int visit = 0; visit < 2; ++visit) {

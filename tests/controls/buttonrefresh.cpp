@@ -49,6 +49,27 @@ TEST_CASE("between DisableRefresh and Refresh nothing is drawn, and then once") 
     CHECK_FALSE(test.Painted().empty());
 }
 
+TEST_CASE("other colours of the system's do not end what DisableRefresh began") {
+    WatchedButton test;
+    test.button.DisableRefresh();
+    test.button.SettingsChanged();
+    CHECK_FALSE(test.button.IsReady());
+    CHECK(test.view.repaints == 0);
+    test.button.Refresh();
+    CHECK(test.view.repaints == 1);
+}
+
+TEST_CASE("other colours of the system's have the button look them up and draw itself anew") {
+    WatchedButton test;
+    RecordingCanvas canvas;
+    test.button.Paint(canvas, Client);
+    const int lookUps = canvas.lookUps;
+    test.button.SettingsChanged();
+    CHECK(test.view.repaints == 1);
+    test.button.Paint(canvas, Client);
+    CHECK(canvas.lookUps > lookUps);
+}
+
 TEST_CASE("Refresh redoes background, colours and the caption's place") {
     WatchedButton test;
     test.button.SetButtonType(11);

@@ -133,6 +133,18 @@ TEST_CASE_FIXTURE(About, "Escape closes the dialog at once") {
     CHECK(machine.journal.Lines().empty());
 }
 
+TEST_CASE_FIXTURE(About, "where the system has no timer left, OK and Escape close without a fade") {
+    FadeIn();
+    machine.faults.FailAll("SetTimer", runtime::OutOfMemory);
+    SUBCASE("OK") {
+        cmdOK.Press();
+    }
+    SUBCASE("Escape") {
+        CHECK(form.KeyPressed(Escape));
+    }
+    CHECK_FALSE(form.Loaded());
+}
+
 TEST_CASE_FIXTURE(About, "other keys are not the dialog's") {
     form.Show();
     CHECK_FALSE(form.KeyPressed(0x0D));

@@ -124,15 +124,45 @@ TEST_CASE_FIXTURE(RealButton, "leaving while the real button is held shows state
 
 TEST_CASE_FIXTURE(RealButton, "a real double click is a click and a DblClick") {
     Enter();
-    bool captured = false;
-    button.onMouseUp = [&](const toolkit::Mouse&) { captured = true; };
     for (int i = 0; i < 2; ++i) {
         RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
         RealMouse::Send(MOUSEEVENTF_LEFTUP);
     }
     Expect({"MouseOver", "Click", "DblClick"});
-    CHECK(captured);
     CHECK(GetCapture() == nullptr);
+}
+
+TEST_CASE_FIXTURE(RealButton, "the second release of a double click is told outside as well") {
+    Enter();
+    RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+    RealMouse::Send(MOUSEEVENTF_LEFTUP);
+    RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+    Expect({"MouseOver", "Click", "DblClick"});
+    CHECK(GetCapture() == window);
+    bool released = false;
+    button.onMouseUp = [&](const toolkit::Mouse&) { released = true; };
+    MoveAway();
+    RealMouse::Send(MOUSEEVENTF_LEFTUP);
+    ServeUntil([&] { return released; });
+    CHECK(GetCapture() == nullptr);
+}
+
+TEST_CASE_FIXTURE(
+    RealButton, "a press is over when its own button goes up, outside too, not with another one") {
+    Enter();
+    int ups = 0;
+    button.onMouseUp = [&](const toolkit::Mouse&) { ++ups; };
+    RealMouse::Send(MOUSEEVENTF_RIGHTDOWN);
+    RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+    ServeUntil([&] { return button.State() == ButtonState::Pressed; });
+    RealMouse::Send(MOUSEEVENTF_RIGHTUP);
+    ServeUntil([&] { return ups == 1; });
+    CHECK(GetCapture() == window);
+    Leave();
+    RealMouse::Send(MOUSEEVENTF_LEFTUP);
+    ServeUntil([&] { return ups == 2; });
+    CHECK(GetCapture() == nullptr);
+    Expect({"MouseOver", "MouseOut"});
 }
 
 TEST_CASE_FIXTURE(RealButton, "the space key presses as long as it is down") {

@@ -169,7 +169,9 @@ bool DrawnWindow::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     for (const Row& row : rows) {
         if (row.message != message) continue;
         if (row.event == down && control_.IsTabStop()) SetFocus(Window());
-        if (row.event == up && GetCapture() == Window()) ReleaseCapture();
+        // As long as a button is held its release must reach the control.
+        const bool lastUp = row.event == up && Held(wParam) == MouseButton::None;
+        if (lastUp && GetCapture() == Window()) ReleaseCapture();
         const MouseButton button = message == WM_MOUSEMOVE ? Held(wParam) : row.button;
         const toolkit::Point at{static_cast<short>(LOWORD(lParam)),
                                 static_cast<short>(HIWORD(lParam))};
