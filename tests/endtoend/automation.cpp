@@ -219,18 +219,25 @@ int Application::SliderPosition(const std::string& name) const {
     return static_cast<int>(Send(Wait(name), TBM_GETPOS));
 }
 
+// Where no window has the focus the system tells the active one, and calls it a system key.
 void Application::PressKey(const std::string& form, int virtualKey) const {
     const HWND window = Wait(form);
     GUITHREADINFO thread = {};
     thread.cbSize = sizeof thread;
-    // A form that has just come up gets the focus a little later; until then another one has it.
+    // A form that has just come up gets the focus a little later; until then another one has it, or
+    // none.
+    constexpr DWORD Settling = 2000;
+    const DWORD begin = GetTickCount();
     Until(form + " to have the focus", [&] {
         GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
-        return !thread.hwndFocus || GetAncestor(thread.hwndFocus, GA_ROOT) == window;
+        if (thread.hwndFocus) return GetAncestor(thread.hwndFocus, GA_ROOT) == window;
+        if (!thread.hwndActive) SetForegroundWindow(window);
+        return thread.hwndActive == window && GetTickCount() - begin > Settling;
     });
     const HWND target = thread.hwndFocus ? thread.hwndFocus : window;
-    PostMessageW(target, WM_KEYDOWN, static_cast<WPARAM>(virtualKey), 1);
-    PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(virtualKey),
+    PostMessageW(target, thread.hwndFocus ? WM_KEYDOWN : WM_SYSKEYDOWN,
+                 static_cast<WPARAM>(virtualKey), 1);
+    PostMessageW(target, thread.hwndFocus ? WM_KEYUP : WM_SYSKEYUP, static_cast<WPARAM>(virtualKey),
                  static_cast<LPARAM>(0xC0000001));
 }
 

@@ -5,6 +5,7 @@
 
 #include "endtoend/lines.h"
 #include "endtoend/looks.h"
+#include "endtoend/realkeys.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/text.h"
 
@@ -78,6 +79,24 @@ TEST_CASE_FIXTURE(AboutDialog, "Escape closes the about box without a fade") {
         for (const int alpha : AlphasToTheEnd()) CHECK(alpha >= Opaque);
     }
     Until("the main window", [&] { return IsWindowEnabled(program.Find("frmMain")); });
+}
+
+TEST_CASE_FIXTURE(AboutDialog, "Escape skips what is left of the fade-out") {
+    WaitFadedIn();
+    SetForegroundWindow(window);
+    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+    GUITHREADINFO state = {};
+    state.cbSize = sizeof state;
+    Until("the about box in front",
+          [&] { return GetGUIThreadInfo(thread, &state) && state.hwndActive == window; });
+    Send(program.Find("frmAbout.cmdOK"), BM_CLICK);
+    CHECK(OkIsEnabled() == false);
+    GetGUIThreadInfo(thread, &state);
+    CHECK(state.hwndFocus == window);
+    Press(VK_ESCAPE);
+    const std::vector<int> alphas = AlphasToTheEnd();
+    REQUIRE_FALSE(alphas.empty());
+    CHECK(alphas.back() > Opaque / 4);
 }
 
 TEST_CASE_FIXTURE(AboutDialog, "the about box can be read and reached, and opened again") {

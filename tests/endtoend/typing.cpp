@@ -3,6 +3,7 @@
 #include "endtoend/everyoptionrun.h"
 #include "endtoend/lines.h"
 #include "endtoend/optiontablewords.h"
+#include "endtoend/realkeys.h"
 #include "platform/win32/text.h"
 
 // Fields under the keyboard: the keys go the way of real ones, through the system's queue.
@@ -26,28 +27,6 @@ const Field Fields[] = {
     {"txtRWIN", NetworkPage, true},      {"txtTTL", NetworkPage, true},
     {"cboHTTP10", NetworkPage, true},    {"cboHTTP11", NetworkPage, true},
 };
-
-void Key(int virtualKey, bool down) {
-    INPUT input = {};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = static_cast<WORD>(virtualKey);
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(virtualKey), 0));
-    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
-    // Those beside the number pad.
-    if (virtualKey == VK_HOME || virtualKey == VK_END) input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
-    SendInput(1, &input, sizeof input);
-}
-
-void Press(int virtualKey) {
-    Key(virtualKey, true);
-    Key(virtualKey, false);
-}
-
-void PressWith(int held, int virtualKey) {
-    Key(held, true);
-    Press(virtualKey);
-    Key(held, false);
-}
 
 // The part of a field in which one types.
 HWND TypingPartOf(HWND window) {
