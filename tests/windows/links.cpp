@@ -12,7 +12,8 @@ using namespace windows;
 
 namespace {
 
-// A page of a box, two links and a box; a page with a box; one with nothing for the keyboard.
+// A page of a box, two links and a box in a frame; a page with a box; one with nothing for the
+// keyboard.
 struct Pages {
     Desk desk;
     TestForm form{desk.host, "frmMain"};
@@ -23,6 +24,7 @@ struct Pages {
         form.Add<toolkit::Label>("lblFirst", "Werkzeug", toolkit::LabelStyle::Link);
     toolkit::Label& second =
         form.Add<toolkit::Label>("lblSecond", "Zweites", toolkit::LabelStyle::Link);
+    toolkit::Frame& frame = form.Add<toolkit::Frame>("fra", "Rahmen");
     toolkit::CheckBox& after = form.Add<toolkit::CheckBox>("chkAfter", "Danach");
     toolkit::CheckBox& other = form.Add<toolkit::CheckBox>("chkOther", "Anderes");
     toolkit::Label& text = form.Add<toolkit::Label>("lblText", "Text");
@@ -34,7 +36,7 @@ struct Pages {
         second.onClick = [this] { heard.emplace_back("second"); };
         tabs.onClick = [this] { heard.emplace_back("page"); };
         toolkit::Box links =
-            toolkit::Column({Leaf(before), Leaf(first), Leaf(second), Leaf(after)});
+            toolkit::Column({Leaf(before), Leaf(first), Leaf(second), InFrame(frame, Leaf(after))});
         form.SetLayout(toolkit::Column(
             {toolkit::Pages(tabs, {links, Leaf(other), Leaf(text)}), Leaf(outside)}));
         form.Show();

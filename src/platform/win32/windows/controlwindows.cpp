@@ -119,6 +119,8 @@ void ControlWindows::Create(const toolkit::Form& form, HWND formWindow) {
         const auto page = pages.find(control.get());
         CreateOne(*control, formWindow, page == pages.end() ? -1 : page->second,
                   areas[control.get()]);
+        // A frame goes behind all others, and with it would the mark between two groups.
+        if (control->Kind() == toolkit::ControlKind::Frame) continue;
         const int group = GroupOf(*control);
         const HWND window = windows_.back()->Window();
         if (group != groupBefore) {
