@@ -6,11 +6,9 @@
 namespace platform {
 
 // One window of Internet Explorer, reached through its automation object. It stays open when the
-// object is let go. Each method throws Failure AutomationFailure when the browser refuses.
+// object is let go. Each method throws Failure AutomationError when the browser refuses.
 class BrowserWindow {
   public:
-    static constexpr int AutomationFailure = 440;
-
     virtual ~BrowserWindow() = default;
 
     virtual void SetVisible(bool visible) = 0;

@@ -40,6 +40,8 @@ std::string DescriptionOf(int failureNumber) {
             return "Ungültiger Eigenschaftswert";
         case CannotCreateObject:
             return "Objekterstellung durch ActiveX-Komponente nicht möglich";
+        case AutomationError:
+            return "Automatisierungsfehler";
         case DllFunctionNotFound:
             return "Angegebene DLL-Funktion nicht gefunden";
         case IndexOutOfBounds:

@@ -22,6 +22,7 @@ enum FailureNumber : int {
     ObjectNotSet = 91,
     InvalidPropertyValue = 380,
     CannotCreateObject = 429,
+    AutomationError = 440,
     DllFunctionNotFound = 453,
     IndexOutOfBounds = 35600,
 };

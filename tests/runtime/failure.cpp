@@ -37,6 +37,7 @@ TEST_CASE("each number of the platform has its own German text") {
     CHECK(DescriptionOf(76) == "Pfad nicht gefunden");
     CHECK(DescriptionOf(380) == "Ungültiger Eigenschaftswert");
     CHECK(DescriptionOf(429) == "Objekterstellung durch ActiveX-Komponente nicht möglich");
+    CHECK(DescriptionOf(440) == "Automatisierungsfehler");
     CHECK(DescriptionOf(453) == "Angegebene DLL-Funktion nicht gefunden");
 }
 

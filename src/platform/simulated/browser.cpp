@@ -23,7 +23,7 @@ class Window final : public BrowserWindow {
         const std::string call = std::string("InternetExplorer.") + member;
         auto line = journal_.Note([&] { return call + ' ' + argument; });
         if (!faults_.Check(call, "")) return;
-        ThrowFault(journal_, line, AutomationFailure);
+        ThrowFault(journal_, line, runtime::AutomationError);
     }
 
     Journal& journal_;

@@ -98,7 +98,7 @@ class Window final : public BrowserWindow {
         if (FAILED(object_.Get()->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id)) ||
             FAILED(object_.Get()->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &arguments,
                                          nullptr, nullptr, nullptr))) {
-            throw runtime::Failure(AutomationFailure);
+            throw runtime::Failure(runtime::AutomationError);
         }
     }
 
