@@ -26,8 +26,7 @@ class SystemFacts {
     virtual std::string SystemDirectory() const = 0;
 
     // GetTempPathA in a buffer of 255 characters, as it is told, which is with a trailing
-    // backslash; "" on failure. Nobody promises that the directory is there, or that anything may
-    // be written to it.
+    // backslash; "" on failure. Nobody promises that the directory is there.
     virtual std::string TempPath() const = 0;
 
     // GetUserNameA in a buffer of 255 characters, the NUL among them; "" on failure, a longer name

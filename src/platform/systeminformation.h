@@ -57,8 +57,7 @@ class SystemInformation {
     virtual Volume VolumeOn(std::string_view root) const = 0;
     // GetSystemMetrics and GetDeviceCaps, of the main screen.
     virtual std::optional<ScreenFormat> MainScreen() const = 0;
-    // GetUserNameA and GetComputerNameA.
-    virtual std::optional<std::string> UserName() const = 0;
+    // GetComputerNameA.
     virtual std::optional<std::string> ComputerName() const = 0;
 };
 

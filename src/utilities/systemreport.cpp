@@ -7,6 +7,7 @@
 #include "platform/locale.h"
 #include "platform/operatingsystem.h"
 #include "platform/registry.h"
+#include "platform/systemfacts.h"
 #include "platform/systeminformation.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
@@ -82,7 +83,7 @@ std::string ProcessorLines(const platform::Machine& machine) {
     std::string lines = Line("Prozessor", ProcessorName(machine));
     lines += Line("Taktfrequenz", ProcessorSpeed(machine));
     const auto count = machine.information.ProcessorCount();
-    return lines + Line("Anzahl", count ? Text(std::to_string(*count)) : std::nullopt);
+    return lines + Line("Prozessoren", count ? Text(std::to_string(*count)) : std::nullopt);
 }
 
 std::string MemoryLines(const platform::Machine& machine) {
@@ -138,7 +139,8 @@ std::string DriveText(const platform::Drive& drive, const platform::Volume& volu
 }
 
 std::string NameLines(const platform::Machine& machine) {
-    std::string lines = Line("Benutzer", machine.information.UserName());
+    const std::string user = machine.facts.UserName();
+    std::string lines = Line("Benutzer", user.empty() ? std::nullopt : Text(user));
     return lines + Line("Computer", machine.information.ComputerName());
 }
 

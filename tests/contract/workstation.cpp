@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "contract/machine.h"
+#include "platform/systemfacts.h"
 #include "platform/systeminformation.h"
 #include "runtime/text.h"
 
@@ -34,10 +35,9 @@ TEST_CASE_FIXTURE(Place, "this computer tells who is logged on to it, in a buffe
     }
     REQUIRE(code == Workstation::Success);
     REQUIRE_FALSE(enumeration.users.empty());
-    const auto user = machine.Services().information.UserName();
-    REQUIRE(user);
+    const std::string user = machine.Services().facts.UserName();
     const auto isUser = [&](const platform::LoggedOnUser& logon) {
-        return logon.wkui1_username == *user;
+        return logon.wkui1_username == user;
     };
     CHECK(std::any_of(enumeration.users.begin(), enumeration.users.end(), isUser));
     REQUIRE(enumeration.buffer != 0);

@@ -30,7 +30,7 @@ TEST_CASE_FIXTURE(Shown, "the report can be read and marked, not changed") {
 TEST_CASE_FIXTURE(Shown, "each showing reports anew") {
     form.Show();
     Press("cmdClose");
-    machine.information.userName = "Gast";
+    machine.facts.userName = "Gast";
     form.Show();
     CHECK(report.Text().find("Benutzer:\tGast\r\n") != std::string::npos);
 }

@@ -50,7 +50,7 @@ TEST_CASE_FIXTURE(Report, "the report on a fresh machine") {
           "\r\n"
           "Prozessor:\tIntel(R) Pentium(R) 4 CPU 2.40GHz\r\n"
           "Taktfrequenz:\t2400 MHz\r\n"
-          "Anzahl:\t1\r\n"
+          "Prozessoren:\t1\r\n"
           "\r\n"
           "Arbeitsspeicher:\t511,4 MB\r\n"
           "Davon frei:\t288,0 MB\r\n"
@@ -74,9 +74,9 @@ TEST_CASE_FIXTURE(Report, "what cannot be read reads so everywhere, and nothing 
     }
     std::string expected;
     for (const char* name :
-         {"Betriebssystem", "Version", "Service Pack", "", "Prozessor", "Taktfrequenz", "Anzahl",
-          "", "Arbeitsspeicher", "Davon frei", "", "Bildschirm", "Farbtiefe", "", "Benutzer",
-          "Computer", "", "Laufwerke"}) {
+         {"Betriebssystem", "Version", "Service Pack", "", "Prozessor", "Taktfrequenz",
+          "Prozessoren", "", "Arbeitsspeicher", "Davon frei", "", "Bildschirm", "Farbtiefe", "",
+          "Benutzer", "Computer", "", "Laufwerke"}) {
         if (*name) expected += std::string(name) + ":\tnicht verfügbar";
         expected += "\r\n";
     }
@@ -123,7 +123,7 @@ TEST_CASE_FIXTURE(Report, "a processor that the registry does not name") {
     }
     CHECK(Value("Prozessor") == "nicht verfügbar");
     CHECK(Value("Taktfrequenz") == "nicht verfügbar");
-    CHECK(Value("Anzahl") == "1");
+    CHECK(Value("Prozessoren") == "1");
 }
 
 TEST_CASE_FIXTURE(Report, "a processor's name ends at its first NUL, and blank is no name") {
@@ -147,11 +147,14 @@ TEST_CASE_FIXTURE(Report, "a system without service pack says so") {
     CHECK(Value("Service Pack") == "keines");
 }
 
-TEST_CASE_FIXTURE(Report, "a user name of 255 characters is shown as a whole") {
+TEST_CASE_FIXTURE(Report,
+                  "a user name of 254 characters is shown as a whole, a longer one not told") {
     std::string name;
-    for (int count = 0; count < 255; ++count) name += "ü";
-    machine.information.userName = name;
+    for (int count = 0; count < 254; ++count) name += "ü";
+    machine.facts.userName = name;
     CHECK(Value("Benutzer") == name);
+    machine.facts.userName = name + "ü";
+    CHECK(Value("Benutzer") == "nicht verfügbar");
 }
 
 TEST_CASE_FIXTURE(Report, "drives of each kind, and one that tells only half") {

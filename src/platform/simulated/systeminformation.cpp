@@ -47,10 +47,6 @@ std::optional<ScreenFormat> SystemInformation::MainScreen() const {
     return Told(journal_, faults_, "GetDeviceCaps", screen);
 }
 
-std::optional<std::string> SystemInformation::UserName() const {
-    return Told(journal_, faults_, "GetUserNameA", userName);
-}
-
 std::optional<std::string> SystemInformation::ComputerName() const {
     return Told(journal_, faults_, "GetComputerNameA", computerName);
 }

@@ -21,7 +21,6 @@ class SystemInformation final : public platform::SystemInformation {
     std::vector<Drive> Drives() const override;
     Volume VolumeOn(std::string_view root) const override;
     std::optional<ScreenFormat> MainScreen() const override;
-    std::optional<std::string> UserName() const override;
     std::optional<std::string> ComputerName() const override;
 
     std::string servicePack = "Service Pack 3";
@@ -34,7 +33,6 @@ class SystemInformation final : public platform::SystemInformation {
     std::map<std::string, Volume, std::less<>> volumes{
         {"C:\\", {"NTFS", 40007729152, 12884901888, "SYSTEM"}}};
     ScreenFormat screen{1024, 768, 32};
-    std::string userName = "Besitzer";
     std::string computerName = "QUILLMORE-PC";
 
   private:

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <lmcons.h>
-
 #include "platform/win32/nomediumbox.h"
 #include "platform/win32/text.h"
 
@@ -86,13 +84,6 @@ std::optional<ScreenFormat> SystemInformation::MainScreen() const {
     const int depth = GetDeviceCaps(screen, BITSPIXEL) * GetDeviceCaps(screen, PLANES);
     ReleaseDC(nullptr, screen);
     return ScreenFormat{GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), depth};
-}
-
-std::optional<std::string> SystemInformation::UserName() const {
-    char name[UNLEN + 1];
-    DWORD size = sizeof name;
-    if (!GetUserNameA(name, &size)) return std::nullopt;
-    return FromAnsi(name);
 }
 
 std::optional<std::string> SystemInformation::ComputerName() const {

@@ -12,7 +12,6 @@ class SystemInformation final : public platform::SystemInformation {
     std::vector<Drive> Drives() const override;
     Volume VolumeOn(std::string_view root) const override;
     std::optional<ScreenFormat> MainScreen() const override;
-    std::optional<std::string> UserName() const override;
     std::optional<std::string> ComputerName() const override;
 };
 
