@@ -8,8 +8,7 @@
 #include "platform/session.h"
 #include "runtime/failure.h"
 #include "toolkit/controls.h"
-#include "utilities/shellwait.h"
-#include "utilities/systemdirectorypaths.h"
+#include "utilities/launchers.h"
 
 namespace tweaks {
 namespace {
@@ -72,11 +71,7 @@ void Apply::OfferRestorePoint() {
                               "Änderungen nicht mehr Ordnungsgemäß funktioniert!)",
                               "Systemwiederherstellungspunkt");
     if (!wanted) return;
-    Skip([&] {
-        const utilities::clsGetSystemDirectoryPaths paths(machine_.facts);
-        utilities::ShellWait(machine_.processes, paths.SystemDirectory() + "\\restore\\rstrui.exe",
-                             true);
-    });
+    Skip([&] { utilities::WaitForRestoreTool(machine_); });
 }
 
 // Asked after every pass, whatever the pass did: it gives nothing back. The restart never forces,

@@ -19,6 +19,11 @@ constexpr int SystemObject = 2;
 
 }  // namespace
 
+void WaitForRestoreTool(const platform::Machine& machine) {
+    const clsGetSystemDirectoryPaths paths(machine.facts);
+    ShellWait(machine.processes, paths.SystemDirectory() + "\\restore\\rstrui.exe", true);
+}
+
 void Launchers::LoadExtern(std::string_view Filename) const {
     report_("LoadExtern", [&] { Start(Filename); });
 }
@@ -42,11 +47,6 @@ void Launchers::CheckSystemFiles() const {
 
 void Launchers::OpenSystemProperties() const {
     report_("lblSystem_Click", [&] { machine_.shell.ObjectProperties(SystemObject); });
-}
-
-void Launchers::OpenRestorePoint() const {
-    const clsGetSystemDirectoryPaths paths(machine_.facts);
-    ShellWait(machine_.processes, paths.SystemDirectory() + "\\restore\\rstrui.exe", true);
 }
 
 void Launchers::cmdMSConfig_Click() const {

@@ -8,6 +8,9 @@
 
 namespace utilities {
 
+// Opens the tool for restore points. Blocks until it is closed; no event gets through meanwhile.
+void WaitForRestoreTool(const platform::Machine& machine);
+
 // Starts the system's own tools. Nothing but the restore tool is waited for.
 class Launchers {
   public:
@@ -35,8 +38,7 @@ class Launchers {
     // Opens the sheet of the system's properties.
     void OpenSystemProperties() const;
 
-    // Blocks until the restore tool is closed; no event gets through meanwhile.
-    void OpenRestorePoint() const;
+    void OpenRestorePoint() const { WaitForRestoreTool(machine_); }
 
     // What the label of the configuration tool does, once more and under a name of its own. No
     // control calls it, on purpose: it is kept for one that may.
