@@ -57,8 +57,8 @@ struct Picker : Fixture {
 }  // namespace
 
 TEST_CASE_FIXTURE(Fixture, "executing a file that is not there is passed over") {
-    shell.Execute("Open", machine.FilePath("absent.msc"), "/s", machine.FilePath(""), 1);
-    CHECK(machine.FileContent(machine.FilePath("absent.msc")) == std::nullopt);
+    const std::string absent = machine.FilePath("absent.msc");
+    CHECK_NOTHROW(shell.Execute("Open", absent, "/s", machine.FilePath(""), 1));
 }
 
 TEST_CASE_FIXTURE(Fixture, "the shell has a sheet of properties by number alone") {
