@@ -80,7 +80,6 @@ constexpr Option Options[] = {
         .onWhen = {Present()},
         .on = {Dword(0)},
         .off = {DeleteValue()},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkDNSSpeed",
@@ -120,7 +119,6 @@ constexpr Option Options[] = {
         .off = {Text("")},
         .onGuard = Guard::KeyPresent,
         .offGuard = Guard::KeyAbsent,
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkSACK",
@@ -128,7 +126,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(1)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkAutoMTU",
@@ -136,7 +133,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(1)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkMUTBH",
@@ -167,7 +163,6 @@ constexpr Option Options[] = {
         .on = {DeleteValue()},
         .off = {Binary("2c,00,00,00,02,00,00,00,03,00,00,00,ff,ff,ff,ff,ff,ff,ff,ff,ff,ff,"
                        "ff,ff,ff,ff,ff,ff,00,00,00,00,00,00,00,00,00,04,00,00,e2,02,00,00")},
-        .windowsDefault = State::On,
     },
     // Written without a test, so that an empty box takes the search page away.
     Option{
@@ -187,7 +182,6 @@ constexpr Option Options[] = {
         .onWhen = {LowerEquals("yes")},
         .on = {Text("yes")},
         .off = {Text("no")},
-        .windowsDefault = State::On,
     },
     // Level lets the user's list of extensions count; it is written in both states and never read.
     Option{

@@ -52,7 +52,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(1)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     // Read from the machine and written for the user, on purpose: what is written is never read
     // back.
@@ -66,7 +65,6 @@ constexpr Option Options[] = {
         .off = {Dword(1).Under(HKCU), Dword(1).Under(HKCU).To("DWNoExternalURL"),
                 Dword(1).Under(HKCU).To("DWNoFileCollection"),
                 Dword(1).Under(HKCU).To("DWNoSecondLevelCollection")},
-        .windowsDefault = State::On,
     },
     // The other way round: read from the user and written for the machine, on purpose too.
     Option{
@@ -124,7 +122,6 @@ constexpr Option Options[] = {
         .offWhen = {Equals(0)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkPageFileDelete",
@@ -147,7 +144,6 @@ constexpr Option Options[] = {
         .off = {Text("")},
         .onGuard = Guard::KeyPresent,
         .offGuard = Guard::KeyAbsent,
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkWinLogOn",
@@ -184,7 +180,6 @@ constexpr Option Options[] = {
                 Text("@shdoclc.dll,-864").To("MenuText"),
                 Text("%SystemRoot%\\web\\related.htm").To("Script")},
         .offGuard = Guard::KeyAbsent,
-        .windowsDefault = State::On,
     },
     // The wrong box is cleared on purpose: what chkDescriptionPopups has just read is overruled
     // wherever the value is not "Yes".
@@ -195,7 +190,6 @@ constexpr Option Options[] = {
         .otherwiseClears = "chkDescriptionPopups",
         .on = {Text("Yes")},
         .off = {Text("No")},
-        .windowsDefault = State::On,
     },
 };
 

@@ -31,7 +31,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(0)},
         .on = {Dword(0)},
         .off = {Dword(1)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkLargeSystemCache",
@@ -47,7 +46,6 @@ constexpr Option Options[] = {
         .offWhen = {Equals("N")},
         .on = {Text("Y")},
         .off = {Text("N")},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkSecondLevelDataCache",
@@ -146,7 +144,6 @@ constexpr Option Options[] = {
         .offWhen = {Equals(1)},
         .on = {Dword(0)},
         .off = {Dword(1)},
-        .windowsDefault = State::On,
     },
     // The boxes with the facts of the system look like a display, but all except the product's
     // number are written back, so that what the user types there reaches the system.

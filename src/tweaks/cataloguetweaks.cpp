@@ -57,7 +57,6 @@ constexpr Option Options[] = {
         .onWhen = {PresentWith("1")},
         .on = {Text("1")},
         .off = {Text("0")},
-        .windowsDefault = State::On,
     },
     // Makes Nero's key also where Nero is not installed.
     Option{
@@ -103,7 +102,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(1)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     // On removes the whole key, not the value alone; a key with sub-keys stays, and with it the
     // value. 185 is 0xB9.
@@ -113,7 +111,6 @@ constexpr Option Options[] = {
         .offWhen = {Present()},
         .on = {DeleteKey()},
         .off = {Dword(185)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkDescriptionPopups",
@@ -121,7 +118,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(1)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkDisableThumbnails",
@@ -129,7 +125,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(0)},
         .on = {Dword(0)},
         .off = {Dword(1)},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkBSODAutostart",
@@ -156,7 +151,6 @@ constexpr Option Options[] = {
         .offWhen = {Present()},
         .on = {DeleteValue()},
         .off = {Text("")},
-        .windowsDefault = State::On,
     },
     // The service's start type is never read.
     Option{
@@ -166,7 +160,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(0)},
         .on = {Dword(0), Dword(0).In("SYSTEM\\CurrentControlSet\\Services\\sr").To("Start")},
         .off = {Dword(1), Dword(4).In("SYSTEM\\CurrentControlSet\\Services\\sr").To("Start")},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkNoSpaceCheck",
@@ -175,7 +168,6 @@ constexpr Option Options[] = {
         .on = {DeleteValue()},
         .off = {Dword(1)},
         .onGuard = Guard::ValuePresent,
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkTaskBarGlooming",
@@ -183,7 +175,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(1)},
         .on = {Dword(1)},
         .off = {Dword(0)},
-        .windowsDefault = State::On,
     },
     // "Yes" reads as off.
     Option{
@@ -192,7 +183,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals("yes")},
         .on = {Text("yes")},
         .off = {Text("no")},
-        .windowsDefault = State::On,
     },
     Option{
         .control = "chkMP3BitRate",
@@ -249,7 +239,6 @@ constexpr Option Options[] = {
         .onWhen = {Equals(0)},
         .on = {Dword(0)},
         .off = {Dword(1)},
-        .windowsDefault = State::On,
     },
     // A number, on purpose, where Windows keeps a text; a present value of any size reads as on.
     Option{

@@ -155,8 +155,6 @@ using Steps = std::initializer_list<Step>;
 // What must hold of the option's own place for one side's steps to be carried out at all.
 enum class Guard { None, ValuePresent, KeyPresent, KeyAbsent };
 
-enum class State { Off, On };
-
 struct Option;
 struct PassContext;
 
@@ -197,10 +195,6 @@ struct Option {
     Steps always = {};
     // Takes the place of the ordinary write; nullptr for none.
     NamedStep writeStep = nullptr;
-
-    // What a check box would have to show for what Windows itself does where the value is absent,
-    // which is not always what the conditions make of an absent value.
-    State windowsDefault = State::Off;
 
     constexpr bool IsCheckBox() const { return control.starts_with("chk"); }
     constexpr bool HasConditions() const { return onWhen.size() + offWhen.size() > 0; }

@@ -36,14 +36,6 @@ int ExpectedState(const Options& options, const std::string& checkBox) {
     return 1;
 }
 
-std::string AbsentState(const std::string& checkBox) {
-    std::string state;
-    for (const Fact& fact : FactsDecidedBy(checkBox)) {
-        if (fact.Decides()) state = fact.read.substr(fact.read.find("; absent: ") + 10);
-    }
-    return state;
-}
-
 // One option's step of a pass, without what other options do to its control.
 template <typename OptionStep>
 void TakeAlone(Options& options, const std::string& name, OptionStep step) {
@@ -103,6 +95,31 @@ TEST_CASE("an absent value gives every check box its absent state") {
         CHECK(options.State(name) == (AbsentState(name) == "on" ? 1 : 0));
         CHECK(options.State(name) == ExpectedState(options, name));
     }
+}
+
+TEST_CASE("what Windows does where a value is absent is told of every check box that reads one") {
+    std::vector<std::string> read;
+    for (const std::string& name : GoldenCheckBoxes()) {
+        if (AbsentState(name) != "") read.push_back(name);
+    }
+    std::vector<std::string> told;
+    for (const auto& [name, windows] : WindowsDefaults()) told.push_back(name);
+    CHECK(told == read);
+}
+
+// A first Apply changes there what Windows did so far.
+TEST_CASE_FIXTURE(Options, "an absent value reads as what Windows does but for the boxes told") {
+    passes.Read();
+    std::string otherwise;
+    for (const auto& [name, windows] : WindowsDefaults()) {
+        if (State(name) != windows) otherwise += name + (windows ? " off\n" : " on\n");
+    }
+    std::string told;
+    for (const auto& [name, shown] : ReadingOtherwiseThanWindows()) {
+        told += name + (shown ? " on\n" : " off\n");
+    }
+    CHECK(otherwise == told);
+    CHECK(otherwise != "");
 }
 
 TEST_CASE("what a side has written reads as the table says") {

@@ -135,6 +135,47 @@ std::vector<Fact> FactsDecidedBy(const std::string& checkBox) {
     return facts;
 }
 
+std::string AbsentState(const std::string& checkBox) {
+    constexpr std::string_view Absent = "; absent: ";
+    for (const Fact& fact : FactsDecidedBy(checkBox)) {
+        const std::size_t at = fact.read.find(Absent);
+        if (fact.IsCheckBox() && at != std::string::npos)
+            return fact.read.substr(at + Absent.size());
+    }
+    return "";
+}
+
+namespace {
+
+std::vector<std::pair<std::string, bool>> ReadWindowsDefaults() {
+    std::vector<std::pair<std::string, bool>> defaults;
+    std::istringstream lines(FileText("tests/golden/windowsdefaults.tsv"));
+    for (std::string line; std::getline(lines, line);) {
+        const auto part = Split(line, '\t');
+        if (part.size() != 2 || (part[1] != "on" && part[1] != "off")) {
+            throw std::runtime_error("neither on nor off: " + line);
+        }
+        defaults.emplace_back(part[0], part[1] == "on");
+    }
+    return defaults;
+}
+
+}  // namespace
+
+const std::vector<std::pair<std::string, bool>>& WindowsDefaults() {
+    static const auto defaults = ReadWindowsDefaults();
+    return defaults;
+}
+
+std::vector<std::pair<std::string, bool>> ReadingOtherwiseThanWindows() {
+    std::vector<std::pair<std::string, bool>> boxes;
+    for (const auto& [name, windows] : WindowsDefaults()) {
+        const bool shown = AbsentState(name) == "on";
+        if (shown != windows) boxes.emplace_back(name, shown);
+    }
+    return boxes;
+}
+
 namespace {
 
 // Takes `tail` off the end of `words`; whether it stood there.

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tweaks/option.h"
@@ -40,9 +41,19 @@ std::vector<Fact> FactsDecidedBy(const std::string& checkBox);
 // understanding of their words, not the program's. Texts are those of the form's boxes.
 void Apply(const std::vector<Fact>& facts, std::string Fact::*side, Options& options);
 
+// What the box shows where its values are absent: "on", "off", "stays" (as the form has it, which
+// is off), or "" for a box that no value decides.
+std::string AbsentState(const std::string& checkBox);
+
+// The boxes that look at a value, each with what it would have to show for what Windows does while
+// that value is absent and all else is as it was installed.
+const std::vector<std::pair<std::string, bool>>& WindowsDefaults();
+
+// Those of them that show something else then, and what they show.
+std::vector<std::pair<std::string, bool>> ReadingOtherwiseThanWindows();
+
 // Whether the fact, by its own words, lets a check box read as on; a fact that does not decide says
-// yes. The stored value's text is taken
-// by this function's own understanding, not the program's.
+// yes. The stored value's text is taken by this function's own understanding, not the program's.
 bool ReadsAsOn(const Fact& fact, const std::optional<StoredValue>& stored);
 
 // The program's own rows in the words of the file.

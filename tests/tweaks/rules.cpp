@@ -159,18 +159,3 @@ TEST_CASE("an option that two keys of a program hold is read and written by its 
                                           option.offGuard == tweaks::Guard::None);
           }) == "");
 }
-
-// Where an absent value reads otherwise, a first Apply changes what Windows did so far.
-TEST_CASE_FIXTURE(Options, "an absent value reads as what Windows does but for some options") {
-    passes.Read();
-    CHECK(Violations([&](const Option& option) {
-              return !option.HasConditions() ||
-                     (State(option.control) == 1) == (option.windowsDefault == tweaks::State::On);
-          }) ==
-          "chkmemorymanagement\nchkSecondLevelDataCache\nchkMFTTuning\n"
-          "chkWinAnimate\nchkNeroBurnSpeed\nchkOSVersionOnDesktop\nchkBalloonTipps\n"
-          "chkDescriptionPopups\nchkDisableThumbnails\nchkSystemRestore\nchkTaskBarGlooming\n"
-          "chkSystemSpeaker\nchkDOSComp\n"
-          "chkWatsonIE\nchkWatsonXP\nchkPageFileDelete\nchkDatensicherheit(2)\n"
-          "chkEnableNetworkProcessor\nchkSACK\nchkAutoMTU\nchkNotifyDownloadReady\n");
-}
