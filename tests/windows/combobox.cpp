@@ -279,6 +279,35 @@ TEST_CASE_FIXTURE(OneBox, "Return on the item that the open list has found takes
     CHECK(events == Journal{"change 1", "change 15", "click 1500"});
 }
 
+// Selecting a list's item by message completes the field as silently as the class does.
+TEST_CASE_FIXTURE(OneBox, "what the open list has made of the text counts when the list closes") {
+    Type(L"15");
+    events.clear();
+    SendMessageW(window, CB_SHOWDROPDOWN, TRUE, 0);
+    SendMessageW(window, CB_SETCURSEL, 2, 0);
+    REQUIRE(TextOf(window) == "1500");
+    REQUIRE(box.Text() == "15");
+    SUBCASE("left by Escape") {
+        SetFocus(window);
+        SendMessageW(field, WM_KEYDOWN, VK_ESCAPE, 0);
+    }
+    SUBCASE("closed by the program") {
+        SendMessageW(window, CB_SHOWDROPDOWN, FALSE, 0);
+    }
+    CHECK_FALSE(SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0));
+    CHECK(box.Text() == TextOf(window));
+    CHECK(box.Text() == "1500");
+    CHECK(events.size() == 1);
+}
+
+TEST_CASE_FIXTURE(OneBox, "a list that is opened and closed again changes nothing") {
+    Pick(1);
+    SendMessageW(window, CB_SHOWDROPDOWN, TRUE, 0);
+    SendMessageW(window, CB_SHOWDROPDOWN, FALSE, 0);
+    CHECK(box.ListIndex() == 1);
+    CHECK(events == Journal{"click 576"});
+}
+
 TEST_CASE_FIXTURE(OneBox, "a text of 64 KiB goes in and out") {
     const std::string longText(65536, 'x');
     SUBCASE("set by the program") {
@@ -323,6 +352,14 @@ TEST_CASE_FIXTURE(ListOnly, "a box that only lists has no field, and shows its s
     box.Clear();
     CHECK(NativeIndex() == CB_ERR);
     CHECK(events == Journal{"click 576", "click 1500", "click 552"});
+}
+
+TEST_CASE_FIXTURE(ListOnly, "a box that only lists may be closed without a selection") {
+    SendMessageW(window, CB_SHOWDROPDOWN, TRUE, 0);
+    SendMessageW(window, CB_SHOWDROPDOWN, FALSE, 0);
+    CHECK(box.ListIndex() == ComboBox::NoSelection);
+    CHECK(messages.texts.empty());
+    CHECK(events.empty());
 }
 
 TEST_CASE_FIXTURE(ListOnly, "an event of a box that only lists may pick another item") {

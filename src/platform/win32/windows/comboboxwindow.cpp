@@ -107,6 +107,11 @@ void ComboBoxWindow::Notified(UINT code) {
         case CBN_SELENDOK:
             Picked();
             break;
+        // Dropped by the keyboard, the class completes what is typed to an item, and tells of that
+        // neither then nor where the list is left by Escape.
+        case CBN_CLOSEUP:
+            if (field_) Typed();
+            break;
         default:
             break;
     }
