@@ -39,6 +39,10 @@ TEST_CASE_FIXTURE(Letter, "the tabulator leaves a box of several lines and write
     CHECK(box.Text() == "eins");
 }
 
+TEST_CASE_FIXTURE(Letter, "a box of several lines in which one types has a vertical scroll bar") {
+    CHECK((GetWindowLongW(Edit(), GWL_STYLE) & WS_VSCROLL) != 0);
+}
+
 TEST_CASE_FIXTURE(Letter, "Return begins a new line in a box of several lines") {
     SendMessageW(Edit(), EM_SETSEL, 4, 4);
     Press(VK_RETURN);
