@@ -150,6 +150,15 @@ TEST_CASE_FIXTURE(Fixture, "a key with sub-keys is not removed, one with values 
     CHECK(registry.RemoveKey(Registry::CurrentUser, Scratch) == Registry::FileNotFound);
 }
 
+TEST_CASE_FIXTURE(Fixture, "a key is removed by a path with a backslash behind it, and no other") {
+    const std::string below = std::string(Scratch) + "\\Below";
+    registry.Close(Make(Registry::CurrentUser, below));
+    CHECK(registry.RemoveKey(Registry::CurrentUser, below + "\\") == Registry::Success);
+    CHECK(Open(Registry::CurrentUser, below) == Registry::FileNotFound);
+    CHECK(registry.RemoveKey(Registry::CurrentUser, below + "\\") == Registry::FileNotFound);
+    CHECK(Open(Registry::CurrentUser, Scratch) == Registry::Success);
+}
+
 TEST_CASE_FIXTURE(Fixture, "the handle of a key that was removed serves no call but closing") {
     const Registry::Key key = MakeScratch();
     REQUIRE(SetNumber(key) == Registry::Success);
