@@ -1,11 +1,13 @@
 // What the mouse does over labels, frames and the form, and the colour of labels.
 #include <windows.h>
 
+#include <commctrl.h>
 #include <doctest/doctest.h>
 
 #include "platform/win32/handle.h"
 #include "runtime/failure.h"
 #include "windows/desk.h"
+#include "windows/realmouse.h"
 
 using namespace windows;
 
@@ -82,6 +84,37 @@ TEST_CASE("a move over the label, the frame, the page or the form reaches just t
     CHECK(f.heard.back() == "form");
     f.Move(f.desk.host.WindowOf(f.form));
     CHECK(f.heard == std::vector<std::string>{"link", "frame", "form", "form"});
+}
+
+// A disabled control is passed over by the mouse, so its own tip can never be read.
+TEST_CASE("a frame's tip is told to the mouse over a disabled control in it, not over others") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& frame = form.Add<toolkit::Frame>("fra", "Rahmen");
+    auto& shut = form.Add<toolkit::CheckBox>("chkShut", "Gesperrt");
+    auto& open = form.Add<toolkit::CheckBox>("chkOpen", "Offen");
+    frame.SetToolTip("Fehlt der Treiber, ist der Kasten gesperrt.");
+    shut.SetEnabled(false);
+    form.SetLayout(InFrame(frame, toolkit::Column({Leaf(shut), Leaf(open)})));
+    form.Show();
+    RealMouse mouse;
+    SetForegroundWindow(desk.host.WindowOf(form));
+    const auto shown = [] {
+        const HWND tip = FindWindowW(TOOLTIPS_CLASSW, nullptr);
+        return tip && IsWindowVisible(tip) ? windows::TextOf(tip) : "";
+    };
+    const auto rest = [&](const char* name) {
+        RealMouse::MoveTo(desk.Find(form, name), 4, 4);
+        ServeQueue();
+        RealMouse::MoveTo(desk.Find(form, name), 6, 5);
+    };
+    rest("chkShut");
+    ServeUntil([&] { return shown() == frame.ToolTip(); });
+    rest("chkOpen");
+    ServeUntil([&] { return shown().empty(); });
+    POINT inside{6, 5};
+    ClientToScreen(desk.Find(form, "chkOpen"), &inside);
+    CHECK(WindowFromPoint(inside) == desk.Find(form, "chkOpen"));
 }
 
 TEST_CASE("a frame to which nobody listens lets the mouse through to its page") {

@@ -47,7 +47,7 @@ class FrameWindow final : public ListeningWindow {
 
   protected:
     Recipe Describe() const override;
-    bool IsHeard() const override { return control_.onMouseMove != nullptr; }
+    bool IsHeard() const override { return control_.onMouseMove || !control_.ToolTip().empty(); }
     LRESULT Hear(const HookedMessage& hooked) override;
 
   private:
