@@ -1,7 +1,7 @@
 #include "cleanup/deletefolder.h"
 
 #include "cleanup/folderobjects.h"
-#include "cleanup/pathnames.h"
+#include "cleanup/literalpath.h"
 #include "platform/files.h"
 #include "runtime/failure.h"
 
@@ -9,11 +9,11 @@ namespace cleanup {
 
 namespace {
 
-enum class What { All, Links };
+enum class What { All, LinksToFolders };
 
 void Take(platform::Folders& folders, platform::Files& files, const std::string& path, What what) {
     // Looked at right before it is entered: what was a folder when its parent was listed may have
-    // become a link, and nothing is deleted behind one.
+    // become a link. One that takes its place later than that is not noticed.
     const auto folder = folders.Find(path);
     if (!folder || !folder->IsFolder()) throw runtime::Failure(runtime::PathNotFound);
     if (!folder->IsLink()) {
@@ -22,7 +22,7 @@ void Take(platform::Folders& folders, platform::Files& files, const std::string&
             if (!IsTakenLiterally(inside)) throw runtime::Failure(runtime::PermissionDenied);
             if (entry.IsFolder()) {
                 Take(folders, files, inside, what);
-            } else if (what == What::All || entry.IsLink()) {
+            } else if (what == What::All) {
                 files.Remove(inside, true);
             }
         }
@@ -37,7 +37,7 @@ void DeleteFolder(platform::Folders& folders, platform::Files& files, const std:
 }
 
 void DropLinks(platform::Folders& folders, platform::Files& files, const std::string& path) {
-    Take(folders, files, path, What::Links);
+    Take(folders, files, path, What::LinksToFolders);
 }
 
 }  // namespace cleanup

@@ -25,18 +25,4 @@ std::string_view ExtensionOf(std::string_view name) {
     return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
 }
 
-std::string_view GetExtensionName(std::string_view path) {
-    return ExtensionOf(GetFileName(path));
-}
-
-bool IsTakenLiterally(std::string_view path) {
-    if (path.find_first_of("*?") != std::string_view::npos) return false;
-    char before = '\0';
-    for (const char character : path) {
-        if (character == '\\' && (before == '.' || before == ' ')) return false;
-        before = character;
-    }
-    return before != '.' && before != ' ';
-}
-
 }  // namespace cleanup

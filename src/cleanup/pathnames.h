@@ -9,14 +9,8 @@ namespace cleanup {
 // The last part of the path; backslashes behind it do not count. "" for a drive or its root.
 std::string_view GetFileName(std::string_view path);
 
-// What stands behind the last dot of the last part, without the dot; "" where there is no dot. So
-// "x." has the extension "" and ".tmp" the extension "tmp".
-std::string_view GetExtensionName(std::string_view path);
-// The same of a last part by itself.
+// What stands behind the last dot of such a last part, without the dot; "" where there is no dot.
+// So "x." has the extension "" and ".tmp" the extension "tmp".
 std::string_view ExtensionOf(std::string_view name);
-
-// Whether the system takes each part of the path as it is spelled: it drops dots and blanks behind
-// a part, and the rest may name another file; the shell takes signs for many names at once.
-bool IsTakenLiterally(std::string_view path);
 
 }  // namespace cleanup

@@ -4,7 +4,8 @@
 
 #include "cleanup/deletefolder.h"
 #include "cleanup/drivespacelabels.h"
-#include "cleanup/pathnames.h"
+#include "cleanup/knownlinks.h"
+#include "cleanup/literalpath.h"
 #include "cleanup/recyclebin.h"
 #include "cleanup/tempfilesframe.h"
 #include "platform/files.h"
@@ -30,8 +31,6 @@ struct Row {
     bool isFolder = false;
 };
 
-// As they were when the user confirmed: the shell's own questions let events through, and a search
-// started meanwhile must not bring in rows that nobody has confirmed.
 std::vector<Row> RowsOf(const toolkit::ListView& list) {
     std::vector<Row> rows;
     for (int row = 0; row < list.Count(); ++row) {
@@ -40,6 +39,110 @@ std::vector<Row> RowsOf(const toolkit::ListView& list) {
             {list.Text(row), list.Ticked(row), list.Text(row, column::Type) == "Dateiordner"});
     }
     return rows;
+}
+
+// What the user has confirmed, as it was at that moment: emptying the bin and the shell's own
+// questions let events through, and neither a search nor another removal nor a box ticked meanwhile
+// may change what goes, and how. Nothing is deleted behind a link that has come since the search;
+// a folder that is exchanged for a link within the moment between the look at it and its deletion
+// is not noticed.
+class Removal {
+  public:
+    Removal(TempFilesFrame& frame, platform::Machine& machine, const KnownLinks& links)
+        : frame_(frame),
+          machine_(machine),
+          rows_(RowsOf(frame.lvwFiles)),
+          links_(links),
+          emptiesBin_(frame.chkCleanRecycleBin.Value() == 1),
+          intoBin_(frame.chkMoveToRecycleBin.Value() == 1) {}
+
+    void EmptyBin() const;
+    // Returns how many of the ticked files were in use.
+    int RemoveRows() const;
+
+  private:
+    // Whether the path still names what the search found there.
+    bool MayTouch(const std::string& path) const;
+    bool IsInUse(const std::string& path) const;
+    void RemoveFile(const std::string& path) const;
+    void RemoveFolder(const std::string& path) const;
+    void MoveToBin(const std::string& path) const;
+
+    TempFilesFrame& frame_;
+    platform::Machine& machine_;
+    const std::vector<Row> rows_;
+    const KnownLinks links_;
+    const bool emptiesBin_;
+    const bool intoBin_;
+};
+
+void Removal::EmptyBin() const {
+    // Shown whether or not the bin is emptied, on purpose.
+    frame_.ShowProgress("Lösche Papierkorb von Laufwerk '" + frame_.Drive() + "' ...");
+    if (emptiesBin_) Skip([&] { EmptyRecycleBin(machine_.shell); });
+}
+
+int Removal::RemoveRows() const {
+    int failed = 0;
+    for (const Row& row : rows_) {
+        if (row.ticked) {
+            if (IsInUse(row.path)) {
+                ++failed;
+            } else {
+                RemoveFile(row.path);
+            }
+            frame_.ShowProgress("Lösche '" + row.path + "'");
+        }
+        // Ticked or not, on purpose: a folder that was found always goes.
+        if (row.isFolder) RemoveFolder(row.path);
+    }
+    return failed;
+}
+
+bool Removal::MayTouch(const std::string& path) const {
+    return IsTakenLiterally(path) && links_.LeadTo(machine_.folders, path);
+}
+
+// What cannot be opened for another reason than that, a folder for instance, is not in use. A path
+// that names something else by now is not opened at all.
+bool Removal::IsInUse(const std::string& path) const {
+    bool inUse = false;
+    Skip([&] { inUse = MayTouch(path) && utilities::FileIsLocked(machine_.files, path); });
+    return inUse;
+}
+
+void Removal::RemoveFile(const std::string& path) const {
+    Skip([&] {
+        if (!MayTouch(path)) return;
+        if (intoBin_) {
+            MoveToBin(path);
+        } else {
+            machine_.files.Remove(path, true);
+        }
+    });
+}
+
+void Removal::RemoveFolder(const std::string& path) const {
+    Skip([&] {
+        if (!MayTouch(path)) return;
+        if (intoBin_) {
+            MoveToBin(path);
+        } else {
+            DeleteFolder(machine_.folders, machine_.files, path);
+        }
+    });
+}
+
+void Removal::MoveToBin(const std::string& path) const {
+    // The shell takes the path in the code page, and what that lacks turns into a wildcard or into
+    // another letter: other files would go.
+    if (machine_.locale.FromAnsi(machine_.locale.ToAnsi(path)) != path) return;
+    // The shell of XP goes into links to folders and deletes what they lead to, so they go before.
+    const auto entry = machine_.folders.Find(path);
+    if (!entry) return;
+    if (entry->IsFolder()) DropLinks(machine_.folders, machine_.files, path);
+    if (entry->IsFolder() && entry->IsLink()) return;
+    utilities::ShellDeleteFile(machine_.shell, path, false);
 }
 
 }  // namespace
@@ -53,11 +156,10 @@ void TempFileRemoval::Click() {
         return;
     }
     if (!Confirmed()) return;
+    const Removal removal(frame_, machine_, links_);
     const toolkit::ScreenHourglass hourglass{machine_.forms};
-    // Shown whether or not the bin is emptied, on purpose.
-    frame_.ShowProgress("Lösche Papierkorb von Laufwerk '" + frame_.Drive() + "' ...");
-    if (frame_.chkCleanRecycleBin.Value() == 1) Skip([&] { EmptyRecycleBin(machine_.shell); });
-    const int failed = RemoveRows();
+    removal.EmptyBin();
+    const int failed = removal.RemoveRows();
     frame_.lblScannedFiles.SetCaption("Löschvorgang abgeschlossen!");
     frame_.lblHinweisTemp.SetCaption(std::to_string(failed) +
                                      " Dateien konnten nicht gelöscht werden (in Benutzung).");
@@ -82,69 +184,6 @@ bool TempFileRemoval::Confirmed() const {
             machine_.messages.Show("Alle markierten Dateien löschen?", Question | YesNo, Title);
     });
     return answer == Yes;
-}
-
-int TempFileRemoval::RemoveRows() {
-    int failed = 0;
-    confirmedLinks_ = links_;
-    for (const Row& row : RowsOf(frame_.lvwFiles)) {
-        if (row.ticked) {
-            if (IsInUse(row.path)) {
-                ++failed;
-            } else {
-                RemoveFile(row.path);
-            }
-            frame_.ShowProgress("Lösche '" + row.path + "'");
-        }
-        // Ticked or not, on purpose: a folder that was found always goes.
-        if (row.isFolder) RemoveFolder(row.path);
-    }
-    return failed;
-}
-
-bool TempFileRemoval::MayTouch(const std::string& path) const {
-    return IsTakenLiterally(path) && confirmedLinks_.LeadTo(machine_.folders, path);
-}
-
-// What cannot be opened for another reason than that, a folder for instance, is not in use.
-bool TempFileRemoval::IsInUse(const std::string& path) const {
-    bool inUse = false;
-    Skip([&] { inUse = utilities::FileIsLocked(machine_.files, path); });
-    return inUse;
-}
-
-void TempFileRemoval::RemoveFile(const std::string& path) {
-    Skip([&] {
-        if (!MayTouch(path)) return;
-        if (frame_.chkMoveToRecycleBin.Value() == 1) {
-            MoveToBin(path);
-        } else {
-            machine_.files.Remove(path, true);
-        }
-    });
-}
-
-void TempFileRemoval::RemoveFolder(const std::string& path) {
-    Skip([&] {
-        if (!MayTouch(path)) return;
-        if (frame_.chkMoveToRecycleBin.Value() == 1) {
-            MoveToBin(path);
-        } else {
-            DeleteFolder(machine_.folders, machine_.files, path);
-        }
-    });
-}
-
-void TempFileRemoval::MoveToBin(const std::string& path) {
-    // The shell takes the path in the code page, and what that lacks turns into a wildcard or into
-    // another letter: other files would go.
-    if (machine_.locale.FromAnsi(machine_.locale.ToAnsi(path)) != path) return;
-    // The shell of XP goes into links and deletes what they lead to, so they go before.
-    const auto entry = machine_.folders.Find(path);
-    if (!entry) return;
-    if (entry->IsFolder()) DropLinks(machine_.folders, machine_.files, path);
-    if (entry->IsFolder() && entry->IsLink()) return;
-    utilities::ShellDeleteFile(machine_.shell, path, false);
 }
 
 }  // namespace cleanup

@@ -1,19 +1,15 @@
 #pragma once
 
-#include <string>
-
-#include "cleanup/knownlinks.h"
-
 namespace platform {
 struct Machine;
 }
 
 namespace cleanup {
 
+class KnownLinks;
 class TempFilesFrame;
 
-// What "Dateien löschen" does with the rows of the list. Nothing but what the rows name is deleted:
-// not what a link in a folder leads to, nor what lies behind a link that has come since the search.
+// What "Dateien löschen" does with the rows of the list.
 class TempFileRemoval {
   public:
     TempFileRemoval(TempFilesFrame& frame, platform::Machine& machine, const KnownLinks& links)
@@ -25,20 +21,10 @@ class TempFileRemoval {
   private:
     bool AnyTicked() const;
     bool Confirmed() const;
-    // Returns how many of the ticked files were in use.
-    int RemoveRows();
-    // Whether the path still names what the search found there.
-    bool MayTouch(const std::string& path) const;
-    bool IsInUse(const std::string& path) const;
-    void RemoveFile(const std::string& path);
-    void RemoveFolder(const std::string& path);
-    void MoveToBin(const std::string& path);
 
     TempFilesFrame& frame_;
     platform::Machine& machine_;
     const KnownLinks& links_;
-    // As they were when the user confirmed, like the rows.
-    KnownLinks confirmedLinks_;
 };
 
 }  // namespace cleanup

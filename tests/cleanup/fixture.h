@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -68,6 +69,32 @@ struct Fixture {
         Search();
         return Rows();
     }
+};
+
+// A window of lblScannedFiles: what the label says each time that it is painted at once.
+class PaintedLines final : public toolkit::ControlView {
+  public:
+    explicit PaintedLines(Fixture& on) : label_(on.frame.lblScannedFiles) { label_.SetView(this); }
+    ~PaintedLines() override { label_.SetView(nullptr); }
+    PaintedLines(const PaintedLines&) = delete;
+    PaintedLines& operator=(const PaintedLines&) = delete;
+
+    void PaintNow() override {
+        lines.push_back(label_.Caption());
+        if (whenPainted) whenPainted(lines.back());
+    }
+    void Refresh(toolkit::Aspect) override {}
+    void Repaint() override {}
+    bool PointerIsOver() const override { return false; }
+    void TakeFocus() override {}
+    void CaptureMouse() override {}
+    void MoveFocus(bool) override {}
+
+    Lines lines;
+    std::function<void(const std::string&)> whenPainted;
+
+  private:
+    toolkit::Label& label_;
 };
 
 }  // namespace cleanup_test

@@ -2,8 +2,15 @@
 
 #include <doctest/doctest.h>
 
-using cleanup::GetExtensionName;
 using cleanup::GetFileName;
+
+namespace {
+
+std::string_view GetExtensionName(std::string_view path) {
+    return cleanup::ExtensionOf(GetFileName(path));
+}
+
+}  // namespace
 
 TEST_CASE("the file name is the last part of the path, backslashes behind it do not count") {
     CHECK(GetFileName("C:\\a\\b.txt") == "b.txt");

@@ -40,30 +40,17 @@ TEST_CASE_FIXTURE(Bin, "after Yes the bins of all drives are empty, though one d
 }
 
 TEST_CASE_FIXTURE(Bin, "while the bins are emptied the hourglass and a painted line say so") {
-    struct Painting final : toolkit::ControlView {
-        Painting(Bin& bin) : on(bin) { on.frame.lblScannedFiles.SetView(this); }
-        ~Painting() override { on.frame.lblScannedFiles.SetView(nullptr); }
-        void PaintNow() override {
-            painted.push_back(on.frame.lblScannedFiles.Caption());
-            hourglass = on.machine.forms.ScreenPointer() == toolkit::Hourglass;
-            before = on.machine.journal.Calls("SHEmptyRecycleBinA").empty();
-        }
-        void Refresh(toolkit::Aspect) override {}
-        void Repaint() override {}
-        bool PointerIsOver() const override { return false; }
-        void TakeFocus() override {}
-        void CaptureMouse() override {}
-        void MoveFocus(bool) override {}
-
-        Bin& on;
-        Lines painted;
-        bool hourglass = false;
-        bool before = false;
-    } painting(*this);
+    cleanup_test::PaintedLines painted(*this);
+    bool hourglass = false;
+    bool before = false;
+    painted.whenPainted = [&](const std::string&) {
+        hourglass = machine.forms.ScreenPointer() == toolkit::Hourglass;
+        before = machine.journal.Calls("SHEmptyRecycleBinA").empty();
+    };
     Press(platform::message::Yes);
-    CHECK(painting.painted == Lines{"Lösche Papierkorb von Laufwerk 'd:' ..."});
-    CHECK(painting.hourglass);
-    CHECK(painting.before);
+    CHECK(painted.lines == Lines{"Lösche Papierkorb von Laufwerk 'd:' ..."});
+    CHECK(hourglass);
+    CHECK(before);
 }
 
 TEST_CASE_FIXTURE(Bin, "emptying the bins takes no hourglass of the form's own away") {
@@ -81,6 +68,14 @@ TEST_CASE_FIXTURE(Bin, "any answer but Yes leaves bins and labels as they are") 
         CHECK(machine.shell.recycleBin.size() == 2);
         CHECK(frame.lblHinweisTemp.Caption() == "before");
     }
+}
+
+TEST_CASE_FIXTURE(Bin, "a question about the bin that cannot be shown empties nothing") {
+    machine.faults.FailOn(TitleOfD, 7);
+    CHECK(cleanup_test::NumberOf([&] { frame.cmdCleanBinDirect.Press(); }) == 7);
+    CHECK(machine.shell.recycleBin.size() == 2);
+    CHECK(frame.lblHinweisTemp.Caption() == "before");
+    CHECK(form.Pointer() == toolkit::DefaultPointer);
 }
 
 TEST_CASE_FIXTURE(Bin, "a bin that cannot be emptied is no failure") {

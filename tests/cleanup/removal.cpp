@@ -272,3 +272,66 @@ TEST_CASE_FIXTURE(Found, "rows that come into the list during the removal are no
     CHECK(IsThere("C:\\x\\new.tmp"));
     CHECK_FALSE(IsThere("C:\\x\\a.tmp"));
 }
+
+TEST_CASE_FIXTURE(Fixture, "what a removal does is shown at once, each file when it has gone") {
+    File("C:\\x\\a.tmp");
+    File("C:\\x\\b.tmp").held = true;
+    Search();
+    cleanup_test::PaintedLines painted(*this);
+    painted.whenPainted = [&](const std::string& line) {
+        if (line.starts_with("Lösche Papierkorb")) CHECK(disk.Find("C:\\x\\a.tmp"));
+        if (line == "Lösche 'c:\\x\\a.tmp'") CHECK_FALSE(disk.Find("C:\\x\\a.tmp"));
+    };
+    bool emptied = false;
+    SUBCASE("also that of the recycle bin, which stays as it is") {}
+    SUBCASE("the recycle bin's before it is emptied") {
+        emptied = true;
+        Tick(frame.chkCleanRecycleBin);
+    }
+    Clean();
+    CHECK(painted.lines == Lines{"Lösche Papierkorb von Laufwerk 'c: [SYSTEM]' ...",
+                                 "Lösche 'c:\\x\\a.tmp'", "Lösche 'c:\\x\\b.tmp'"});
+    CHECK(machine.journal.Calls("SHEmptyRecycleBinA").size() == (emptied ? 1 : 0));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a row whose path the system would take for another's is not opened") {
+    File("C:\\x\\y.tmp");
+    Search();
+    for (const char* path : {"c:\\x\\y.tmp.", "c:\\x\\com1.tmp"}) {
+        list.AddRow(path);
+        list.SetTicked(list.Count() - 1, true);
+    }
+    list.SetTicked(0, false);
+    machine.journal.Clear();
+    Clean();
+    CHECK(machine.journal.Calls("OpenForReading").empty());
+    CHECK(machine.journal.Calls("DeleteFile").empty());
+    CHECK(frame.lblHinweisTemp.Caption().starts_with("0 "));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file behind a link that has come since the search is not in use") {
+    File("C:\\x\\a.tmp");
+    File("C:\\other\\a.tmp").held = true;
+    Search();
+    REQUIRE(list.Count() == 2);
+    platform::simulated::Disk::Erase(disk.At("C:\\x"));
+    disk.MakeLink("C:\\x", "C:\\other");
+    for (int row = 0; row < 2; ++row) {
+        list.SetTicked(row, list.Text(row) == "c:\\x\\a.tmp");
+    }
+    Clean();
+    CHECK(frame.lblHinweisTemp.Caption().starts_with("0 "));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file in a folder that carries the mark of links goes into the bin") {
+    Tick(frame.chkCleanUserTempFolder);
+    Tick(frame.chkMoveToRecycleBin);
+    File("C:\\UserTemp\\a\\remote.dat", 32 | platform::attribute::Link);
+    Search();
+    frame.TickAll(false);
+    list.SetTicked(list.Count() - 1, true);
+    REQUIRE(list.Text(list.Count() - 1) == "C:\\UserTemp\\a");
+    Clean();
+    CHECK(machine.journal.Calls("DeleteFile").empty());
+    CHECK(machine.shell.recycleBin == Lines{"C:\\UserTemp\\a"});
+}

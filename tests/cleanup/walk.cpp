@@ -197,3 +197,11 @@ TEST_CASE_FIXTURE(Fixture, "events run once for each folder and not for its file
     // The drive, x, WINDOWS and WINDOWS\Temp.
     CHECK(served == 4);
 }
+
+TEST_CASE_FIXTURE(Fixture, "what a search looks at is shown at once, file by file") {
+    File("C:\\x\\a.txt");
+    File("C:\\x\\b.tmp");
+    cleanup_test::PaintedLines painted(*this);
+    Search();
+    CHECK(painted.lines == Lines{"c:\\x\\a.txt", "c:\\x\\b.tmp"});
+}
