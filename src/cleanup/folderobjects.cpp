@@ -1,5 +1,6 @@
 #include "cleanup/folderobjects.h"
 
+#include "cleanup/literalpath.h"
 #include "runtime/failure.h"
 
 namespace cleanup {
@@ -15,7 +16,7 @@ std::string PathIn(std::string_view folder, std::string_view name) {
 }
 
 Folder GetFolder(const platform::Folders& folders, std::string_view path) {
-    if (path.empty()) throw runtime::Failure(runtime::InvalidProcedureCall);
+    if (path.empty()) throw runtime::Failure(runtime::PathNotFound);
     std::string full = folders.FullPath(path);
     const bool isRoot = full.ends_with(":\\");
     if (!isRoot && full.ends_with('\\')) full.pop_back();
@@ -32,6 +33,14 @@ std::vector<Folder> SubFolders(platform::Folders& folders, const std::string& pa
         found.push_back({PathIn(path, entry.name), entry.attributes, entry.modified});
     }
     return found;
+}
+
+std::optional<FolderEntry> AsItIsNow(const platform::Folders& folders, const std::string& path,
+                                     const FolderEntry& listed) {
+    if (!IsTakenLiterally(path)) return listed;
+    auto now = folders.Find(path);
+    if (now && now->IsFolder() != listed.IsFolder()) now.reset();
+    return now;
 }
 
 double SizeOf(platform::Folders& folders, const std::string& path) {

@@ -37,7 +37,7 @@ void FolderWalk::Begin() {
     rules_.emplace(machine_);
 }
 
-bool FolderWalk::StopWanted() {
+bool FolderWalk::PollForStop() {
     const bool wanted = machine_.keyboard.AsyncState(platform::Keyboard::Escape) != 0 || stopped_;
     if (wanted) frame_.cmdSearchTempFiles.SetEnabled(true);
     return wanted;
@@ -45,7 +45,7 @@ bool FolderWalk::StopWanted() {
 
 void FolderWalk::ScanFolder(const Folder& folder, bool addAll) {
     machine_.forms.DoEvents();
-    if (StopWanted()) return;
+    if (PollForStop()) return;
     if (AttributesHideFolder(folder.attributes) || rules_->IsExcludedFolder(folder.path)) return;
     if (folder.attributes & platform::attribute::Link) links_.Add(machine_.folders, folder.path);
     std::vector<FolderEntry> entries;
@@ -61,7 +61,7 @@ void FolderWalk::ScanFolder(const Folder& folder, bool addAll) {
         if (entry.IsFolder()) continue;
         path.replace(start, std::string::npos, entry.name);
         ScanFile(path, entry, addAll);
-        if (StopWanted()) return;
+        if (PollForStop()) return;
     }
 }
 
@@ -73,16 +73,22 @@ void FolderWalk::ScanFile(const std::string& path, const FolderEntry& file, bool
     counts_.append(std::to_string(frame_.lvwFiles.Count()));
     frame_.lblHinweisTemp.SetCaption(counts_);
     frame_.ShowProgress(TrimAtNul(machine_.display.CompactPath(frame_.form, path, TextWidth)));
+    const bool byName = addAll || IsTempFile(path, IsOn(frame_.chkDeleteThumbs));
+    const bool bySize = IsOn(frame_.chkNullByteFiles);
+    if (!byName && !(bySize && file.size == 0)) return;
+    // The folder was listed before those below it were walked, which may be long ago.
+    const auto now = AsItIsNow(machine_.folders, path, file);
+    if (!now) return;
     const auto add = [&] {
         runtime::Skip([&] {
-            AddFileRow(path, static_cast<double>(file.size),
-                       machine_.shell.TypeName(path, file.attributes), file.modified,
-                       file.attributes);
+            AddFileRow(path, static_cast<double>(now->size),
+                       machine_.shell.TypeName(path, now->attributes), now->modified,
+                       now->attributes);
         });
     };
-    // An empty file may get a second row below, on purpose.
-    if (file.size == 0 && IsOn(frame_.chkNullByteFiles)) add();
-    if (addAll || IsTempFile(path, IsOn(frame_.chkDeleteThumbs))) add();
+    // An empty file may get two rows, on purpose.
+    if (bySize && now->size == 0) add();
+    if (byName) add();
 }
 
 void FolderWalk::AddFileRow(const std::string& path, double size, const std::string& type,

@@ -38,7 +38,8 @@ class FolderWalk {
     void ScanFolder(const Folder& folder, bool addAll);
 
     // A row, ticked, unless the attributes forbid it. While the list is sorted a row's size, type
-    // and date go to the last row, on purpose: they go by the number of rows.
+    // and date go to the last row, on purpose: they go by the number of rows. So a search in a
+    // sorted list leaves rows without a size, which cannot be added up, and ends with failure 13.
     void AddFileRow(const std::string& path, double size, const std::string& type,
                     const platform::LocalTime& modified, std::uint32_t attributes);
 
@@ -46,8 +47,9 @@ class FolderWalk {
     std::int32_t ScannedFiles() const { return scannedFiles_; }
 
   private:
-    // Asks for Escape, too, which stops only what asks: the folder that is being read or entered.
-    bool StopWanted();
+    // Whether to leave the folder that is being read or entered; then the button is enabled. Asks
+    // for Escape, too, which stops only what asks.
+    bool PollForStop();
     void ScanFile(const std::string& path, const platform::FolderEntry& file, bool addAll);
 
     TempFilesFrame& frame_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "cleanup/folderobjects.h"
 #include "cleanup/knownlinks.h"
@@ -23,6 +24,43 @@ namespace cleanup {
 namespace {
 
 constexpr int RecentFolder = 8;  // CSIDL_RECENT
+
+// What a search takes for its time: the list is locked, the button says "Stop", a stop can be asked
+// for. All of it is given back, whatever fails.
+class Running {
+  public:
+    Running(TempFilesFrame& frame, FolderWalk& walk) : frame_(frame), walk_(walk) {}
+    ~Running() {
+        walk_.Resume();
+        Try([&] { Unlock(); });
+        Try([&] { frame_.cmdSearchTempFiles.SetCaption("Suchen"); });
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+    void Start() {
+        frame_.cmdSearchTempFiles.SetCaption("Stop");
+        locked_ = true;
+        frame_.lvwFiles.LockWindow();
+    }
+    void Unlock() {
+        if (std::exchange(locked_, false)) frame_.lvwFiles.UnlockWindow();
+    }
+
+  private:
+    // Whatever ends the search is on its way already.
+    template <typename Statement>
+    static void Try(Statement statement) {
+        try {
+            statement();
+        } catch (...) {
+        }
+    }
+
+    TempFilesFrame& frame_;
+    FolderWalk& walk_;
+    bool locked_ = false;
+};
 
 // A folder that is not there is passed over, and the next statement runs.
 template <typename Statement>
@@ -49,17 +87,23 @@ void TempFileSearch::Click() {
         frame_.cmdSearchTempFiles.SetEnabled(false);
         return;
     }
+    Running running(frame_, walk_);
     std::int32_t total = 0;
     try {
         Begin();
+        running.Start();
         Collect();
         if (frame_.lvwFiles.Count() > 0) frame_.cmdCleanTempFiles.SetEnabled(true);
         AddSizes(total);
     } catch (const runtime::Failure& failure) {
-        machine_.messages.Show(failure.description, platform::message::Critical,
-                               "Fehler " + std::to_string(failure.number));
+        // A message that cannot be shown keeps nothing from its end.
+        runtime::Skip([&] {
+            machine_.messages.Show(failure.description, platform::message::Critical,
+                                   "Fehler " + std::to_string(failure.number));
+        });
     }
-    End(total);
+    running.Unlock();
+    ShowResult(total);
 }
 
 void TempFileSearch::Begin() {
@@ -68,8 +112,6 @@ void TempFileSearch::Begin() {
     walk_.Begin();
     frame_.cmdCleanTempFiles.SetEnabled(false);
     frame_.lblHinweisTemp.SetVisible(true);
-    frame_.cmdSearchTempFiles.SetCaption("Stop");
-    frame_.lvwFiles.LockWindow();
 }
 
 void TempFileSearch::Collect() {
@@ -122,9 +164,13 @@ void TempFileSearch::AddSubFolderRows(const std::string& path) {
     });
     for (const Folder& folder : found) {
         SkipMissing([&] {
-            walk_.AddFileRow(folder.path, SizeOf(machine_.folders, folder.path),
-                             machine_.shell.TypeName(folder.path, folder.attributes),
-                             folder.modified, folder.attributes);
+            const double size = SizeOf(machine_.folders, folder.path);
+            const auto now = AsItIsNow(machine_.folders, folder.path,
+                                       {"", folder.attributes, 0, folder.modified});
+            if (!now) return;
+            walk_.AddFileRow(folder.path, size,
+                             machine_.shell.TypeName(folder.path, now->attributes), now->modified,
+                             now->attributes);
         });
     }
 }
@@ -141,8 +187,7 @@ void TempFileSearch::AddSizes(std::int32_t& total) const {
     }
 }
 
-void TempFileSearch::End(std::int32_t total) {
-    frame_.lvwFiles.UnlockWindow();
+void TempFileSearch::ShowResult(std::int32_t total) {
     toolkit::AdjustColumnWidth(frame_.lvwFiles, true, 1);
     frame_.lblScannedFiles.SetCaption("Suchvorgang abgeschlossen!");
     const int rows = frame_.lvwFiles.Count();
@@ -150,8 +195,6 @@ void TempFileSearch::End(std::int32_t total) {
         rows == 0 ? "Keine Tempdateien gefunden!"
                   : std::to_string(rows) + " Tempdateien belegen " + std::to_string(total) +
                         " Bytes - Gescannt: " + std::to_string(walk_.ScannedFiles()) + " Dateien");
-    frame_.cmdSearchTempFiles.SetCaption("Suchen");
-    walk_.Resume();
 }
 
 }  // namespace cleanup

@@ -26,7 +26,7 @@ class TempFileSearch {
     void AddSubFolderRows(const std::string& path);
     // Adds the sizes of all rows to `total`. Throws Failure Overflow beyond 32 bits.
     void AddSizes(std::int32_t& total) const;
-    void End(std::int32_t total);
+    void ShowResult(std::int32_t total);
 
     TempFilesFrame& frame_;
     platform::Machine& machine_;

@@ -1,6 +1,8 @@
 #include <doctest/doctest.h>
 
 #include "cleanup/fixture.h"
+#include "platform/display.h"
+#include "platform/simulated/withservices.h"
 
 using cleanup_test::Fixture;
 using cleanup_test::Lines;
@@ -68,15 +70,46 @@ TEST_CASE_FIXTURE(Fixture, "an unknown Windows directory and no drive name no fo
     CHECK(frame.lblHinweisTemp.Caption() == "Keine Tempdateien gefunden!");
 }
 
-TEST_CASE_FIXTURE(Fixture, "failures of the drives are passed over, whatever their number") {
+namespace {
+
+class FailingDisplay final : public platform::Display {
+  public:
+    toolkit::Size Size() const override { return {}; }
+    std::string CompactPath(const toolkit::Form&, std::string_view, int) const override {
+        throw runtime::Failure(number);
+    }
+    int number = 0;
+};
+
+}  // namespace
+
+TEST_CASE("failures of the drives are passed over, whatever their number") {
+    for (bool allDrives : {false, true}) {
+        for (int number : {5, 70, 76}) {
+            platform::simulated::Machine machine;
+            FailingDisplay display;
+            display.number = number;
+            platform::Machine services =
+                platform::simulated::With(machine.services, {.display = &display});
+            toolkit::Form form{machine.forms, "frmMain", "Quillmore", {}};
+            cleanup::TempFiles tool{form, services};
+            machine.disk.MakeFile("C:\\x.tmp");
+            form.Load();
+            tool.Start();
+            tool.Frame().chkScanAll.SetValue(allDrives);
+            tool.Frame().cmdSearchTempFiles.Press();
+            CHECK(tool.Frame().lblHinweisTemp.Caption() == "Keine Tempdateien gefunden!");
+            CHECK(machine.messages.Shown().empty());
+        }
+    }
+}
+
+TEST_CASE_FIXTURE(Fixture, "a drive that cannot be looked at is passed over") {
     File("C:\\x.tmp");
     Tick(frame.chkScanAll);
-    for (int number : {5, 70}) {
-        machine.faults.FailOn("c:\\", number);
-        disk.MakeFolder("D:\\Win\\Temp");
-        machine.facts.windowsDirectory = "D:\\Win";
-        CHECK(Found().empty());
-        machine.faults.Clear();
-    }
+    disk.MakeFolder("D:\\Win\\Temp");
+    machine.facts.windowsDirectory = "D:\\Win";
+    machine.faults.FailOn("c:\\", 5);
+    CHECK(Found().empty());
     CHECK(machine.messages.Shown().empty());
 }

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include <algorithm>
+#include <new>
 
 #include "cleanup/fixture.h"
 
@@ -122,14 +122,28 @@ TEST_CASE_FIXTURE(Fixture, "a folder that is not there does not bring the one be
 }
 
 TEST_CASE_FIXTURE(Fixture,
-                  "a special folder that is not told is an invalid call, and ends the search") {
+                  "places that the system does not tell are passed over like missing ones") {
     machine.shell.specialFolders.erase(8);
+    machine.facts.tempPath = "";
     Tick(frame.chkRecentDocFolder);
+    Tick(frame.chkCleanUserTempFolder);
     File("C:\\x\\a.tmp");
-    CHECK(Found().empty());
-    CHECK(machine.messages.Shown() ==
-          std::vector<ShownMessage>{
-              {"Fehler 5", "Ungültiger Prozeduraufruf oder ungültiges Argument", 16}});
+    CHECK(Found() == Lines{"c:\\x\\a.tmp"});
+    CHECK(machine.messages.Shown().empty());
+    CHECK(frame.cmdCleanTempFiles.Enabled());
+}
+
+TEST_CASE_FIXTURE(Fixture, "recent documents come first, then the temp folders, then the drive") {
+    machine.shell.specialFolders[8] = "C:\\Recent";
+    File("C:\\Recent\\r.lnk");
+    File("C:\\UserTemp\\t.doc");
+    File("C:\\UserTemp\\sub\\u.doc");
+    File("C:\\WINDOWS\\Temp\\w\\v.doc");
+    File("C:\\x\\a.tmp");
+    Tick(frame.chkRecentDocFolder);
+    Tick(frame.chkCleanUserTempFolder);
+    CHECK(Found() == Lines{"C:\\Recent\\r.lnk", "C:\\UserTemp\\sub\\u.doc", "C:\\UserTemp\\t.doc",
+                           "C:\\UserTemp\\sub", "C:\\WINDOWS\\Temp\\w", "c:\\x\\a.tmp"});
 }
 
 TEST_CASE_FIXTURE(Fixture, "an unreadable folder in Temp ends the search at its result line") {
@@ -195,4 +209,32 @@ TEST_CASE_FIXTURE(Fixture, "one size of 2147483648 bytes is an overflow by itsel
     CHECK(list.Text(0, 1) == "2147483648");
     CHECK(list.Count() == 1);
     CHECK(machine.journal.Lines().back().starts_with("SendMessageA lvwFiles 4126 3"));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a message that cannot be shown keeps no search from its end") {
+    File("C:\\x\\a.tmp").toldSize = 2147483648;
+    machine.faults.FailOn("Fehler 6", 7);
+    Search();
+    CHECK(machine.journal.Calls("LockWindowUpdate") ==
+          Lines{"LockWindowUpdate lvwFiles", "LockWindowUpdate 0"});
+    CHECK(frame.cmdSearchTempFiles.Caption() == "Suchen");
+    CHECK(frame.lblScannedFiles.Caption() == "Suchvorgang abgeschlossen!");
+    CHECK(frame.lblHinweisTemp.Caption() == "1 Tempdateien belegen 0 Bytes - Gescannt: 1 Dateien");
+}
+
+TEST_CASE_FIXTURE(Fixture, "whatever ends a search, the list is unlocked and the button its own") {
+    File("C:\\x\\a.tmp");
+    File("C:\\x\\b.tmp");
+    machine.forms.onEvents = [&] {
+        machine.forms.onEvents = nullptr;
+        // A stop is asked for, too, and must not be left for the next search.
+        Search();
+        throw std::bad_alloc();
+    };
+    CHECK_THROWS_AS(Search(), std::bad_alloc);
+    CHECK(machine.journal.Calls("LockWindowUpdate") ==
+          Lines{"LockWindowUpdate lvwFiles", "LockWindowUpdate 0"});
+    CHECK(frame.cmdSearchTempFiles.Caption() == "Suchen");
+    frame.cmdSearchTempFiles.SetEnabled(true);
+    CHECK(Found() == Lines{"c:\\x\\a.tmp", "c:\\x\\b.tmp"});
 }

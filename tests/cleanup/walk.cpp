@@ -205,3 +205,54 @@ TEST_CASE_FIXTURE(Fixture, "what a search looks at is shown at once, file by fil
     Search();
     CHECK(painted.lines == Lines{"c:\\x\\a.txt", "c:\\x\\b.tmp"});
 }
+
+TEST_CASE_FIXTURE(Fixture, "a file is what it is when its turn comes, not when it was listed") {
+    File("C:\\x\\sub\\s.txt");
+    File("C:\\x\\filled.dat", 32, "");
+    File("C:\\x\\filled.tmp", 32, "");
+    File("C:\\x\\gone.tmp");
+    File("C:\\x\\made read-only.tmp");
+    File("C:\\x\\made a folder.tmp");
+    Tick(frame.chkNullByteFiles);
+    machine.folders.afterListing = [&](const std::string& path) {
+        if (path != "c:\\x\\sub") return;
+        disk.At("C:\\x\\filled.dat").content = "text";
+        disk.At("C:\\x\\filled.tmp").content = "text";
+        disk.At("C:\\x\\filled.tmp").modified = {2005, 1, 2, 3, 4, 5};
+        disk.At("C:\\x\\made read-only.tmp").attributes = 33;
+        disk.Erase(disk.At("C:\\x\\gone.tmp"));
+        disk.Erase(disk.At("C:\\x\\made a folder.tmp"));
+        disk.MakeFolder("C:\\x\\made a folder.tmp");
+    };
+    CHECK(Found() == Lines{"c:\\x\\filled.tmp"});
+    CHECK(Column(1) == Lines{"4"});
+    CHECK(Column(3) == Lines{"02.01.2005 03:04:05"});
+    CHECK(frame.lblHinweisTemp.Caption() == "1 Tempdateien belegen 4 Bytes - Gescannt: 6 Dateien");
+}
+
+TEST_CASE_FIXTURE(Fixture, "only what would get a row is asked for once more") {
+    File("C:\\x\\a.tmp");
+    File("C:\\x\\b.txt");
+    File("C:\\x\\c.txt", 32, "");
+    const auto asked = [&] {
+        machine.journal.Clear();
+        Search();
+        Lines names;
+        for (const std::string& line : machine.journal.Calls("GetFileAttributesExW")) {
+            const std::size_t start = line.find("c:\\x\\");
+            if (start != std::string::npos) names.push_back(line.substr(start + 5, 5));
+        }
+        return names;
+    };
+    CHECK(asked() == Lines{"a.tmp"});
+    Tick(frame.chkNullByteFiles);
+    CHECK(asked() == Lines{"a.tmp", "c.txt"});
+}
+
+// The system would tell of "a.tmp" instead.
+TEST_CASE_FIXTURE(Fixture, "a name with a dot behind it is listed as its folder tells it") {
+    File("C:\\x\\a.tmp", 33);
+    File("C:\\x\\~a.tmp.");
+    CHECK(Found() == Lines{"c:\\x\\~a.tmp."});
+    CHECK(machine.journal.Calls("GetFileAttributesExW \"c:\\x\\~").empty());
+}
