@@ -1,8 +1,10 @@
 // What the user does with a list view, and scripts in the user's place.
 #include <doctest/doctest.h>
 
+#include "platform/win32/handle.h"
 #include "runtime/failure.h"
 #include "windows/listfixture.h"
+#include "windows/realmouse.h"
 
 using namespace windows;
 
@@ -262,4 +264,156 @@ TEST_CASE("an event of a list may empty and fill it anew") {
     f.Press(VK_DELETE);
     CHECK(f.Send(LVM_GETITEMCOUNT) == 2);
     CHECK(f.list.SelectedRow() == toolkit::ListView::NoRow);
+}
+
+namespace {
+
+// The class of all lists made while this lives: it sends its windows messages of its own when the
+// user clicks a box or presses the space bar, before or behind what it does otherwise, and its
+// notifications may be kept from being heard.
+class OtherClass {
+  public:
+    enum class When { Before, Behind, Both };
+
+    explicit OtherClass(When when) {
+        when_ = when;
+        const platform::win32::WindowHandle sample(
+            CreateWindowW(WC_LISTVIEWW, L"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+        behind_ = reinterpret_cast<WNDPROC>(
+            SetClassLongPtrW(sample.Get(), GCLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+        const bool replaced = behind_ != nullptr;
+        REQUIRE(replaced);
+    }
+    ~OtherClass() {
+        const platform::win32::WindowHandle sample(
+            CreateWindowW(WC_LISTVIEWW, L"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+        SetClassLongPtrW(sample.Get(), GCLP_WNDPROC, reinterpret_cast<LONG_PTR>(behind_));
+    }
+    OtherClass(const OtherClass&) = delete;
+    OtherClass& operator=(const OtherClass&) = delete;
+
+    static inline int sent = 0;
+
+  private:
+    // Turns the tick as lists do that hold their ticks themselves.
+    static void Turn(HWND window, int row) {
+        const LRESULT state =
+            SendMessageW(window, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK);
+        LVITEMW item{};
+        item.stateMask = LVIS_STATEIMAGEMASK;
+        item.state = INDEXTOSTATEIMAGEMASK(state == INDEXTOSTATEIMAGEMASK(2) ? 1 : 2);
+        SendMessageW(window, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&item));
+        ++sent;
+    }
+    static int RowToTurn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        const bool isSpace = (message == WM_KEYDOWN || message == WM_CHAR) && wParam == VK_SPACE;
+        if (isSpace) {
+            return static_cast<int>(
+                SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
+        }
+        if (message != WM_LBUTTONDOWN && message != WM_LBUTTONUP) return -1;
+        LVHITTESTINFO hit{};
+        hit.pt = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+        SendMessageW(window, LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        return hit.flags == LVHT_ONITEMSTATEICON ? hit.iItem : -1;
+    }
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        const int row = RowToTurn(window, message, wParam, lParam);
+        if (row >= 0 && when_ != When::Behind) Turn(window, row);
+        const LRESULT result = CallWindowProcW(behind_, window, message, wParam, lParam);
+        if (row >= 0 && when_ != When::Before) Turn(window, row);
+        return result;
+    }
+
+    static inline WNDPROC behind_ = nullptr;
+    static inline When when_ = When::Both;
+};
+
+}  // namespace
+
+TEST_CASE("one click or key turns a tick once, whatever the class tells itself meanwhile") {
+    for (auto when : {OtherClass::When::Before, OtherClass::When::Behind, OtherClass::When::Both}) {
+        CAPTURE(static_cast<int>(when));
+        OtherClass other(when);
+        Heard f;
+        OtherClass::sent = 0;
+        const auto hold = [&](const char* how, const std::function<void()>& act) {
+            CAPTURE(std::string(how));
+            for (bool ticked : {true, false, true}) {
+                act();
+                CHECK(f.list.Ticked(1) == ticked);
+                CHECK(f.ShownTicked(1) == ticked);
+            }
+            f.list.SetTicked(1, false);
+        };
+        hold("click", [&] { f.Click(f.BoxOf(1)); });
+        hold("real click", [&] {
+            RealMouse mouse;
+            const LPARAM at = f.BoxOf(1);
+            RealMouse::MoveTo(f.window, LOWORD(at), HIWORD(at));
+            const bool before = f.list.Ticked(1);
+            RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+            RealMouse::Send(MOUSEEVENTF_LEFTUP);
+            ServeUntil([&] { return f.list.Ticked(1) != before; });
+            ServeAWhile(GetDoubleClickTime() + 100);
+        });
+        f.Click(f.TextOf(1));
+        hold("space bar", [&] {
+            f.Press(VK_SPACE);
+            f.Send(WM_CHAR, VK_SPACE, 1);
+        });
+        hold("real space bar", [&] {
+            RealMouse::Press(VK_SPACE, true);
+            RealMouse::Press(VK_SPACE, false);
+            const bool before = f.list.Ticked(1);
+            ServeUntil([&] { return f.list.Ticked(1) != before; });
+            ServeAWhile();
+        });
+        // The class did send.
+        CHECK(OtherClass::sent >= 12);
+        CHECK_FALSE(f.list.Ticked(0));
+        CHECK_FALSE(f.list.Ticked(2));
+    }
+}
+
+TEST_CASE("what is ticked by those who hear of a click is ticked") {
+    Heard f;
+    f.list.onClick = [&] { SetState(f, 2, INDEXTOSTATEIMAGEMASK(2), LVIS_STATEIMAGEMASK); };
+    f.Click(f.TextOf(0));
+    CHECK(f.list.Ticked(2));
+}
+
+namespace {
+
+// Hears what the lists of a form notify, but for the rows that become selected.
+struct Deaf {
+    static inline WNDPROC behind = nullptr;
+
+    static LRESULT CALLBACK Hear(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_NOTIFY) {
+            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(lParam);
+            const bool becomesSelected = change.hdr.code == LVN_ITEMCHANGED && change.iItem >= 0 &&
+                                         change.uNewState & LVIS_SELECTED;
+            if (becomesSelected) return 0;
+        }
+        return CallWindowProcW(behind, window, message, wParam, lParam);
+    }
+};
+
+}  // namespace
+
+TEST_CASE("a row that stays selected when all are deselected need not be told of once more") {
+    Heard f(toolkit::ListViewStyle{.multiSelect = true});
+    SetState(f, -1, LVIS_SELECTED, LVIS_SELECTED);
+    std::string atClick;
+    f.list.onClick = [&] { atClick = f.list.Selected(1) ? "selected" : "not selected"; };
+    const HWND parent = GetParent(f.window);
+    Deaf::behind = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Deaf::Hear)));
+    f.Click(f.TextOf(1));
+    SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Deaf::behind));
+    REQUIRE(f.ShownSelected(1));
+    CHECK(atClick == "selected");
+    for (int row = 0; row < 3; ++row) CHECK(f.list.Selected(row) == (row == 1));
 }

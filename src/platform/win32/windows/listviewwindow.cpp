@@ -60,6 +60,19 @@ void ListViewWindow::LockWindow(bool locked) {
     if (!locked) Repaint();
 }
 
+// Key and mouse messages are the user's. What the class tells itself while it has one is what is
+// heard of as a click or key by then, or will be.
+LRESULT ListViewWindow::Pass(const HookedMessage& hooked) {
+    const UINT message = hooked.message;
+    const bool byUser = (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+                        (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+    const bool outer = std::exchange(user_, user_ || byUser);
+    const LRESULT result = hooked.Pass();
+    user_ = outer;
+    AskForSelection();
+    return result;
+}
+
 // While the list is locked only who asks it for its rows makes it catch up.
 LRESULT ListViewWindow::Handle(HookedMessage& hooked) {
     if (stale_ && (!locked_ || hooked.message >= LVM_FIRST)) CatchUp();
@@ -75,14 +88,14 @@ LRESULT ListViewWindow::Handle(HookedMessage& hooked) {
             if (hooked.lParam == -1) Guard([this] { control_.PressRightButton(); });
             return 0;
         case LVM_SETITEMSTATE:
-            if (showing_) break;
+            if (showing_ || user_) break;
             TickAsTold(static_cast<int>(hooked.wParam),
                        *reinterpret_cast<const LVITEMW*>(hooked.lParam));
             break;
         default:
             break;
     }
-    return hooked.Pass();
+    return Pass(hooked);
 }
 
 // The class itself would wait for the button to come up, in a loop of its own, while a menu wants
@@ -105,7 +118,7 @@ LRESULT ListViewWindow::KeyDown(HookedMessage& hooked) {
     if (!Window()) return 0;
     if (key == VK_SPACE) Toggle(Focused());
     const int before = Focused();
-    const LRESULT result = hooked.Pass();
+    const LRESULT result = Pass(hooked);
     if (Window() && Focused() != before) Guard([this] { control_.Click(); });
     return result;
 }
@@ -149,7 +162,15 @@ void ListViewWindow::ShowSelection() {
     }
 }
 
+// Those who hear of it here may send messages of their own, which are not the class's.
 LRESULT ListViewWindow::Noticed(const NMHDR& notice) {
+    const bool outer = std::exchange(user_, false);
+    const LRESULT result = Hear(notice);
+    user_ = outer;
+    return result;
+}
+
+LRESULT ListViewWindow::Hear(const NMHDR& notice) {
     switch (notice.code) {
         case LVN_GETDISPINFOW:
             Tell(const_cast<LVITEMW&>(reinterpret_cast<const NMLVDISPINFOW&>(notice).item));
@@ -213,12 +234,23 @@ void ListViewWindow::Selected(const NMLISTVIEW& change) {
         control_.SelectionMade(change.iItem, all ? control_.Count() - 1 : change.iItem,
                                change.uNewState & LVIS_SELECTED);
     }
+    if (all) selectionDoubtful_ = true;
     if (!all && change.uNewState & ~change.uOldState & LVIS_FOCUSED) {
         control_.FocusMoved(change.iItem);
     }
 }
 
+// Of a row that stays selected when all are said to be deselected the class need not say so.
+void ListViewWindow::AskForSelection() {
+    if (!std::exchange(selectionDoubtful_, false) || !Window()) return;
+    const auto next = [&](int row) {
+        return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED));
+    };
+    for (int row = next(-1); row >= 0; row = next(row)) control_.SelectionMade(row, row, true);
+}
+
 void ListViewWindow::Clicked(const NMITEMACTIVATE& click) {
+    AskForSelection();
     LVHITTESTINFO hit{};
     hit.pt = click.ptAction;
     Send(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));

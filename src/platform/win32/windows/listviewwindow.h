@@ -35,6 +35,8 @@ class ListViewWindow final : public ControlWindow {
 
   private:
     LRESULT Handle(HookedMessage& hooked);
+    LRESULT Pass(const HookedMessage& hooked);
+    LRESULT Hear(const NMHDR& notice);
     LRESULT KeyDown(HookedMessage& hooked);
     void RightButton(POINT at);
     void CatchUp();
@@ -43,6 +45,7 @@ class ListViewWindow final : public ControlWindow {
     void Tell(LVITEMW& item);
     int Find(const NMLVFINDITEMW& search) const;
     void Selected(const NMLISTVIEW& change);
+    void AskForSelection();
     void Clicked(const NMITEMACTIVATE& click);
     void Toggle(int row);
     void TickAsTold(int row, const LVITEMW& item);
@@ -58,6 +61,10 @@ class ListViewWindow final : public ControlWindow {
     bool locked_ = false;
     // The native window is being given what the control holds, which is no doing of the user's.
     bool showing_ = false;
+    // The class has a message of the user's.
+    bool user_ = false;
+    // All rows were said to be deselected, and nobody has looked yet whether one is not.
+    bool selectionDoubtful_ = false;
     // While a column is being fitted each of its rows has the widest text: the control itself looks
     // at the rows in sight only.
     const std::wstring* widest_ = nullptr;
