@@ -179,6 +179,7 @@ Whole ConvertToWhole(std::string_view text, const NumberSigns& signs) {
 }
 
 std::string Print(double number, int digits, const NumberSigns& signs) {
+    if (!std::isfinite(number)) throw Failure(Overflow);
     // Without this a negative zero would carry its sign into the text.
     if (number == 0) return "0";
     Decimal decimal = ToDecimal(std::abs(number), digits);

@@ -41,7 +41,7 @@ double LeadingNumber(std::string_view text);
 // Decimal text without a leading blank. The text of a number that is not whole carries the
 // locale's decimal sign and at most 15 significant digits (7 for a single-precision number).
 // Numbers with more digits before the decimal sign and those below 0.0001 have an exponent:
-// "1E+15".
+// "1E+15". Throws Failure Overflow for infinity, which a calculation may come to, and for NaN.
 std::string ToText(std::int32_t number);
 std::string ToText(double number, const NumberSigns& signs);
 std::string ToText(float number, const NumberSigns& signs);

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 
 using runtime::NumberSigns;
@@ -64,4 +65,17 @@ TEST_CASE("the text of a number reads back as that number") {
         CAPTURE(number);
         CHECK(runtime::ParseNumber(ToText(number, German), German) == number);
     }
+}
+
+TEST_CASE("a number beyond every text is an overflow: infinite on either side, or none at all") {
+    const double infinite = std::numeric_limits<double>::infinity();
+    for (double number : {infinite, -infinite, std::numeric_limits<double>::quiet_NaN()}) {
+        CAPTURE(number);
+        CHECK(FailureNumberOf([&] { ToText(number, German); }) == runtime::Overflow);
+        CHECK(FailureNumberOf([&] { ToText(static_cast<float>(number), German); }) ==
+              runtime::Overflow);
+    }
+    CHECK(ToText(std::numeric_limits<double>::max(), German) == "1,79769313486232E+308");
+    CHECK(ToText(std::numeric_limits<double>::lowest(), German) == "-1,79769313486232E+308");
+    CHECK(ToText(std::numeric_limits<float>::max(), German) == "3,402823E+38");
 }

@@ -224,6 +224,18 @@ TEST_CASE_FIXTURE(Effects, "a packet size beyond every number is an overflow of 
     CHECK(rwin.Text() == "5840");
 }
 
+TEST_CASE_FIXTURE(Effects, "a packet size whose window is beyond every number is an overflow too") {
+    mtu.SetText("4.49e307");
+    CHECK(rwin.Text() == "1,796E+308");
+    for (const char* packet : {"4.5e307", "1e308", "-1.7e308"}) {
+        CAPTURE(packet);
+        CHECK(FailureNumber([&] { mtu.SetText(packet); }) == runtime::Overflow);
+        CHECK(mtu.Text() == packet);
+    }
+    CHECK(FailureNumber([&] { mtu.SetText(std::string(308, '9')); }) == runtime::Overflow);
+    CHECK(rwin.Text() == "1,796E+308");
+}
+
 TEST_CASE_FIXTURE(Effects, "a value that stays as it was does nothing") {
     hide.SetValue(0);
     secure.SetValue(0);
