@@ -20,9 +20,10 @@ constexpr char Connections[] =
 // In the order in which the texts are hung up.
 constexpr HelpText Rows[] = {
     {"chkAutoLogin",
-     "Meldet den angegebenen Benutzer beim Start von Windows XP ohne Nachfrage an. Standardmäßig "
-     "ist dies ausgeschaltet. ACHTUNG: Das Passwort wird unverschlüsselt in der Registry "
-     "gespeichert, jeder mit Zugang zu Ihrem Rechner kann es dort lesen!"},
+     "Meldet den angegebenen Benutzer beim Start von Windows XP ohne Nachfrage an, standardmäßig "
+     "ist dies ausgeschaltet. Auch ein Eintrag mit dem Wert 0 erscheint als eingeschaltet, und "
+     "das Übernehmen schaltet ihn dann ein. ACHTUNG: Das Passwort steht unverschlüsselt in der "
+     "Registry, jeder mit Zugang zu Ihrem Rechner kann es dort lesen!"},
     {"chkmemorymanagement",
      "Windows XP stellt hohe Anforderungen an die Systemressourcen, auch an den Arbeitsspeicher. "
      "Leider lagert Windows XP auch bei freiem RAM Programme in den virtuellen Speicher aus. "
@@ -66,9 +67,8 @@ constexpr HelpText Rows[] = {
      "Festplatte, Controller und Kabel müssen diesen Modus beherrschen, sonst drohen Datenfehler!"},
     {"chkBootOptimizeFunction",
      "Windows XP legt die zum Booten benötigten Dateien auf der Festplatte zusammen, sobald der "
-     "Rechner nichts zu tun hat. Das beschleunigt den Start und ist standardmäßig eingeschaltet. "
-     "Abschalten sollten Sie es nur, wenn Sie die Festplatte mit einem anderen Programm "
-     "defragmentieren."},
+     "Rechner nichts zu tun hat, standardmäßig ist dies eingeschaltet. Die Option ändert nur den "
+     "Eintrag des Benutzers. Da Windows XP den des Rechners liest, hat sie keine Wirkung."},
     {"chkIcons",
      "Macht den Hintergrund der Texte unter den Desktop-Icons durchsichtig, was bei Texten mit "
      "Schatten schon der Standard ist. Die Option wirkt sofort und wieder bei jedem Start von "
@@ -77,20 +77,22 @@ constexpr HelpText Rows[] = {
     {"Level",
      "Stellt ein, wie durchsichtig die Taskbar ist: 255 ist deckend (Standard), 55 der kleinste "
      "Wert. Die Einstellung wirkt sofort und wird bei jedem Start von Quillmore wieder gesetzt. "
-     "Langsame Grafikkarten kann sie beim Bildaufbau bremsen."},
+     "Bei langsamen Grafikkarten kann sie den Bildaufbau bremsen."},
     {"chkBalloonTipps",
      "Windows XP meldet vieles in Sprechblasen (BalloonTipps) neben der Uhr, auch wichtige "
      "Hinweise. Standardmäßig werden sie angezeigt und lassen sich hier abschalten, wenn sie "
      "stören. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen "
      "abgeschaltet."},
     {"chkCDAutoPlay",
-     "Startet eingelegte CDs automatisch, so wie es Windows XP standardmäßig tut (nur Windows XP "
-     "Home Edition). ACHTUNG: Solange die Option eingeschaltet ist, löscht jedes Übernehmen den "
-     "ganzen Schlüssel mit den Richtlinien für den Explorer samt allen anderen Einträgen darin!"},
+     "Startet eingelegte CDs automatisch, wie es Windows XP standardmäßig tut. Die Option ist nur "
+     "für die Windows XP Home Edition gedacht. ACHTUNG: Eingeschaltet löscht jedes Übernehmen den "
+     "ganzen Schlüssel mit den Richtlinien für den Explorer samt allen anderen Einträgen, nur "
+     "einer mit Unterschlüsseln bleibt, wie er ist!"},
     {"chkDescriptionPopups",
      "Zeigt eine kurze Beschreibung an, wenn die Maus auf einer Datei, einem Ordner oder einem "
-     "Desktop-Icon stehen bleibt. Standardmäßig ist dies eingeschaltet. Auf langsamen Rechnern "
-     "können Sie es abschalten, da die Angaben jedes Mal gelesen werden."},
+     "Desktop-Icon stehen bleibt. Standardmäßig ist dies eingeschaltet. ACHTUNG: Solange die "
+     "Suche des Windows Media Players nach Updates nicht eingeschaltet ist, erscheint die Option "
+     "als ausgeschaltet und wird beim Übernehmen abgeschaltet!"},
     {"chkTaskBarGlooming",
      "Fasst bei voller Taskbar die Fenster eines Programms unter einer gemeinsamen Schaltfläche "
      "zusammen, so dass sie einen Klick mehr benötigen. Standardmäßig ist dies eingeschaltet. "
@@ -117,8 +119,9 @@ constexpr HelpText Rows[] = {
      "sie von Windows 2000 kennen. Standardmäßig ist der Assistent aktiv. Die klassische Suche ist "
      "schneller und zeigt alle Optionen auf einen Blick."},
     {"chkOSVersionOnDesktop",
-     "Zeigt unten rechts auf dem Desktop die Versionsnummer von Windows XP an. Standardmäßig ist "
-     "dies ausgeschaltet. Die Änderung sehen Sie erst nach der nächsten Anmeldung."},
+     "Zeigt nach der nächsten Anmeldung unten rechts auf dem Desktop die Versionsnummer von "
+     "Windows XP an. Standardmäßig ist dies ausgeschaltet. Fehlt der Eintrag, erscheint die "
+     "Option als eingeschaltet und wird beim Übernehmen eingeschaltet."},
     {"chkEncryptionContext",
      "Nimmt 'Verschlüsseln' und 'Entschlüsseln' in das Kontextmenü des Explorers auf (nur NTFS), "
      "standardmäßig fehlen die Einträge. Einmal übernommen lässt sich die Option hier nicht "
@@ -144,9 +147,10 @@ constexpr HelpText Rows[] = {
      "Fenster zu öffnen. Standardmäßig ist die Option ausgeschaltet. Auf die Anordnung neuer "
      "Fenster des Internet Explorers hat der Eintrag keine Wirkung."},
     {"chkDOSComp",
-     "Windows XP legt auf NTFS-Laufwerken zu jedem langen Dateinamen einen kurzen Namen (8.3) an. "
-     "Standardmäßig ist dies aktiv. Ohne alte DOS-Programme können Sie es abschalten und gewinnen "
-     "etwas Geschwindigkeit, manche Installationsprogramme benötigen die kurzen Namen aber noch."},
+     "Windows XP legt auf NTFS-Laufwerken zu langen Dateinamen kurze (8.3) an, die DOS-Programme "
+     "und manche Installationsprogramme noch benötigen. Standardmäßig ist dies aktiv, ohne sie "
+     "gewinnen Sie etwas Geschwindigkeit. Fehlt der Eintrag, erscheint die Option als "
+     "ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkIconCache",
      "Sollten sich Icons während des Arbeitens verändern bzw. das aussehen anderer Icons annehmen, "
      "so ist unter Umständen der Icon Cache zu klein. Durch aktivieren dieser Option steht Ihnen "
@@ -157,25 +161,26 @@ constexpr HelpText Rows[] = {
      "Computerverwaltung an. Standardmäßig ist er ausgeblendet. Ändern Sie mit diesen Werkzeugen "
      "nur, womit Sie sich auskennen."},
     {"chkMP3BitRate",
-     "Der Windows Media Player kopiert CDs mit dieser Option in vier MP3-Qualitäten von 56 bis 320 "
-     "Kilobit pro Sekunde. Standardmäßig fehlen diese Einträge. Höhere Bitraten klingen besser, "
-     "die Dateien werden aber auch größer."},
+     "Der Windows Media Player bietet beim Kopieren von CDs vier MP3-Qualitäten von 56 bis 320 "
+     "Kilobit pro Sekunde an, wenn ein passender Codec vorhanden ist. Standardmäßig fehlen diese "
+     "Einträge. Höhere Bitraten klingen besser, die Dateien werden aber auch größer."},
     {"chkSystemSpeaker",
-     "Schaltet die erweiterten Systemklänge über den PC Speaker ein. Standardmäßig sind sie "
-     "eingeschaltet. Stört Sie das Piepen, schalten Sie die Option ab, Warntöne sind dann aber "
-     "nicht mehr zu hören."},
+     "Schaltet die erweiterten Systemklänge über den PC Speaker ein, ohne sie sind Warntöne nicht "
+     "mehr zu hören. Standardmäßig sind sie eingeschaltet. Fehlt der Eintrag, erscheint die "
+     "Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkSystemRestore",
-     "Die Systemwiederherstellung sichert Systemdateien und Registry, so dass Sie Windows XP auf "
-     "einen früheren Zeitpunkt zurücksetzen können. Sie ist standardmäßig aktiv und belegt bis zu "
-     "12% jeder Festplatte. ACHTUNG: Beim Abschalten gehen alle Wiederherstellungspunkte "
-     "verloren!"},
+     "Mit der Systemwiederherstellung können Sie Windows XP auf einen früheren Zeitpunkt "
+     "zurücksetzen, standardmäßig ist sie aktiv und belegt bis zu 12% jeder Festplatte. ACHTUNG: "
+     "Beim Abschalten gehen alle Wiederherstellungspunkte verloren! Fehlt der Eintrag, erscheint "
+     "die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkBSODAutostart",
      "Nach einem schweren Fehler (BlueScreen) startet Windows XP den Rechner standardmäßig sofort "
      "neu. Schalten Sie die Option ab, bleibt die Fehlermeldung stehen und Sie können sie in Ruhe "
      "lesen. Bei Rechnern ohne Aufsicht sollte sie eingeschaltet bleiben."},
     {"chkNeroBurnSpeed",
-     "Zeigt in Nero beim Brennen die tatsächliche Geschwindigkeit des Brenners an. Fehlt der "
-     "Eintrag, gilt die Option als eingeschaltet. Ist Nero nicht installiert, hat sie keine "
+     "Zeigt in Nero beim Brennen die tatsächliche Geschwindigkeit des Brenners an. Standardmäßig "
+     "fehlt der Eintrag, die Option erscheint dann als eingeschaltet und wird beim Übernehmen "
+     "eingetragen. Das geschieht auch, wenn Nero nicht installiert ist, hat dann aber keine "
      "Wirkung."},
     {"txtTimeOut",
      "Hier kann ein Wert in Millisekunden angegeben werden, der entscheidet wann Programme die "
@@ -186,15 +191,15 @@ constexpr HelpText Rows[] = {
     {"chkWinLogOn",
      "Zeigt vor jeder Anmeldung ein Fenster mit der Meldung und dem Titel an, die Sie darunter "
      "eingeben. Standardmäßig gibt es keine Meldung. ACHTUNG: Beim Übernehmen mit abgeschalteter "
-     "Option werden beide Texte aus der Registry gelöscht!"},
+     "Option werden beide Texte in der Registry geleert!"},
     {"chkDatensicherheit(1)",
      "Der Internet Explorer überträgt beim Anzeigen verwandter Links die Adresse der besuchten "
      "Seite an den Dienst ALEXA. Diese Option entfernt den Eintrag dafür, standardmäßig ist er "
      "vorhanden. Schalten Sie die Option ab, wird er wieder angelegt."},
     {"chkDatensicherheit(2)",
      "Der Windows Media Player sucht im Internet selbst nach neuen Versionen. Standardmäßig ist "
-     "dies eingeschaltet. Schalten Sie es ab, baut er dafür keine Verbindung mehr auf, an wichtige "
-     "Updates müssen Sie dann aber selbst denken."},
+     "dies eingeschaltet, ohne die Suche müssen Sie an wichtige Updates selbst denken. Fehlt der "
+     "Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chk1RecycleBinDelete",
      "Entfernt den Papierkorb vom Desktop, standardmäßig wird er angezeigt. Die Option wirkt nicht "
      "erst beim Übernehmen, zu sehen ist die Änderung aber erst nach einem Neustart. Gelöschte "
@@ -209,21 +214,24 @@ constexpr HelpText Rows[] = {
      "ACHTUNG: Die Option erscheint auch dann als eingeschaltet, und das Übernehmen entfernt die "
      "Ordner!"},
     {"chkPageFileDelete",
-     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, damit niemand Reste Ihrer Daten "
-     "darin lesen kann. Standardmäßig ist dies ausgeschaltet. Das Herunterfahren dauert mit dieser "
-     "Option deutlich länger."},
+     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, das damit deutlich länger "
+     "dauert, so dass niemand Reste Ihrer Daten darin lesen kann. Standardmäßig ist dies "
+     "ausgeschaltet. Fehlt der Eintrag, erscheint die Option als eingeschaltet und wird beim "
+     "Übernehmen eingeschaltet."},
     {"chkDisableTM",
-     "Sperrt den Taskmanager, so dass er sich auch mit STRG+ALT+ENTF nicht mehr öffnen lässt. "
-     "Standardmäßig ist er zugänglich. ACHTUNG: Abgestürzte Programme können Sie dann nicht mehr "
-     "von Hand beenden!"},
+     "Trägt eine Sperre für den Taskmanager ein, standardmäßig gibt es keine. Da Windows XP die "
+     "Sperre an einer anderen Stelle der Registry sucht, hat die Option keine Wirkung. Auch ein "
+     "bereits gesperrter Taskmanager wird durch Abschalten nicht wieder zugänglich."},
     {"chkSecureWindows",
      "Schaltet den Dienst Universal Plug'n'Play (UPnP) ab, mit dem Windows XP Geräte im Netzwerk "
      "findet. Standardmäßig ist er aktiv, wegen seiner Sicherheitslücken sollten Sie ihn "
      "abschalten, wenn Sie ihn nicht benötigen. Die Option wirkt sofort, manche Geräte und "
      "Programme sind aber auf ihn angewiesen."},
     {"chkWindowsUpdate",
-     "Schaltet die automatische Suche nach Updates ab, die Windows XP standardmäßig ausführt. "
-     "ACHTUNG: Installieren Sie Sicherheitsupdates dann unbedingt regelmäßig von Hand!"},
+     "Ändert einen Eintrag, der bei Windows XP nur das Auffrischen der Explorerfenster betrifft. "
+     "Auf die automatischen Updates, die standardmäßig gesucht werden, hat die Option keine "
+     "Wirkung. Abschalten können Sie diese in der Systemsteuerung, ohne Updates bleiben aber "
+     "Sicherheitslücken offen."},
     {"chkErrorReporting",
      "Stürzt ein Programm ab, bietet Windows XP standardmäßig an, einen Fehlerbericht an Microsoft "
      "zu senden. Mit dieser Option entfallen Bericht und Nachfrage. Da der Bericht Teile Ihrer "
@@ -257,8 +265,9 @@ constexpr HelpText Rows[] = {
      "abgeschaltet."},
     {"cboMTU",
      "Die MTU ist die größte Länge eines Datenpakets in Bytes, falsche Werte bremsen die "
-     "Verbindung. Üblich sind 576 für analoge Zugänge, 1492 für DSL und 1500 im Netzwerk, ohne "
-     "Eintrag wählt Windows XP den Wert selbst. Bei jeder Änderung wird auch RWIN neu berechnet."},
+     "Verbindung. Üblich sind 576 für analoge Zugänge, 1492 für DSL und 1500 im Netzwerk (die "
+     "Verbindungsart 'Netzwerk' setzt 3000), ohne Eintrag wählt Windows XP selbst. Bei jeder "
+     "Änderung wird auch RWIN neu berechnet."},
     {"txtRWIN",
      "RWIN legt fest, wie viele Bytes empfangen werden, bevor eine Bestätigung gesendet wird. "
      "Ohne Eintrag wählt Windows XP den Wert selbst (Standard), beim Ändern der MTU wird ein "
@@ -273,13 +282,14 @@ constexpr HelpText Rows[] = {
      "dann. Standardmäßig ist dies ausgeschaltet. Da die Erkennung Zeit kostet, sollten Sie sie "
      "nur bei Verbindungsproblemen aktivieren."},
     {"chkAutoMTU",
-     "Windows XP ermittelt für jede Verbindung selbst die größte mögliche Paketlänge. Das ist der "
+     "Windows XP ermittelt für jede Verbindung selbst die größtmögliche Paketlänge. Das ist der "
      "Standard und sollte so bleiben, abgeschaltet sind die Pakete außerhalb des eigenen Netzes "
-     "nur 576 Bytes groß. Fehlt der Eintrag, erscheint die Option hier als ausgeschaltet."},
+     "nur 576 Bytes groß. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim "
+     "Übernehmen abgeschaltet."},
     {"chkSACK",
      "Mit SACK werden bei Störungen nur die wirklich verlorenen Datenpakete erneut gesendet. "
      "Windows XP benutzt es standardmäßig, vor allem bei großem RWIN sollte es aktiv sein. Fehlt "
-     "der Eintrag, erscheint die Option hier als ausgeschaltet."},
+     "der Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkIPForwarding",
      "Der Rechner leitet Datenpakete zwischen seinen Netzwerkkarten weiter und arbeitet so als "
      "Router. Standardmäßig ist dies ausgeschaltet. ACHTUNG: Unbedacht aktiviert öffnet die Option "
@@ -329,7 +339,7 @@ constexpr HelpText Rows[] = {
     {"chkNotifyDownloadReady",
      "Der Internet Explorer meldet sich, wenn ein Download abgeschlossen ist. Standardmäßig ist "
      "dies aktiv, bei vielen Downloads können Sie die Meldung abschalten. Fehlt der Eintrag, "
-     "erscheint die Option hier als ausgeschaltet."},
+     "erscheint die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"txtIETitel",
      "Hier können Sie die Adresse der Seite eintragen, die der Internet Explorer zum Suchen "
      "öffnet (höchstens 255 Zeichen). Standardmäßig ist dies eine Seite von Microsoft. Ein leeres "
@@ -353,8 +363,9 @@ constexpr HelpText Rows[] = {
      "Sperrt den Computer, ohne Programme zu beenden. Sinnvoll ist dies, wenn Sie den Arbeitsplatz "
      "kurz verlassen. Ohne Passwort für Ihr Benutzerkonto bietet die Sperre keinen Schutz."},
     {"chkWinAnimate",
-     "Das Minimieren und Maximieren von Fenstern wird animiert dargestellt. Standardmäßig ist dies "
-     "eingeschaltet. Auf langsamen Rechnern arbeitet Windows XP ohne die Animation flüssiger."},
+     "Das Minimieren und Maximieren von Fenstern wird animiert dargestellt, ohne dies arbeiten "
+     "langsame Rechner flüssiger. Standardmäßig ist die Animation eingeschaltet. Fehlt der "
+     "Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkUnloadDll",
      "Windows XP behält DLLs beendeter Programme noch eine Weile im Arbeitsspeicher. Mit dieser "
      "Option werden sie sofort entladen, standardmäßig ist sie ausgeschaltet. Sie sparen damit "
@@ -364,13 +375,14 @@ constexpr HelpText Rows[] = {
      "dieser Option geschieht dies nicht mehr. Benutzen mehrere Personen den Rechner, sollten Sie "
      "sie aktivieren."},
     {"chkHideComputer",
-     "Der Rechner erscheint nicht mehr in der Netzwerkumgebung der anderen Rechner. Standardmäßig "
-     "ist er dort zu sehen. Wer seinen Namen kennt, erreicht Ihre Freigaben aber weiterhin, eine "
-     "Firewall ersetzt die Option nicht."},
+     "Soll den Rechner in der Netzwerkumgebung der anderen Rechner verbergen, standardmäßig ist "
+     "er dort zu sehen. Da Windows XP einen Eintrag mit anderem Namen liest, hat die Option keine "
+     "Wirkung. Ihre Freigaben sollten Sie mit Passwörtern und einer Firewall schützen."},
     {"chkShowALLFiles",
-     "Zeigt im Explorer auch geschützte Systemdateien an. Standardmäßig sind sie ausgeblendet. "
-     "ACHTUNG: Löschen oder ändern Sie keine dieser Dateien, Windows XP startet sonst unter "
-     "Umständen nicht mehr!"},
+     "Soll im Explorer auch geschützte Systemdateien anzeigen, standardmäßig sind sie "
+     "ausgeblendet. Da Windows XP einen Eintrag mit anderem Namen liest, hat die Option keine "
+     "Wirkung. Sie finden die Einstellung in den Ordneroptionen des Explorers, löschen oder "
+     "ändern Sie aber keine dieser Dateien!"},
     {"chkFixAthlonPCIAGP",
      "Behebt Abstürze, die bei Athlon-Prozessoren zusammen mit AGP-Grafikkarten durch große "
      "Speicherseiten auftreten können. Standardmäßig fehlt dieser Eintrag. Auf anderen Rechnern "
@@ -396,11 +408,13 @@ constexpr HelpText Rows[] = {
      "ist dies nach längeren Sitzungen oder nach Anwendungen die einen großen Bedarf an Speicher "
      "haben (z.B. Spiele)."},
     {"chkScanAll",
-     "Durchsucht alle lokalen Festplatten nach Tempdateien. Ohne diese Option wird nur das "
-     "gewählte Laufwerk durchsucht. Bei großen Festplatten kann die Suche lange dauern."},
+     "Durchsucht alle lokalen Festplatten nach Tempdateien. Standardmäßig ist die Option "
+     "ausgeschaltet und nur das gewählte Laufwerk wird durchsucht. Bei großen Festplatten kann "
+     "die Suche lange dauern."},
     {"chkRecentDocFolder",
      "Alle Einträge des Ordners 'Zuletzt verwendete Dokumente' werden ebenfalls in die Dateiliste "
-     "eingetragen. Es sind nur Verknüpfungen, die Dokumente selbst bleiben beim Löschen erhalten."},
+     "eingetragen, standardmäßig geschieht dies nicht. Es sind nur Verknüpfungen, die Dokumente "
+     "selbst bleiben beim Löschen erhalten."},
     {"chkNullByteFiles",
      "Alle Dateien die 0 Bytes groß sind werden ebenfalls zum löschen in die Dateiliste "
      "eingetragen. Achten Sie darauf das es auch 0 Byte große Dateien gibt die Windows zum "
@@ -412,19 +426,19 @@ constexpr HelpText Rows[] = {
      "vermeiden! Möglicherweise lassen sich nach dem Reinigungsvorgang die noch geöffneten Dateien "
      "bzw. Dokumente nicht mehr speichern."},
     {"chkDeleteThumbs",
-     "Die Archive Thumbs.db mit den Bildern der Miniaturansicht werden ebenfalls in die Dateiliste "
-     "eingetragen. Windows XP legt sie bei Bedarf neu an, die Miniaturansicht erscheint dann beim "
-     "ersten Mal etwas langsamer."},
+     "Die Archive Thumbs.db mit den Bildern der Miniaturansicht werden ebenfalls in die "
+     "Dateiliste eingetragen, standardmäßig geschieht dies nicht. Windows XP legt sie bei Bedarf "
+     "neu an, die Miniaturansicht erscheint dann beim ersten Mal etwas langsamer."},
     {"chkCleanRecycleBin",
-     "Leert vor dem Löschen der markierten Dateien die Papierkörbe aller Laufwerke. ACHTUNG: Ihr "
-     "Inhalt lässt sich danach nicht wiederherstellen!"},
+     "Leert vor dem Löschen der markierten Dateien die Papierkörbe aller Laufwerke, standardmäßig "
+     "geschieht dies nicht. ACHTUNG: Deren Inhalt lässt sich danach nicht wiederherstellen!"},
     {"cmdCleanBinDirect",
      "Leert nach einer Nachfrage sofort die Papierkörbe aller Laufwerke, ohne nach Tempdateien zu "
-     "suchen. ACHTUNG: Ihr Inhalt lässt sich danach nicht wiederherstellen!"},
+     "suchen. ACHTUNG: Deren Inhalt lässt sich danach nicht wiederherstellen!"},
     {"chkMoveToRecycleBin",
-     "Verschiebt die Dateien in den Papierkorb, statt sie endgültig zu löschen. So können Sie eine "
-     "Datei wiederherstellen, die doch noch gebraucht wird. Der Speicherplatz wird aber erst frei, "
-     "wenn Sie den Papierkorb leeren."},
+     "Verschiebt die Dateien in den Papierkorb, standardmäßig werden sie endgültig gelöscht. So "
+     "können Sie eine Datei wiederherstellen, die doch noch gebraucht wird. Der Speicherplatz "
+     "wird aber erst frei, wenn Sie den Papierkorb leeren."},
     {"cmdCleanTempFiles",
      "Löscht nach einer Nachfrage alle markierten Dateien der Liste. Dateien, die gerade in "
      "Benutzung sind, bleiben erhalten. ACHTUNG: Ordner in der Liste werden immer gelöscht, auch "

@@ -3,11 +3,15 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <map>
 #include <set>
 #include <sstream>
+#include <string_view>
+#include <utility>
 
+#include "tweaks/catalogue.h"
 #include "tweaks/pagefixture.h"
 
 using namespace tweak_tests;
@@ -53,6 +57,55 @@ int Sentences(const std::string& text) {
         ends += rest.empty() || capital;
     }
     return ends;
+}
+
+// A point inside a word, but for that of the one file that is named and of an abbreviation.
+bool NamesAddress(std::string text) {
+    for (const std::string_view known : {"Thumbs.db", "z.B."}) {
+        const std::size_t at = text.find(known);
+        if (at != std::string::npos) text.erase(at, known.size());
+    }
+    for (std::size_t at = 0; at + 1 < text.size(); ++at) {
+        if (text[at] == '.' && std::isalpha(static_cast<unsigned char>(text[at + 1]))) return true;
+    }
+    return text.find("www") != std::string::npos || text.find("http") != std::string::npos;
+}
+
+bool IsFree(const std::string& control) {
+    for (const Row& row : GoldenRows()) {
+        if (row.control == control) return row.text == "*";
+    }
+    return false;
+}
+
+// Whether the pass writes something for a box that nobody has touched. Where a value is missing, to
+// delete it is nothing.
+bool Writes(const std::string& control, bool on) {
+    const tweaks::Option* option = tweaks::FindOption(control);
+    REQUIRE(option);
+    const tweaks::Steps& steps = on ? option->on : option->off;
+    return std::any_of(steps.begin(), steps.end(), [](const tweaks::Step& step) {
+        return step.action != tweaks::Action::DeleteValue;
+    });
+}
+
+// The check boxes that do not show what Windows does where their value is absent, and what they
+// show.
+std::vector<std::pair<std::string, bool>> ReadingOtherwiseThanWindows() {
+    // A key that Windows itself makes is not found by these.
+    std::vector<std::pair<std::string, bool>> boxes = {
+        {"chkImagePreview", false}, {"chkDelegateFolders", true}, {"chkNetworkTasks", true}};
+    Options options;
+    options.passes.Read();
+    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
+        for (const tweaks::Option& option : page.options) {
+            if (!option.HasConditions()) continue;
+            const bool shown = options.State(option.control) == 1;
+            const bool windows = option.windowsDefault == tweaks::State::On;
+            if (shown != windows) boxes.emplace_back(option.control, shown);
+        }
+    }
+    return boxes;
 }
 
 }  // namespace
@@ -115,7 +168,8 @@ TEST_CASE("each free text has two or three sentences of German and no address") 
         CHECK(Sentences(text) <= 3);
         CHECK(text.size() >= 120);
         CHECK(text.size() <= 340);
-        for (const char* nothing : {"  ", "http", "www", "\t", "\n", "\""}) {
+        CHECK_FALSE(NamesAddress(text));
+        for (const char* nothing : {"  ", "\t", "\n", "\""}) {
             CHECK(text.find(nothing) == std::string::npos);
         }
     }
@@ -127,22 +181,52 @@ TEST_CASE("the text on switching off UPnP speaks of nothing else, that on Nero n
     for (const char* other : {"Messenger", "Nachrichtendienst", "Update", "Firewall", "Registry"}) {
         CHECK(upnp.find(other) == std::string::npos);
     }
-    CHECK(TextOf("chkNeroBurnSpeed").find(".de") == std::string::npos);
+    CHECK_FALSE(NamesAddress(TextOf("chkNeroBurnSpeed")));
 }
 
-TEST_CASE("a text warns where an option that nobody touched is switched off by an Apply") {
-    for (const char* control : {"chkDisableThumbnails", "chkBalloonTipps", "chkTaskBarGlooming",
-                                "chkWatsonIE", "chkWatsonXP", "chkImagePreview"}) {
-        CAPTURE(control);
-        const std::string text = TextOf(control);
-        CHECK(text.find("als ausgeschaltet") != std::string::npos);
-        CHECK(text.find("beim Übernehmen") != std::string::npos);
+TEST_CASE("an address is known by a point inside a word, whatever comes behind it") {
+    for (const char* text : {"Siehe nero.com.", "Mehr auf ahead.de!", "www", "http:"}) {
+        CHECK(NamesAddress(text));
     }
-    for (const char* control :
-         {"chkDelegateFolders", "chkNetworkTasks", "chkSecondLevelDataCache"}) {
+    CHECK_FALSE(NamesAddress("Die Datei Thumbs.db (8.3), z.B. hier. Und Nero."));
+}
+
+TEST_CASE("each free text of a check box names the default") {
+    for (const Row& row : GoldenRows()) {
+        if (row.text != "*" || !row.control.starts_with("chk")) continue;
+        CAPTURE(row.control);
+        CHECK(TextOf(row.control).find("tandard") != std::string::npos);
+    }
+}
+
+TEST_CASE("a text says where an option's value has no effect on Windows XP") {
+    for (const char* control : {"chkCascadeExplorer", "chkDisableTM", "chkWindowsUpdate",
+                                "chkHideComputer", "chkShowALLFiles", "chkBootOptimizeFunction"}) {
+        CAPTURE(control);
+        CHECK(TextOf(control).find("keine Wirkung") != std::string::npos);
+    }
+}
+
+TEST_CASE("a text does not promise more than the option's row does") {
+    CHECK(TextOf("chkNeroBurnSpeed").find("auch, wenn Nero nicht") != std::string::npos);
+    CHECK(TextOf("chkCDAutoPlay").find("mit Unterschlüsseln bleibt") != std::string::npos);
+    CHECK(TextOf("chkWinLogOn").find("gelöscht") == std::string::npos);
+    const std::string logon = TextOf("chkAutoLogin");
+    CHECK(logon.find("mit dem Wert 0 erscheint als eingeschaltet") != std::string::npos);
+    CHECK(logon.find("Übernehmen schaltet ihn dann ein") != std::string::npos);
+}
+
+TEST_CASE(
+    "a text warns where an Apply changes what Windows does though nobody touched the option") {
+    int warned = 0;
+    for (const auto& [control, shown] : ReadingOtherwiseThanWindows()) {
+        if (!IsFree(control) || !Writes(control, shown)) continue;
         CAPTURE(control);
         const std::string text = TextOf(control);
-        CHECK(text.find("als eingeschaltet") != std::string::npos);
+        CHECK(text.find(shown ? "als eingeschaltet" : "als ausgeschaltet") != std::string::npos);
         CHECK(text.find("Übernehmen") != std::string::npos);
+        if (!shown) CHECK(text.find("abgeschaltet") != std::string::npos);
+        ++warned;
     }
+    CHECK(warned == 21);
 }
