@@ -35,22 +35,36 @@ constexpr NetworkSet Sets[] = {
      .cboHTTP11 = 8},
 };
 
+struct Text {
+    const char* control;
+    std::int32_t NetworkSet::*number;
+};
+
 // The packet size takes the window size along, so the window size of the set comes behind it.
+constexpr Text Texts[] = {
+    {"cboMTU", &NetworkSet::cboMTU},       {"txtRWIN", &NetworkSet::txtRWIN},
+    {"txtTTL", &NetworkSet::txtTTL},       {"cboHTTP10", &NetworkSet::cboHTTP10},
+    {"cboHTTP11", &NetworkSet::cboHTTP11},
+};
+
+struct Box {
+    const char* control;
+    int NetworkSet::*state;
+};
+
+constexpr Box Boxes[] = {
+    {"chkMUTBH", &NetworkSet::chkMUTBH},
+    {"chkAutoMTU", &NetworkSet::chkAutoMTU},
+    {"chkSACK", &NetworkSet::chkSACK},
+};
+
 void LoadNetworkSet(toolkit::Form& form, const NetworkSet& set) {
-    const auto show = [&](std::string_view name, std::int32_t number) {
-        SetTextOfControl(form, name, runtime::ToText(number));
-    };
-    const auto put = [&](std::string_view name, int value) {
-        form.Find<toolkit::CheckBox>(name).SetValue(value);
-    };
-    show("cboMTU", set.cboMTU);
-    show("txtRWIN", set.txtRWIN);
-    show("txtTTL", set.txtTTL);
-    show("cboHTTP10", set.cboHTTP10);
-    show("cboHTTP11", set.cboHTTP11);
-    put("chkMUTBH", set.chkMUTBH);
-    put("chkAutoMTU", set.chkAutoMTU);
-    put("chkSACK", set.chkSACK);
+    for (const auto& [control, number] : Texts) {
+        SetTextOfControl(form, control, runtime::ToText(set.*number));
+    }
+    for (const auto& [control, state] : Boxes) {
+        form.Find<toolkit::CheckBox>(control).SetValue(set.*state);
+    }
 }
 
 }  // namespace
@@ -61,18 +75,15 @@ std::span<const NetworkSet> NetworkSets() {
 
 bool HoldsNetworkSet(const toolkit::Form& form, const NetworkSet& set,
                      const runtime::NumberSigns& signs) {
-    const auto shows = [&](std::string_view name, std::int32_t wanted) {
-        const auto number = runtime::ParseNumber(TextOfControl(form, name), signs);
+    for (const auto& [control, wanted] : Texts) {
+        const auto number = runtime::ParseNumber(TextOfControl(form, control), signs);
         if (!number) throw runtime::Failure(runtime::TypeMismatch);
-        return *number == wanted;
-    };
-    const auto stands = [&](std::string_view name, int wanted) {
-        return form.Find<toolkit::CheckBox>(name).Value() == wanted;
-    };
-    return shows("cboMTU", set.cboMTU) && shows("txtRWIN", set.txtRWIN) &&
-           shows("txtTTL", set.txtTTL) && shows("cboHTTP10", set.cboHTTP10) &&
-           shows("cboHTTP11", set.cboHTTP11) && stands("chkMUTBH", set.chkMUTBH) &&
-           stands("chkAutoMTU", set.chkAutoMTU) && stands("chkSACK", set.chkSACK);
+        if (*number != set.*wanted) return false;
+    }
+    for (const auto& [control, wanted] : Boxes) {
+        if (form.Find<toolkit::CheckBox>(control).Value() != set.*wanted) return false;
+    }
+    return true;
 }
 
 void MarkNetworkSet(toolkit::Form& form, const runtime::NumberSigns& signs) {

@@ -26,12 +26,12 @@ void SetToPreset(toolkit::Form& form, const platform::Memory& memory, const char
         value = memory.PhysicalBytes() > MemoryLimit ? "1" : "0";
     }
     toolkit::Control* const found = form.FindControl(control);
-    const auto number = static_cast<std::int32_t>(runtime::LeadingNumber(value));
-    if (auto* box = dynamic_cast<toolkit::CheckBox*>(found)) return box->SetValue(number);
+    const auto number = [&] { return static_cast<std::int32_t>(runtime::LeadingNumber(value)); };
+    if (auto* box = dynamic_cast<toolkit::CheckBox*>(found)) return box->SetValue(number());
     if (auto* option = dynamic_cast<toolkit::OptionButton*>(found)) {
-        return option->SetValue(number != 0);
+        return option->SetValue(number() != 0);
     }
-    if (auto* slider = dynamic_cast<toolkit::Slider*>(found)) return slider->SetValue(number);
+    if (auto* slider = dynamic_cast<toolkit::Slider*>(found)) return slider->SetValue(number());
     SetTextOfControl(form, control, value);
 }
 

@@ -1,5 +1,7 @@
 #include "tweaks/sideeffects.h"
 
+#include <cstdint>
+
 #include "platform/locale.h"
 #include "platform/machine.h"
 #include "platform/messages.h"

@@ -23,10 +23,9 @@ char Folded(char letter) {
     return letter;
 }
 
-// The text with `word` replaced, whatever the letters' case, in one pass from left to right: what
-// grows together at a seam stays. A search for the empty word finds nothing.
-std::string Replaced(std::string_view text, std::string_view word, std::string_view replacement) {
-    if (word.empty()) return std::string(text);
+// The text without `word`, whatever the letters' case, in one pass from left to right: what grows
+// together at a seam stays.
+std::string Without(std::string_view word, std::string_view text) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
@@ -35,9 +34,7 @@ std::string Replaced(std::string_view text, std::string_view word, std::string_v
                         [](char left, char right) { return Folded(left) == Folded(right); });
         result.append(text.begin(), found);
         text.remove_prefix(static_cast<std::size_t>(found - text.begin()));
-        if (text.empty()) break;
-        result += replacement;
-        text.remove_prefix(word.size());
+        if (!text.empty()) text.remove_prefix(word.size());
     }
     return result;
 }
@@ -61,10 +58,9 @@ std::string LinesOf(std::string_view content) {
 void RewriteSysocInf(const platform::Machine& machine, bool show) {
     const std::string path = machine.facts.WindowsDirectory() + "\\inf\\Sysoc.inf";
     std::string text = LinesOf(machine.files.Read(path));
-    // Hiding makes the same call with the words the other way round, on purpose: the search for the
-    // empty word finds nothing, so a component once shown is never hidden again.
-    text = show ? Replaced(text, "Hide", "") : Replaced(text, "", "Hide");
-    text = Replaced(text, ByteOrderMark, "");
+    // Nothing puts the word back, on purpose: a component once shown is never hidden again.
+    if (show) text = Without("Hide", text);
+    text = Without(ByteOrderMark, text);
     machine.files.Remove(path, true);
     machine.files.WriteText(path, text);
 }
