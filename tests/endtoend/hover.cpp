@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "endtoend/workplace.h"
-#include "platform/win32/handle.h"
+#include "support/screenpicture.h"
 
 namespace endtoend {
 namespace {
@@ -20,32 +20,9 @@ RECT AreaOf(HWND window) {
     return area;
 }
 
-// Asked pixel by pixel, the screen would take seconds to answer.
 bool ScreenShowsRed(const RECT& area) {
-    const int width = area.right - area.left;
-    const int height = area.bottom - area.top;
-    BITMAPINFO format = {};
-    format.bmiHeader.biSize = sizeof format.bmiHeader;
-    format.bmiHeader.biWidth = width;
-    format.bmiHeader.biHeight = height;
-    format.bmiHeader.biPlanes = 1;
-    format.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    const HDC screen = GetDC(nullptr);
-    const platform::win32::BitmapHandle bitmap(
-        CreateDIBSection(screen, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
-    REQUIRE(bitmap);
-    const HDC copy = CreateCompatibleDC(screen);
-    const HGDIOBJ before = SelectObject(copy, bitmap.Get());
-    BitBlt(copy, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
-    GdiFlush();
-    SelectObject(copy, before);
-    DeleteDC(copy);
-    ReleaseDC(nullptr, screen);
-
-    const auto* pixels = static_cast<const DWORD*>(bits);
-    return std::any_of(pixels, pixels + width * height,
-                       [](DWORD pixel) { return (pixel & 0xFFFFFF) == Red; });
+    const auto pixels = support::ScreenPixels(area);
+    return std::find(pixels.begin(), pixels.end(), Red) != pixels.end();
 }
 
 struct Mouse {

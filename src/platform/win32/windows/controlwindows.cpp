@@ -166,7 +166,10 @@ void ControlWindows::PutBehind(toolkit::ControlKind kind) const {
     }
 }
 
+// A frame shows what its parent paints, so a frame of another size keeps its old line unless the
+// parent paints there too; and not every class of the system paints itself anew when it grows.
 void ControlWindows::Place(const toolkit::Form& form, HWND formWindow) {
+    bool changed = false;
     for (const toolkit::Placement& placement : Arranged(form, formWindow)) {
         const auto window = Find(placement.control);
         if (!window) continue;
@@ -174,7 +177,10 @@ void ControlWindows::Place(const toolkit::Form& form, HWND formWindow) {
             window->PlaceAt(InParent(GetParent(window->Window()), formWindow, placement.area));
         // A strip stands before the controls of its pages, which are placed within them.
         if (moved && window == tabs_) tabs_->PlacePages(placement.area);
+        changed = changed || moved;
     }
+    if (!changed) return;
+    RedrawWindow(formWindow, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 std::vector<toolkit::Placement> ControlWindows::Arranged(const toolkit::Form& form,
