@@ -1,4 +1,4 @@
-# Everything that makes an executable one that XP SP3 starts.
+# Everything that makes an executable one that XP starts.
 add_compile_definitions(
   WINVER=0x0501 _WIN32_WINNT=0x0501 _WIN32_IE=0x0600 UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 # A Pentium of XP's years has no SSE2; the loader wants the version fields to say 5.1.

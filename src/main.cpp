@@ -8,9 +8,21 @@
 #include "platform/win32/messages.h"
 #include "platform/win32/windows/windowhost.h"
 
+namespace {
+
+// XP looks for libraries in the current directory early; nothing of the program's lies there. Only
+// a system with a service pack can be told so.
+void LeaveOutCurrentDirectory() {
+    using SetDllDirectory = BOOL(WINAPI*)(const wchar_t*);
+    const auto set = reinterpret_cast<SetDllDirectory>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDllDirectoryW")));
+    if (set) set(L"");
+}
+
+}  // namespace
+
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-    // XP looks for libraries in the current directory early; nothing of the program's lies there.
-    SetDllDirectoryW(L"");
+    LeaveOutCurrentDirectory();
     // Without this call XP cannot make the windows that the manifest asks for.
     InitCommonControls();
 

@@ -1,12 +1,14 @@
 #!/bin/bash
-# Proves of a finished program that the loader of Windows XP SP3 accepts it.
+# Proves of a finished program that the loader of Windows XP accepts it, whatever service pack.
 #   audit.sh imports ALLOWED HEADERS        every imported function is on the list, and comctl32's
 #                                           InitCommonControls is imported
+#   audit.sh service-packs LATER HEADERS    none of them came with a service pack
+#   audit.sh asked LATER PROGRAM            of those functions the program names the ones marked so
 #   audit.sh headers HEADERS                32-bit, windowed, for Windows 5.1, with a manifest
 #   audit.sh instructions DISASSEMBLY       nothing that a processor without SSE cannot run
 #   audit.sh size PROGRAM BYTES             the file is no larger than that
 #   audit.sh code-end MAP                   prints where the linker put the end of the code
-#   audit.sh program ALLOWED BYTES OBJDUMP PROGRAM MAP
+#   audit.sh program ALLOWED LATER BYTES OBJDUMP PROGRAM MAP
 #                                           all of that for one program
 # HEADERS is what `objdump -p` prints, DISASSEMBLY what `objdump -d` prints. Every violation is one
 # line; the exit code is 1 when there is any.
@@ -44,6 +46,33 @@ CheckImports() {
         echo "comctl32!InitCommonControls is not imported"
         status=1
     fi
+    return $status
+}
+
+# The names alone, since a line of the list tells more.
+CheckServicePacks() {
+    local later
+    later=$(LC_ALL=C comm -12 <(sed '/^#/d; s/ .*//' "$1" | LC_ALL=C sort -u) <(Imports "$2"))
+    [[ -z $later ]] && return
+    sed 's/^/came with a service pack: /' <<<"$later"
+    return 1
+}
+
+# A function that is asked for by its name has it in the program, ended by a NUL.
+CheckAsked() {
+    local function pack asked name status=0
+    while read -r function pack asked; do
+        [[ $function == \#* ]] && continue
+        name=${function#*!}
+        if tr '\0' '\n' <"$2" | LC_ALL=C grep -aqE "(^|[^A-Za-z0-9_])$name\$"; then
+            [[ -n $asked ]] && continue
+            echo "came with service pack $pack and is named without being marked: $function"
+        else
+            [[ -z $asked ]] && continue
+            echo "marked as asked for, but not named: $function"
+        fi
+        status=1
+    done <"$1"
     return $status
 }
 
@@ -122,7 +151,7 @@ CheckSize() {
 }
 
 CheckProgram() {
-    local allowed=$1 limit=$2 objdump=$3 program=$4 map=$5 status=0 texts code_end
+    local allowed=$1 later=$2 limit=$3 objdump=$4 program=$5 map=$6 status=0 texts code_end
     if ! code_end=$(CodeEnd "$map"); then
         echo "$code_end"
         return 1
@@ -131,12 +160,14 @@ CheckProgram() {
     "$objdump" -p "$program" >"$texts/headers"
     "$objdump" -d --stop-address="$code_end" "$program" >"$texts/disassembly"
     CheckImports "$allowed" "$texts/headers" || status=1
+    CheckServicePacks "$later" "$texts/headers" || status=1
+    CheckAsked "$later" "$program" || status=1
     CheckHeaders "$texts/headers" || status=1
     CheckInstructions "$texts/disassembly" || status=1
     CheckSize "$program" "$limit" || status=1
     rm -r "$texts"
     if ((status == 0)); then
-        echo "$program: $(stat -c %s "$program") bytes, nothing that XP SP3 lacks"
+        echo "$program: $(stat -c %s "$program") bytes, nothing that XP lacks"
     fi
     return $status
 }
@@ -145,10 +176,12 @@ what=${1:-}
 shift || true
 case $what in
     imports) CheckImports "$@" ;;
+    service-packs) CheckServicePacks "$@" ;;
+    asked) CheckAsked "$@" ;;
     headers) CheckHeaders "$@" ;;
     instructions) CheckInstructions "$@" ;;
     code-end) CodeEnd "$@" ;;
     size) CheckSize "$@" ;;
     program) CheckProgram "$@" ;;
-    *) sed -n '2,14s/^# \?//p' "$0" >&2; exit 2 ;;
+    *) sed -n '2,16s/^# \?//p' "$0" >&2; exit 2 ;;
 esac

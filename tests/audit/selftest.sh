@@ -46,6 +46,21 @@ Refuses "common controls that are not initialised" "InitCommonControls is not im
     '/InitCommonControls/d' headers.txt "${imports[@]}"
 Refuses "a text without imports" "no import table found" '/^\t/d' headers.txt "${imports[@]}"
 
+later=$here/samples/service-packs.txt
+Accepts "functions of the first XP pass" service-packs "$later" "$here/samples/headers.txt"
+Refuses "a function of a service pack" "came with a service pack: shell32!LaterFunction" \
+    's/ShellExecuteA/LaterFunction/' headers.txt service-packs "$later"
+Refuses "a function that should only be asked for" "came with a service pack: kernel32!GetDllD" \
+    's/SHELL32.dll/KERNEL32.dll/; s/ShellExecuteA/GetDllDirectoryW/' headers.txt \
+    service-packs "$later"
+
+Accepts "a function that is asked for passes" asked "$later" "$here/samples/texts.txt"
+Refuses "a marked function that is not asked for" "not named: kernel32!GetDllDirectoryW" \
+    '/GetDllDirectoryW/d' texts.txt asked "$later"
+Refuses "an unmarked function that is asked for" \
+    "service pack 2 and is named without being marked: shell32!LaterFunction" \
+    's/OfMine//' texts.txt asked "$later"
+
 Accepts "headers for XP pass" headers "$here/samples/headers.txt"
 Refuses "a later system" "MajorOSystemVersion is 6" \
     's/^\(MajorOSystemVersion\t\)5/\16/' headers.txt headers
