@@ -20,7 +20,7 @@
 namespace app {
 using toolkit::Box;
 
-Box AddPages(frmMain& form, platform::Machine& machine, const utilities::Launchers& launchers,
+Box AddPages(frmMain& form, const platform::Machine& machine, const utilities::Launchers& launchers,
              std::optional<cleanup::CleanUpPage>& cleanUp) {
     auto& tabs = form.Add<toolkit::TabStrip>(
         "SSTab1", std::vector<std::string>{" System", " Tweaks", " Pfade", " CleanUp", "Sicherheit",

@@ -16,7 +16,7 @@ class frmMain;
 
 // Makes the tab control with its eight pages; a page's controls come from the room of their tool.
 // `launchers` must live as long as the form. Makes `cleanUp`, which must, too.
-toolkit::Box AddPages(frmMain& form, platform::Machine& machine,
+toolkit::Box AddPages(frmMain& form, const platform::Machine& machine,
                       const utilities::Launchers& launchers,
                       std::optional<cleanup::CleanUpPage>& cleanUp);
 

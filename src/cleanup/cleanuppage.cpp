@@ -4,7 +4,7 @@
 
 namespace cleanup {
 
-CleanUpPage::CleanUpPage(toolkit::Form& form, platform::Machine& machine)
+CleanUpPage::CleanUpPage(toolkit::Form& form, const platform::Machine& machine)
     : tempFiles(form, machine),
       internetCache(form, machine.internetCache, machine.locale, machine.clock) {}
 

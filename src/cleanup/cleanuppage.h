@@ -13,7 +13,7 @@ namespace cleanup {
 // The two tools of the page " CleanUp". Lives as long as the form.
 class CleanUpPage {
   public:
-    CleanUpPage(toolkit::Form& form, platform::Machine& machine);
+    CleanUpPage(toolkit::Form& form, const platform::Machine& machine);
 
     // The frames, below the page's heading.
     toolkit::Box Layout() const;

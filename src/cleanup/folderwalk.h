@@ -22,7 +22,7 @@ class TempFilesFrame;
 // The way through the folders, and the rows that it leaves in the list.
 class FolderWalk {
   public:
-    FolderWalk(TempFilesFrame& frame, platform::Machine& machine, KnownLinks& links)
+    FolderWalk(TempFilesFrame& frame, const platform::Machine& machine, KnownLinks& links)
         : frame_(frame), machine_(machine), links_(links) {}
 
     // Counts from 0 and asks anew for the folders that are left out.
@@ -53,7 +53,7 @@ class FolderWalk {
     void ScanFile(const std::string& path, const platform::FolderEntry& file, bool addAll);
 
     TempFilesFrame& frame_;
-    platform::Machine& machine_;
+    const platform::Machine& machine_;
     KnownLinks& links_;
     std::optional<FolderRules> rules_;
     std::int32_t scannedFiles_ = 0;

@@ -14,7 +14,7 @@ void EmptyRecycleBin(platform::Shell& shell) {
     shell.EmptyRecycleBin(noConfirmation);
 }
 
-void CleanBinDirect(TempFilesFrame& frame, platform::Machine& machine) {
+void CleanBinDirect(TempFilesFrame& frame, const platform::Machine& machine) {
     using namespace platform::message;
     const std::string title = "Papierkorb von Laufwerk '" + frame.Drive() + "' löschen";
     if (machine.messages.Show("Inhalt des Papierkorbes löschen?", Question | YesNo, title) != Yes) {

@@ -13,6 +13,6 @@ class TempFilesFrame;
 void EmptyRecycleBin(platform::Shell& shell);
 
 // What "Sofort" does: asks, then empties the bins.
-void CleanBinDirect(TempFilesFrame& frame, platform::Machine& machine);
+void CleanBinDirect(TempFilesFrame& frame, const platform::Machine& machine);
 
 }  // namespace cleanup

@@ -12,7 +12,8 @@ class TempFilesFrame;
 // What "Dateien löschen" does with the rows of the list.
 class TempFileRemoval {
   public:
-    TempFileRemoval(TempFilesFrame& frame, platform::Machine& machine, const KnownLinks& links)
+    TempFileRemoval(TempFilesFrame& frame, const platform::Machine& machine,
+                    const KnownLinks& links)
         : frame_(frame), machine_(machine), links_(links) {}
 
     // Asks, then removes. What fails is passed over, and the list is empty at the end.
@@ -23,7 +24,7 @@ class TempFileRemoval {
     bool Confirmed() const;
 
     TempFilesFrame& frame_;
-    platform::Machine& machine_;
+    const platform::Machine& machine_;
     const KnownLinks& links_;
 };
 

@@ -9,7 +9,7 @@
 
 namespace cleanup {
 
-TempFiles::TempFiles(toolkit::Form& form, platform::Machine& machine)
+TempFiles::TempFiles(toolkit::Form& form, const platform::Machine& machine)
     : machine_(machine),
       frame_(form, machine),
       search_(frame_, machine, links_),

@@ -11,7 +11,7 @@ namespace cleanup {
 // they do. Lives as long as the form.
 class TempFiles {
   public:
-    TempFiles(toolkit::Form& form, platform::Machine& machine);
+    TempFiles(toolkit::Form& form, const platform::Machine& machine);
     TempFiles(const TempFiles&) = delete;
     TempFiles& operator=(const TempFiles&) = delete;
 
@@ -24,7 +24,7 @@ class TempFiles {
     void ShowDriveSpace();
 
   private:
-    platform::Machine& machine_;
+    const platform::Machine& machine_;
     TempFilesFrame frame_;
     KnownLinks links_;
     TempFileSearch search_;

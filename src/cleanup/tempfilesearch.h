@@ -10,7 +10,7 @@ namespace cleanup {
 // What "Suchen" does.
 class TempFileSearch {
   public:
-    TempFileSearch(TempFilesFrame& frame, platform::Machine& machine, KnownLinks& links)
+    TempFileSearch(TempFilesFrame& frame, const platform::Machine& machine, KnownLinks& links)
         : frame_(frame), machine_(machine), links_(links), walk_(frame, machine, links) {}
 
     // Searches, or, while the button says "Stop", asks the search that is running to stop.
@@ -29,7 +29,7 @@ class TempFileSearch {
     void ShowResult(std::int32_t total);
 
     TempFilesFrame& frame_;
-    platform::Machine& machine_;
+    const platform::Machine& machine_;
     KnownLinks& links_;
     FolderWalk walk_;
 };

@@ -11,7 +11,7 @@ using controls::chameleonButton;
 using toolkit::CheckBox;
 using toolkit::Label;
 
-TempFilesFrame::TempFilesFrame(toolkit::Form& owner, platform::Machine& machine)
+TempFilesFrame::TempFilesFrame(toolkit::Form& owner, const platform::Machine& machine)
     : form(owner),
       Frame8(form.Add<toolkit::Frame>("Frame8", "Temporäre Dateien")),
       chkScanAll(form.Add<CheckBox>("chkScanAll", "Alle lokalen Festplatten scannen")),
@@ -67,6 +67,7 @@ void TempFilesFrame::ShowProgress(std::string_view text) {
 
 void TempFilesFrame::OpenMenu() {
     if (lvwFiles.Count() == 0) return;
+    mnuTempFiles.place = lvwFiles.MenuPlace();
     const toolkit::MenuItem* chosen = machine_.menus.Choose(mnuTempFiles);
     if (chosen && chosen->onClick) chosen->onClick();
 }

@@ -28,7 +28,7 @@ inline constexpr int Changed = 3;
 // click on a header, and the menu that ticks or unticks all rows.
 class TempFilesFrame {
   public:
-    TempFilesFrame(toolkit::Form& owner, platform::Machine& machine);
+    TempFilesFrame(toolkit::Form& owner, const platform::Machine& machine);
     TempFilesFrame(const TempFilesFrame&) = delete;
     TempFilesFrame& operator=(const TempFilesFrame&) = delete;
 
@@ -67,7 +67,7 @@ class TempFilesFrame {
   private:
     void OpenMenu();
 
-    platform::Machine& machine_;
+    const platform::Machine& machine_;
     // Not reset by a search.
     bool sortDescending_ = false;
 };

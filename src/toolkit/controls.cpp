@@ -107,4 +107,8 @@ void TabStrip::SetTab(int tab) {
     Raise(onClick);
 }
 
+void TabStrip::Click() {
+    Raise(onClick);
+}
+
 }  // namespace toolkit

@@ -167,6 +167,10 @@ class TabStrip : public Control {
     // Throws Failure InvalidPropertyValue for a number that is no page; the page stays.
     void SetTab(int tab);
 
+    // The user has clicked a tab, whether or not that has turned the page.
+    void Click();
+
+    // Another page has come up, or a tab was clicked.
     Handler onClick;
 
   private:

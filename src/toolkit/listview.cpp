@@ -250,7 +250,8 @@ void ListView::ClickColumn(int column) {
     if (Enabled() && onColumnClick) onColumnClick(column);
 }
 
-void ListView::PressRightButton() {
+void ListView::PressRightButton(std::optional<Point> menuPlace) {
+    menuPlace_ = menuPlace;
     if (Enabled() && onRightButton) onRightButton();
 }
 

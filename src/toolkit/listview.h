@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "toolkit/blocksequence.h"
 #include "toolkit/controls.h"
+#include "toolkit/geometry.h"
 
 namespace toolkit {
 
@@ -94,7 +96,7 @@ class ListView : public Control {
     void Click();
     void DoubleClick();
     void ClickColumn(int column);
-    void PressRightButton();
+    void PressRightButton(std::optional<Point> menuPlace = {});
     void PressKey(int virtualKey);
     // The user has selected the rows from `first` to `last`, or taken the selection from them; the
     // window shows it already. Rows that do not exist are passed over.
@@ -110,6 +112,8 @@ class ListView : public Control {
     std::function<void(int)> onColumnClick;
     // The right button was pressed anywhere on the list, or the key of the context menu.
     Handler onRightButton;
+    // Where on the screen the menu for that belongs: by the key at the row; for the mouse none.
+    std::optional<Point> MenuPlace() const { return menuPlace_; }
     // A virtual-key code of the platform.
     std::function<void(int)> onKeyDown;
 
@@ -131,6 +135,7 @@ class ListView : public Control {
     BlockSequence<Row*> rows_;
     // The row that has the focus; may be nullptr.
     const Row* focused_ = nullptr;
+    std::optional<Point> menuPlace_;
     int selectedCount_ = 0;
     int sortKey_ = 0;
     int sortOrder_ = Ascending;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "toolkit/controls.h"
+#include "toolkit/geometry.h"
 
 namespace toolkit {
 
@@ -19,10 +21,12 @@ struct MenuItem {
     bool IsSeparator() const { return caption.empty(); }
 };
 
-// A menu that opens at the mouse and stands in no menu bar. Its form keeps it.
+// A menu that stands in no menu bar. Its form keeps it.
 struct PopupMenu {
     std::string name;
     std::vector<MenuItem> items;
+    // Where on the screen it opens; without a place at the mouse.
+    std::optional<Point> place = {};
 };
 
 }  // namespace toolkit

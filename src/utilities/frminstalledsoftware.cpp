@@ -258,6 +258,7 @@ void frmInstalledSoftware::EnableTimer(bool enabled) {
 
 void frmInstalledSoftware::OpenMenu() {
     if (lvwSoftware_.Count() == 0) return;
+    mnuFile_.place = lvwSoftware_.MenuPlace();
     const toolkit::MenuItem* chosen = [this] {
         const runtime::Temporarily keepsRows(keepsRows_, true);
         return machine_.menus.Choose(mnuFile_);

@@ -393,6 +393,7 @@ void frmVirtualDrive::EnableDelete(bool enabled) {
 void frmVirtualDrive::OpenMenu() {
     if (lstDrives_.Count() == 0) return;
     if (lstDrives_.SelectedRow() != ListView::NoRow) EnableDelete(true);
+    mnuFile_.place = lstDrives_.MenuPlace();
     const toolkit::MenuItem* chosen = machine_.menus.Choose(mnuFile_);
     if (chosen) chosen->onClick();
 }

@@ -80,6 +80,17 @@ TEST_CASE_FIXTURE(Fixture, "the menu ticks and unticks all rows") {
     CHECK(list.Ticked(0));
 }
 
+TEST_CASE_FIXTURE(Fixture, "the menu opens where the list wants it, and at the mouse otherwise") {
+    File("C:\\a.tmp");
+    Search();
+    machine.menus.Dismiss();
+    list.PressRightButton(toolkit::Point{30, 40});
+    CHECK(machine.journal.Calls("TrackPopupMenu").back().find(" at 30,40 ") != std::string::npos);
+    machine.menus.Dismiss();
+    list.PressRightButton();
+    CHECK(machine.journal.Calls("TrackPopupMenu").back().find(" at ") == std::string::npos);
+}
+
 TEST_CASE_FIXTURE(Fixture, "over an empty list no menu opens, and ticking all does nothing") {
     list.PressRightButton();
     CHECK(machine.journal.Lines().empty());

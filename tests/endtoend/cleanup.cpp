@@ -2,6 +2,7 @@
 
 #include "endtoend/lines.h"
 #include "endtoend/lists.h"
+#include "endtoend/realkeys.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/text.h"
 
@@ -102,6 +103,39 @@ TEST_CASE("temp files are found on the system's drive, and only what is ticked g
     CHECK(IsThere(litter.inside));
     CHECK(workplace.Log() == "");
     program.CloseAndWait();
+}
+
+// Brings the window to the front and uses the menu of its list.
+HWND UseListMenu(const Program& program) {
+    Search(program);
+    const HWND form = program.Wait("frmMain");
+    Until("the window in front", [&] {
+        SetForegroundWindow(form);
+        return GetForegroundWindow() == form;
+    });
+    const Rows rows(program.Wait("lvwFiles"));
+    rows.PressRightButton(0);
+    ChooseFromMenu(program, DeselectAll);
+    Until("all ticks to go", [&] { return !rows.Ticked(rows.Count() - 1); });
+    return form;
+}
+
+TEST_CASE("after the menu of the list F4 closes the program") {
+    const Workplace workplace;
+    const Litter litter;
+    const OpenProgram program(workplace);
+    UseListMenu(program);
+    Press(VK_F4);
+    CHECK(program.WaitForEnd() == 0);
+}
+
+TEST_CASE("after the menu of the list Alt and F4 close the program") {
+    const Workplace workplace;
+    const Litter litter;
+    const OpenProgram program(workplace);
+    REQUIRE(UseListMenu(program) == GetForegroundWindow());
+    PressWith(VK_MENU, VK_F4);
+    CHECK(program.WaitForEnd() == 0);
 }
 
 TEST_CASE("No to the question leaves the files and the list as they are") {

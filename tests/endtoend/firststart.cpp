@@ -26,6 +26,8 @@ TEST_CASE("the first start shows the warning and no main window") {
     const HWND warning = program.Wait("frmFirstInfo");
     CHECK(TextOf(warning) == "Warnung");
     CHECK(program.Forms() == std::vector<HWND>{warning});
+    // Its owner is not to be seen, so it would have no taskbar entry otherwise.
+    CHECK((GetWindowLongW(warning, GWL_EXSTYLE) & WS_EX_APPWINDOW) != 0);
 }
 
 TEST_CASE("refusing the warning by its button ends the program without a trace") {

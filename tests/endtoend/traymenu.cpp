@@ -1,8 +1,10 @@
 #include <doctest/doctest.h>
 
+#include "endtoend/realkeys.h"
 #include "endtoend/tools.h"
 #include "endtoend/trayuser.h"
 #include "endtoend/workplace.h"
+#include "platform/win32/handle.h"
 
 namespace endtoend {
 namespace {
@@ -63,6 +65,38 @@ TEST_CASE_FIXTURE(HiddenProgram, "a shell that starts anew gets the icon back, w
     Until("the icon's end", [&] { return !user.HasIcon(); });
     TrayUser::TellStart();
     CHECK_FALSE(user.HasIcon());
+}
+
+TEST_CASE_FIXTURE(HiddenProgram, "a tray menu that is left gives the keyboard back") {
+    const platform::win32::WindowHandle other(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"",
+                                                              WS_POPUP | WS_VISIBLE, 0, 0, 20, 20,
+                                                              nullptr, nullptr, nullptr, nullptr));
+    const auto isInFront = [&] {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+        return GetForegroundWindow() == other.Get();
+    };
+    SetForegroundWindow(other.Get());
+    Until("the other window in front", isInFront);
+    user.Mouse(WM_RBUTTONUP);
+    Until("the tray menu", [&] { return user.Menu() != nullptr && !isInFront(); });
+    Press(VK_ESCAPE);
+    Until("the tray menu's end", [&] { return user.Menu() == nullptr; });
+    Until("the other window in front again", isInFront);
+}
+
+TEST_CASE_FIXTURE(HiddenProgram, "no closing of the windows that are never shown harms the tray") {
+    for (const HWND window : program.TopLevel()) {
+        if (window != form) PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+    user.Choose(1);
+    program.Wait("frmMain");
+    Until("the window in front", [&] { return GetForegroundWindow() == form; });
+    user.Hide();
+    user.Mouse(WM_LBUTTONDBLCLK);
+    program.Wait("frmMain");
+    program.CloseAndWait();
+    CHECK(workplace.Stored("Options", "State") == "0");
 }
 
 TEST_CASE_FIXTURE(HiddenProgram, "the last item of the tray menu ends the program") {

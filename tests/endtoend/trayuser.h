@@ -30,8 +30,10 @@ class TrayUser {
     // What a shell says that has started.
     static void TellStart();
 
-  private:
+    // While it is open.
     HWND Menu() const;
+
+  private:
     // Whether one of the program's windows has it; the others are refused.
     bool NotifyShell(DWORD action) const;
 

@@ -34,6 +34,12 @@ TEST_CASE_FIXTURE(Fixture, "another page raises Click, the same page does not") 
     CHECK(clicks == 1);
 }
 
+TEST_CASE_FIXTURE(Fixture, "a click of the user's raises Click whatever page is up") {
+    tabs.Click();
+    CHECK(clicks == 1);
+    CHECK(tabs.Tab() == 0);
+}
+
 TEST_CASE_FIXTURE(Fixture,
                   "a number that is no page is an invalid property value; the page stays") {
     tabs.SetTab(3);

@@ -425,7 +425,8 @@ TEST_CASE_FIXTURE(Software, "the right button offers both on a list with rows") 
     ShowThree();
     Select({0});
     machine.menus.Pick("Deinstallieren");
-    list.PressRightButton();
+    list.PressRightButton(toolkit::Point{30, 40});
+    CHECK(machine.journal.Calls("TrackPopupMenu").back().find(" at 30,40 ") != std::string::npos);
     CHECK(Started() == Lines{"C:\\Alpha.exe /u"});
     machine.menus.Pick("Eintrag löschen");
     machine.messages.Answer("Alpha löschen", 6);

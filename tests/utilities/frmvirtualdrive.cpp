@@ -370,7 +370,8 @@ TEST_CASE_FIXTURE(Drives, "the right button enables what acts on the row that it
     list.SetSelected(1, true);
     machine.menus.Pick("Laufwerk entfernen");
     machine.messages.Answer(Question, 6);
-    list.PressRightButton();
+    list.PressRightButton(toolkit::Point{30, 40});
+    CHECK(machine.journal.Calls("TrackPopupMenu").back().find(" at 30,40 ") != std::string::npos);
     CHECK(Enabled("cmddelete"));
     REQUIRE(list.Count() == 1);
     CHECK(list.Text(0) == "E:");

@@ -174,6 +174,26 @@ TEST_CASE("all pages' controls exist from the start, and one page is visible") {
     CHECK(SendMessageW(desk.Find(form, "SSTab1"), TCM_GETCURSEL, 0, 0) == 1);
 }
 
+TEST_CASE("a click on the tab that is open already is told too") {
+    RealMouse mouse;
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& tabs = form.Add<toolkit::TabStrip>("SSTab1", std::vector<std::string>{"Eins", "Zwei"});
+    auto& first = form.Add<toolkit::CheckBox>("chkOne", "eins");
+    auto& second = form.Add<toolkit::CheckBox>("chkTwo", "zwei");
+    form.SetLayout(Pages(tabs, {Leaf(first), Leaf(second)}));
+    form.Show();
+    ServeQueue();
+    int clicks = 0;
+    tabs.onClick = [&] { ++clicks; };
+    RealMouse::MoveTo(desk.Find(form, "SSTab1"), 8, 8);
+    RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+    RealMouse::Send(MOUSEEVENTF_LEFTUP);
+    ServeUntil([&] { return clicks > 0; });
+    CHECK(clicks == 1);
+    CHECK(tabs.Tab() == 0);
+}
+
 TEST_CASE("a control that loses its use hands the focus on") {
     Desk desk;
     TestForm form(desk.host, "frmMain");

@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "platform/win32/display.h"
+#include "platform/win32/handle.h"
 #include "windows/desk.h"
 
 using namespace windows;
@@ -255,4 +256,33 @@ TEST_CASE("the screen's hourglass covers every form with what is on it, and unco
     CHECK(over(desk.Window()) == arrow);
     CHECK(over(desk.Find(desk.form, "txt")) == LoadCursorW(nullptr, IDC_IBEAM));
     CHECK(over(desk.Find(desk.form, "cmd")) == arrow);
+}
+
+TEST_CASE("a form behind a box is shown behind it, and the box keeps the keyboard") {
+    MainWindow desk;
+    desk.form.Load();
+    const platform::win32::WindowHandle box(CreateWindowExW(0, L"STATIC", L"Frage",
+                                                            WS_POPUP | WS_VISIBLE, 0, 0, 200, 100,
+                                                            nullptr, nullptr, nullptr, nullptr));
+    SetForegroundWindow(box.Get());
+    EnableWindow(desk.Window(), FALSE);
+    desk.form.Show();
+    CHECK(IsWindowVisible(desk.Window()));
+    CHECK(GetForegroundWindow() == box.Get());
+    HWND below = box.Get();
+    while (below && below != desk.Window()) below = GetWindow(below, GW_HWNDNEXT);
+    CHECK(below == desk.Window());
+}
+
+TEST_CASE("the window that owns one without a taskbar entry cannot be closed from outside") {
+    MainWindow desk;
+    desk.form.Show();
+    desk.form.SetInTaskbar(false);
+    const HWND owner = GetWindow(desk.Window(), GW_OWNER);
+    REQUIRE(owner != nullptr);
+    SendMessageW(owner, WM_CLOSE, 0, 0);
+    SendMessageW(owner, WM_SYSCOMMAND, SC_CLOSE, 0);
+    CHECK(IsWindow(owner));
+    CHECK(desk.form.Loaded());
+    CHECK(IsWindow(desk.Window()));
 }

@@ -18,6 +18,9 @@ std::string Wording(const toolkit::PopupMenu& menu) {
     for (const toolkit::MenuItem& item : menu.items) {
         text += item.IsSeparator() ? " -" : " " + Quoted(item.caption);
     }
+    if (menu.place) {
+        text += " at " + std::to_string(menu.place->x) + ',' + std::to_string(menu.place->y);
+    }
     return text;
 }
 

@@ -19,8 +19,8 @@ class Menus final : public platform::Menus {
     const toolkit::MenuItem* Choose(const toolkit::PopupMenu& menu) override;
 
     // In the next menu the user chooses the item with that caption; several queue up. A disabled
-    // item is tried in vain. A menu that
-    // nobody uses, or one without that item, is a mistake in the test (std::logic_error).
+    // item is tried in vain. A menu that nobody uses, or one without that item, is a mistake in the
+    // test (std::logic_error).
     void Pick(std::string caption);
     // The next menu is left without a choice.
     void Dismiss() { Pick(""); }

@@ -26,7 +26,9 @@ float Clock::SecondsSinceMidnight() const {
 
 Clock::Timer Clock::StartTimer(int milliseconds, std::function<void()> tick) {
     const Timer timer = next_++;
-    if (!SetTimer(window_.Get(), timer, static_cast<UINT>(milliseconds), nullptr)) {
+    const HWND window = window_.Get();
+    // Without a window the ticks would reach nobody.
+    if (!window || !SetTimer(window, timer, static_cast<UINT>(milliseconds), nullptr)) {
         throw runtime::Failure(runtime::OutOfMemory);
     }
     timers_[timer] = std::make_shared<Running>(Running{std::move(tick)});

@@ -24,6 +24,8 @@ HWND HiddenWindow::Get() {
 
 LRESULT CALLBACK HiddenWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* self = reinterpret_cast<HiddenWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    // Whoever closes all windows of the program does not mean this one: it could not come back.
+    if (message == WM_CLOSE) return 0;
     if (self) self->receive_(message, wParam, lParam);
     return DefWindowProcW(window, message, wParam, lParam);
 }

@@ -10,8 +10,13 @@ class Menus final : public platform::Menus {
     const toolkit::MenuItem* Choose(const toolkit::PopupMenu& menu) override;
 
   private:
-    // Stands behind the menu and has no use for its messages: the menu tells the choice itself.
-    HiddenWindow window_{[](UINT, WPARAM, LPARAM) {}};
+    void GiveKeyboardBack();
+
+    // Stands behind a menu that opens while none of the program's windows is in front.
+    HiddenWindow window_{[this](UINT message, WPARAM, LPARAM) {
+        if (message == WM_NULL && !open_) GiveKeyboardBack();
+    }};
+    HWND before_ = nullptr;
     bool open_ = false;
 };
 

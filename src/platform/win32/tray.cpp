@@ -16,6 +16,8 @@ namespace {
 constexpr UINT TrayMessage = WM_APP + 1;
 constexpr UINT TrayId = 1;
 constexpr WORD ProgramIcon = 1;
+constexpr UINT_PTR RetryTimer = 1;
+constexpr UINT RetryInterval = 2000;
 
 // The record without the fields that came later: the shells of 2000 and XP know both.
 constexpr DWORD RecordSize = NOTIFYICONDATAW_V2_SIZE;
@@ -60,9 +62,11 @@ void Tray::SetShown(bool shown) {
 }
 
 // A shell that is busy reports a failure and takes the icon nevertheless; it then refuses a second
-// one of the same number, but not its change.
+// one of the same number, but not its change. At the user's logon it may be too busy for both, and
+// without the icon there would be no way back to a hidden window.
 void Tray::Put() {
     shown_ = Notify(NIM_ADD) || Notify(NIM_MODIFY);
+    if (!shown_) SetTimer(window_.Get(), RetryTimer, RetryInterval, nullptr);
 }
 
 bool Tray::Notify(DWORD action) {
@@ -79,9 +83,10 @@ bool Tray::Notify(DWORD action) {
 }
 
 void Tray::Receive(UINT message, LPARAM lParam) {
+    if (message == WM_TIMER) KillTimer(window_.Get(), RetryTimer);
     if (message == TrayMessage) {
         Mouse(static_cast<UINT>(lParam));
-    } else if (message == shellStarted_ && wanted_) {
+    } else if (wanted_ && (message == shellStarted_ || (message == WM_TIMER && !shown_))) {
         Put();
     }
 }
@@ -95,6 +100,9 @@ void Tray::Mouse(UINT message) {
             if (onMouseUp) GuardEvent(messages_, [this] { onMouseUp(RightButton); });
             break;
         case WM_LBUTTONDBLCLK:
+            // The right to come to the front is this window's; what it shows takes it over. A box
+            // that has disabled it stays in front.
+            if (IsWindowEnabled(window_.Get())) SetForegroundWindow(window_.Get());
             if (onRestore) GuardEvent(messages_, onRestore);
             break;
         default:

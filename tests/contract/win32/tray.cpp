@@ -117,6 +117,58 @@ TEST_CASE_FIXTURE(Fixture, "an icon that the shell refused is tried again when i
     CHECK(shell.calls == 4);
 }
 
+TEST_CASE_FIXTURE(Fixture, "an icon that a busy shell refused is tried until it is there") {
+    shell.refusals = 4;
+    tray.SetShown(true);
+    CHECK(shell.calls == 2);
+    // The clock's window knows no such timer.
+    Send(WM_TIMER, 0);
+    CHECK(shell.calls == 4);
+    const DWORD start = GetTickCount();
+    MSG message;
+    while (shell.calls == 4 && GetTickCount() - start < 10000) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_ALLINPUT);
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+    }
+    CHECK(shell.calls == 5);
+    Send(WM_TIMER, 0);
+    CHECK(shell.calls == 5);
+}
+
+TEST_CASE_FIXTURE(Fixture, "an icon that is no longer wanted is not tried again") {
+    shell.refusals = 2;
+    tray.SetShown(true);
+    tray.SetShown(false);
+    CHECK(shell.calls == 3);
+    Send(WM_TIMER, 0);
+    CHECK(shell.calls == 3);
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a double click brings the program to the front, unless a box holds it") {
+    tray.SetShown(true);
+    const platform::win32::WindowHandle other(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"",
+                                                              WS_POPUP | WS_VISIBLE, 0, 0, 20, 20,
+                                                              nullptr, nullptr, nullptr, nullptr));
+    SetForegroundWindow(other.Get());
+    HWND front = nullptr;
+    tray.onRestore = [&] { front = GetForegroundWindow(); };
+    const auto enableHidden = [](BOOL enabled) {
+        for (HWND window = nullptr;
+             (window = FindWindowExW(nullptr, window, L"QuillmoreHidden", nullptr)) != nullptr;) {
+            EnableWindow(window, enabled);
+        }
+    };
+    enableHidden(FALSE);
+    Mouse(WM_LBUTTONDBLCLK);
+    CHECK(front == other.Get());
+    enableHidden(TRUE);
+    Mouse(WM_LBUTTONDBLCLK);
+    wchar_t name[64] = {};
+    GetClassNameW(front, name, 64);
+    CHECK(std::wstring(name) == L"QuillmoreHidden");
+}
+
 TEST_CASE_FIXTURE(Fixture,
                   "a busy shell that takes the icon and says no is believed the second time") {
     shell.refusals = 1;

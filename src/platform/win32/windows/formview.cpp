@@ -55,7 +55,8 @@ void FormWindow::ShowVisible() {
 void FormWindow::ShowState() {
     switch (form_.State()) {
         case toolkit::WindowState::Normal:
-            ShowWindow(window_, SW_SHOWNORMAL);
+            // Whatever has disabled the window stays in front of it.
+            ShowWindow(window_, IsWindowEnabled(window_) ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE);
             break;
         case toolkit::WindowState::Minimised:
             ShowWindow(window_, IsWindowVisible(window_) ? SW_MINIMIZE : SW_SHOWMINIMIZED);

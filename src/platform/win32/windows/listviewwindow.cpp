@@ -85,7 +85,7 @@ LRESULT ListViewWindow::Handle(HookedMessage& hooked) {
             return 0;
         // The mouse's has come as the right button.
         case WM_CONTEXTMENU:
-            if (hooked.lParam == -1) Guard([this] { control_.PressRightButton(); });
+            if (hooked.lParam == -1) Guard([this] { control_.PressRightButton(MenuPlace()); });
             return 0;
         case LVM_SETITEMSTATE:
             if (showing_ || user_) break;
@@ -110,6 +110,20 @@ void ListViewWindow::RightButton(POINT at) {
         SetState(hit.iItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     }
     Guard([this] { control_.PressRightButton(); });
+}
+
+// Below the text of the row that the keyboard is on, which it brings into sight; in the corner
+// while it is on none.
+toolkit::Point ListViewWindow::MenuPlace() const {
+    RECT area{};
+    area.left = LVIR_LABEL;
+    if (const int row = Focused(); row >= 0) {
+        Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+        Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&area));
+    }
+    POINT place{std::max<LONG>(area.left, 0), area.bottom};
+    MapWindowPoints(Window(), nullptr, &place, 1);
+    return {place.x, place.y};
 }
 
 LRESULT ListViewWindow::KeyDown(HookedMessage& hooked) {

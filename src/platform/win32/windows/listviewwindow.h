@@ -39,6 +39,7 @@ class ListViewWindow final : public ControlWindow {
     LRESULT Hear(const NMHDR& notice);
     LRESULT KeyDown(HookedMessage& hooked);
     void RightButton(POINT at);
+    toolkit::Point MenuPlace() const;
     void CatchUp();
     void ShowSelection();
     void SetState(int row, UINT state, UINT mask) const;

@@ -129,6 +129,7 @@ void TabStripWindow::Turn(bool forward) {
 }
 
 void TabStripWindow::Notified(UINT code) {
+    if (code == static_cast<UINT>(NM_CLICK)) Guard([this] { control_.Click(); });
     if (code != TCN_SELCHANGE) return;
     Guard([this] { control_.SetTab(static_cast<int>(Send(TCM_GETCURSEL))); });
     if (Window()) ShowValue();

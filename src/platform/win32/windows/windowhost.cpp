@@ -7,10 +7,7 @@
 
 namespace platform::win32 {
 
-WindowHost::WindowHost(platform::Messages& messages)
-    : messages_(messages),
-      root_(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
-                            nullptr, GetModuleHandleW(nullptr), nullptr)) {}
+WindowHost::WindowHost(platform::Messages& messages) : messages_(messages) {}
 
 WindowHost::~WindowHost() {
     for (const auto& window : windows_) window->Destroy();
@@ -23,7 +20,7 @@ void WindowHost::Open(toolkit::Form& form) {
 }
 
 // Dialogs lie over the main window.
-HWND WindowHost::OwnerFor(const toolkit::Form& form) const {
+HWND WindowHost::OwnerFor(const toolkit::Form& form) {
     if (!form.isDialog) return root_.Get();
     for (const auto& window : windows_) {
         if (window->Window() && !window->Form().isDialog) return window->Window();

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/win32/formhandles.h"
-#include "platform/win32/handle.h"
+#include "platform/win32/hiddenwindow.h"
 #include "platform/win32/windows/screen.h"
 #include "toolkit/form.h"
 
@@ -45,14 +45,14 @@ class WindowHost final : public FormHandles {
   private:
     void ScreenPointerChanged() override;
     std::shared_ptr<FormWindow> Find(const toolkit::Form& form) const;
-    HWND OwnerFor(const toolkit::Form& form) const;
+    HWND OwnerFor(const toolkit::Form& form);
     bool ServeOne();
 
     platform::Messages& messages_;
     Screen screen_;
     // Never seen. It owns the main window while that has no taskbar entry, and gets the messages
     // that wake a loop whose form has gone.
-    WindowHandle root_;
+    HiddenWindow root_{[](UINT, WPARAM, LPARAM) {}};
     // In the order of their loading.
     std::vector<std::shared_ptr<FormWindow>> windows_;
 };
