@@ -87,18 +87,6 @@ void frmMain::SetHelpTexts() {
     tweaks::HangHelpTexts(*this, toolTip_.emplace(machine_.toolTips));
 }
 
-void frmMain::DoLogoff() {
-    app::DoLogoff(*this, machine_);
-}
-
-void frmMain::DoReboot() {
-    app::DoReboot(*this, machine_);
-}
-
-void frmMain::DoShutdown() {
-    app::DoShutdown(*this, machine_);
-}
-
 void frmMain::LockStation() {
     launchers_.LoadExternMSC("rundll32.exe", "user32.dll,LockWorkStation");
 }
@@ -109,17 +97,15 @@ void frmMain::OnLoad() {
 }
 
 void frmMain::OnResize() {
-    const bool toTray = Find<toolkit::CheckBox>("chkTrayIcon").Value() == 1;
-    if (State() == toolkit::WindowState::Minimised) {
-        if (toTray) {
-            machine_.tray.SetIcon();
-            machine_.tray.SetShown(true);
-            SetInTaskbar(false);
-            Hide();
-        } else {
-            SetInTaskbar(true);
-        }
+    const int toTray = Find<toolkit::CheckBox>("chkTrayIcon").Value();
+    const bool minimised = State() == toolkit::WindowState::Minimised;
+    if (minimised && toTray == 1) {
+        machine_.tray.SetIcon();
+        machine_.tray.SetShown(true);
+        SetInTaskbar(false);
+        Hide();
     }
+    if (minimised && toTray == 0) SetInTaskbar(true);
     // The normal window cannot be resized: any attempt snaps back. A maximised one is left alone.
     if (State() == toolkit::WindowState::Normal) SetSize(FixedWidth, FixedHeight);
 }
@@ -137,7 +123,7 @@ void frmMain::OnMouseMove() {
 // A session that ends while the warning is still open leaves as little trace as a refusal.
 void frmMain::OnQueryUnload() {
     synchronization_.Stop_tmrUhrzeit();
-    if (!warningAccepted_) machine_.program.End();
+    if (!storesAtClosing_) machine_.program.End();
     log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_, toolTip_); });
 }
 

@@ -38,10 +38,14 @@ class frmMain final : public toolkit::Form {
     void WriteRegistry();
 
     // From here on closing stores the window's facts and the program's options.
-    void WarningAccepted() { warningAccepted_ = true; }
+    void StoreAtClosing() { storesAtClosing_ = true; }
 
-    // The ends of the user's session, asked for by the buttons and by the tray menu. Each ends the
-    // program too, unless the user says No.
+    // The ends of the user's session, asked for by the buttons and by the tray menu. Each asks
+    // first, unless `chkRebootQuestion` is set, then asks the system for the end, forced when
+    // `chkForceReboot` is 1, and unloads this window. So nothing of closing runs before the answer,
+    // and the system's own end runs while the program closes. A refusal of the system is not
+    // noticed: the program ends and the system runs on, on purpose. A failure passes to the caller
+    // and leaves the window open. They stand in sessionactions.cpp.
     void DoLogoff();
     void DoReboot();
     void DoShutdown();
@@ -72,7 +76,7 @@ class frmMain final : public toolkit::Form {
     void OpenTrayMenu();
 
     platform::Machine machine_;
-    bool warningAccepted_ = false;
+    bool storesAtClosing_ = false;
     std::string version_;
     ErrorLog log_;
     utilities::Launchers launchers_;

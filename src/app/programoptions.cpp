@@ -64,30 +64,34 @@ void RestoreTransparencyLevel(toolkit::Form& form, const Settings& settings) {
 
 void RestoreTrayIcon(toolkit::Form& form, const platform::Machine& machine,
                      const Settings& settings) {
-    const std::string stored = settings.GetSetting("Options", "TrayIcon");
-    if (stored.empty()) return;
-    Skip([&] { form.Find<CheckBox>("chkTrayIcon").SetValue(stored == "1" ? 1 : 0); });
-    if (stored == "1") DressTrayIcon(machine);
+    Skip([&] {
+        const std::string stored = settings.GetSetting("Options", "TrayIcon");
+        if (stored.empty()) return;
+        Skip([&] { form.Find<CheckBox>("chkTrayIcon").SetValue(stored == "1" ? 1 : 0); });
+        if (stored == "1") DressTrayIcon(machine);
+    });
 }
 
 // Closing always stores this key, so from the second start on it overrules the stored window
 // state: a window closed maximised opens normal. That is meant to be so.
 void RestoreMinimised(toolkit::Form& form, const platform::Machine& machine,
                       const Settings& settings) {
-    const std::string stored = settings.GetSetting("Options", "MinimizeAfterStart");
-    if (stored.empty()) return;
-    auto& box = form.Find<CheckBox>("chkMinimzeAfterStart");
-    if (stored == "1") {
-        Skip([&] { box.SetValue(1); });
-        Skip([&] { form.SetState(toolkit::WindowState::Minimised); });
-        if (!IsSet(form, "chkTrayIcon")) return;
-        Skip([&] { form.SetInTaskbar(false); });
-        Skip([&] { machine.tray.SetShown(true); });
-    } else {
-        Skip([&] { box.SetValue(0); });
-        Skip([&] { form.SetState(toolkit::WindowState::Normal); });
-        Skip([&] { form.SetInTaskbar(true); });
-    }
+    Skip([&] {
+        const std::string stored = settings.GetSetting("Options", "MinimizeAfterStart");
+        if (stored.empty()) return;
+        auto& box = form.Find<CheckBox>("chkMinimzeAfterStart");
+        if (stored == "1") {
+            Skip([&] { box.SetValue(1); });
+            Skip([&] { form.SetState(toolkit::WindowState::Minimised); });
+            if (!IsSet(form, "chkTrayIcon")) return;
+            Skip([&] { form.SetInTaskbar(false); });
+            Skip([&] { machine.tray.SetShown(true); });
+        } else {
+            Skip([&] { box.SetValue(0); });
+            Skip([&] { form.SetState(toolkit::WindowState::Normal); });
+            Skip([&] { form.SetInTaskbar(true); });
+        }
+    });
 }
 
 }  // namespace
@@ -128,9 +132,9 @@ void RestoreProgramOptions(toolkit::Form& form, const platform::Machine& machine
         const bool exists = machine.autostart.AutoStartExists(ProgramTitle);
         form.Find<CheckBox>("chkCreateAutoStart").SetValue(exists ? 1 : 0);
     });
-    Skip([&] { RestoreTrayIcon(form, machine, settings); });
+    RestoreTrayIcon(form, machine, settings);
     RestorePreviewLibrary(form, settings);
-    Skip([&] { RestoreMinimised(form, machine, settings); });
+    RestoreMinimised(form, machine, settings);
     Restore(form, "chkRebootQuestion", settings, "Options", "RebootQuestion");
     Restore(form, "chkForceReboot", settings, "Options", "ForceReboot");
 }

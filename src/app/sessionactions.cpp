@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 #include "app/frmmain.h"
 #include "controls/chameleonbutton.h"
@@ -55,16 +56,16 @@ void EndSession(toolkit::Form& mainForm, const platform::Machine& machine, const
 
 }  // namespace
 
-void DoLogoff(toolkit::Form& mainForm, const platform::Machine& machine) {
-    EndSession(mainForm, machine, LogOff);
+void frmMain::DoLogoff() {
+    EndSession(*this, machine_, LogOff);
 }
 
-void DoReboot(toolkit::Form& mainForm, const platform::Machine& machine) {
-    EndSession(mainForm, machine, Restart);
+void frmMain::DoReboot() {
+    EndSession(*this, machine_, Restart);
 }
 
-void DoShutdown(toolkit::Form& mainForm, const platform::Machine& machine) {
-    EndSession(mainForm, machine, ShutDown);
+void frmMain::DoShutdown() {
+    EndSession(*this, machine_, ShutDown);
 }
 
 toolkit::Box AddSessionButtons(frmMain& form, platform::Clock& clock) {

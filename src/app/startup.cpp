@@ -1,10 +1,10 @@
 #include "app/startup.h"
 
+#include <cstdint>
 #include <string>
 
 #include "app/frmmain.h"
 #include "app/programoptions.h"
-#include "app/version.h"
 #include "controls/forminform.h"
 #include "controls/frmfirstinfo.h"
 #include "platform/locale.h"
@@ -135,7 +135,7 @@ void StartUp(frmMain& form, const platform::Machine& machine) {
     const Settings settings(machine.settings);
 
     AskForAcceptance(form, machine, settings);
-    form.WarningAccepted();
+    form.StoreAtClosing();
     RestoreWindow(form, machine, settings);
     if (machine.program.CommandLine() == RawSwitch) {
         ShowRawNotice(machine);

@@ -56,6 +56,28 @@ TEST_CASE("closing stores the window's facts as number texts") {
     CHECK(program.Stored("Tab") == "4");
 }
 
+TEST_CASE("closing a maximised window stores its state and the place that it fills") {
+    Program program;
+    REQUIRE(program.Start());
+    program.form->WindowMoved(WindowState::Maximised, {-60, -60, 15480, 11220});
+    CHECK(program.Close());
+    CHECK(program.Stored("State") == "2");
+    CHECK(program.Stored("Left") == "-60");
+    CHECK(program.Stored("Width") == "15480");
+}
+
+TEST_CASE("closing a window minimised without the tray stores its state and the place it had") {
+    Program program;
+    REQUIRE(program.Start());
+    program.form->WindowMoved(WindowState::Normal, {120, 300, 9990, 7920});
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    CHECK(program.Close());
+    CHECK(program.Stored("State") == "1");
+    CHECK(program.Stored("Left") == "120");
+    CHECK(program.Stored("Top") == "300");
+    CHECK(program.Stored("Height") == "7920");
+}
+
 TEST_CASE("closing from the tray stores neither place nor server name but options and tab") {
     Program program;
     REQUIRE(program.Start());

@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <vector>
+
 #include "platform/simulated/machine.h"
 
 using app::ErrorLog;
@@ -94,11 +96,29 @@ TEST_CASE_FIXTURE(Log, "the log file is closed again") {
     CHECK(machine.files.OpenHandles() == 0);
 }
 
-TEST_CASE("a failure at any call inside the report never reaches the caller") {
+TEST_CASE("any call that fails inside the report costs its own part and never reaches the caller") {
+    constexpr int OpenCall = 1;
+    constexpr int Items = 8;
+    constexpr int MessageCall = 11;
+    // Where each item begins, and the end.
+    std::vector<std::size_t> begins{0};
+    for (const char* item : {"Please", "Date", "Descr", "Source", "Number", "Procedure", "****"}) {
+        begins.push_back(Record.find(item));
+    }
+    begins.push_back(Record.size());
     for (int n = 1; n <= 12; ++n) {
+        CAPTURE(n);
         Log failing;
         failing.machine.faults.FailNth(n, runtime::PermissionDenied);
         CHECK_NOTHROW(failing.log.LogError(6, "Überlauf", "Quillmore", "WriteRegistry"));
+        const int lost = n - OpenCall - 1;
+        std::string expected = n == OpenCall ? "none" : Record;
+        if (lost >= 0 && lost < Items) {
+            const auto at = static_cast<std::size_t>(lost);
+            expected.erase(begins[at], begins[at + 1] - begins[at]);
+        }
+        CHECK(failing.Content() == expected);
+        CHECK(failing.machine.messages.Shown().size() == (n == MessageCall ? 0 : 1));
     }
 }
 

@@ -96,6 +96,34 @@ TEST_CASE("a store that cannot be written keeps the old values and reports nothi
     CHECK(program.machine.messages.Shown().empty());
 }
 
+TEST_CASE("an option that cannot be stored does not keep the others and the entry from it") {
+    for (const Option& failing : Options) {
+        CAPTURE(failing.key);
+        Program program;
+        REQUIRE(program.Start());
+        for (const Option& option : Options) program.Check(option.control).SetValue(1);
+        program.machine.faults.FailOn("Quillmore|Options|" + std::string(failing.key),
+                                      runtime::InvalidProcedureCall);
+        app::SaveProgramOptions(*program.form, program.machine.services);
+        for (const Option& option : Options) {
+            CAPTURE(option.key);
+            CHECK(program.Stored(option.key) == (option.key == failing.key ? "absent" : "1"));
+        }
+        CHECK(program.machine.tray.tip == "Quillmore");
+        CHECK(program.machine.autostart.entries.count("Quillmore") == 1);
+    }
+}
+
+TEST_CASE("an autostart entry that cannot be made is stored as wanted all the same") {
+    Program program;
+    REQUIRE(program.Start());
+    program.Check("chkCreateAutoStart").SetValue(1);
+    program.machine.faults.FailAll("AutoStartAdd", runtime::PermissionDenied);
+    app::SaveProgramOptions(*program.form, program.machine.services);
+    CHECK(program.Stored("AutoStart") == "1");
+    CHECK(program.Stored("ForceReboot") == "0");
+}
+
 TEST_CASE("the boxes but the autostart one come back from the store") {
     for (const Option& option : Options) {
         if (option.key == Options[1].key) continue;

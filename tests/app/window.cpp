@@ -1,9 +1,51 @@
 #include <doctest/doctest.h>
 
+#include <vector>
+
 #include "app/program.h"
 
 using namespace app_test;
 using toolkit::WindowState;
+
+namespace {
+
+// Notes between the machine's calls what of the window is shown anew.
+struct Watched : Program, toolkit::FormView {
+    std::vector<std::string> happened;
+
+    Watched() {
+        REQUIRE(Start());
+        Check("chkTrayIcon").SetValue(1);
+        before = form->View();
+        form->SetView(this);
+        machine.journal.Clear();
+    }
+    ~Watched() override { form->SetView(before); }
+    Watched(const Watched&) = delete;
+    Watched& operator=(const Watched&) = delete;
+
+    void Refresh(toolkit::FormAspect what) override {
+        TakeCalls();
+        if (what == toolkit::FormAspect::State) happened.emplace_back("state");
+        if (what == toolkit::FormAspect::TaskbarEntry) {
+            happened.emplace_back(form->InTaskbar() ? "in taskbar" : "out of taskbar");
+        }
+        if (what == toolkit::FormAspect::Visible) {
+            happened.emplace_back(form->Visible() ? "shown" : "hidden");
+        }
+    }
+    void TakeCalls() {
+        for (const std::string& line : machine.journal.Lines()) happened.push_back(line);
+        machine.journal.Clear();
+    }
+
+  private:
+    toolkit::FormView* before;
+};
+
+using Happened = std::vector<std::string>;
+
+}  // namespace
 
 TEST_CASE("the normal window snaps back to 9990 by 7920 twips") {
     Program program;
@@ -70,4 +112,31 @@ TEST_CASE("minimising without the tray option makes a hidden taskbar entry visib
     program.form->SetInTaskbar(false);
     program.form->WindowMoved(WindowState::Minimised, program.form->Place());
     CHECK(program.form->InTaskbar());
+}
+
+TEST_CASE_FIXTURE(
+    Watched, "into the tray: first the icon, without its tip, then the taskbar, then the window") {
+    form->WindowMoved(WindowState::Minimised, form->Place());
+    TakeCalls();
+    CHECK(happened == Happened{"Tray.SetIcon", "Tray.SetShown 1", "out of taskbar", "hidden"});
+}
+
+TEST_CASE_FIXTURE(Watched, "out of the tray: first the state, last the icon's end") {
+    form->WindowMoved(WindowState::Minimised, form->Place());
+    happened.clear();
+    machine.journal.Clear();
+    machine.tray.onRestore();
+    TakeCalls();
+    CHECK(happened == Happened{"state", "in taskbar", "shown", "Tray.SetShown 0"});
+}
+
+TEST_CASE("the grey state of the tray's box minimises neither into the tray nor the taskbar") {
+    Program program;
+    REQUIRE(program.Start());
+    program.Check("chkTrayIcon").SetValue(2);
+    program.form->SetInTaskbar(false);
+    program.form->WindowMoved(WindowState::Minimised, program.form->Place());
+    CHECK_FALSE(program.form->InTaskbar());
+    CHECK(program.form->Visible());
+    CHECK_FALSE(program.machine.tray.shown);
 }

@@ -59,7 +59,7 @@ class Resources(unittest.TestCase):
             self.assertIn(0, part, f"picture {tab} leaves nothing free")
             self.assertGreater(sum(byte != 0 for byte in part), 30, f"picture {tab} is empty")
 
-    def test_the_version_block_is_german_and_tells_the_version_of_the_project(self):
+    def test_the_version_block_is_german_and_tells_the_version_of_project_and_program(self):
         script = (RESOURCES / "Quillmore.rc").read_text(encoding="utf-8")
         project = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
         version = re.search(r"VERSION ([\d.]+) LANGUAGES", project).group(1)
@@ -67,6 +67,10 @@ class Resources(unittest.TestCase):
             self.assertIn(f"{name} {version.replace('.', ',')}\n", script)
         for name in ("FileVersion", "ProductVersion"):
             self.assertIn(f'VALUE "{name}", "{version}"\n', script)
+        source = (ROOT / "src" / "app" / "version.h").read_text(encoding="utf-8")
+        told = [re.search(rf"int {name} = (\d+);", source).group(1)
+                for name in ("MajorVersion", "MinorVersion", "Revision")]
+        self.assertEqual(version.split("."), [*told[:2], "0", told[2]])
         self.assertIn("LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\n", script)
         self.assertIn(f'VALUE "Translation", 0x{GERMAN:04x}, 1200\n', script)
         self.assertIn(f'BLOCK "{GERMAN:04X}04B0"\n', script)
