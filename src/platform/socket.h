@@ -33,7 +33,8 @@ class Socket {
     // way do not come any more. A closed socket stays closed.
     virtual void Close() = 0;
 
-    // The bytes that have arrived since the last time.
+    // The bytes that have arrived since the last time. Throws the Failure of a system that does not
+    // hand them out.
     virtual std::string GetData() = 0;
 
     std::string remoteHost;

@@ -13,6 +13,7 @@ Date GetRemoteDateTime(const platform::Network& network, std::string_view Server
     if (!server.empty() && !server.starts_with("\\\\")) server.insert(0, "\\\\");
     const auto told = network.RemoteTimeOfDay(server);
     if (!told) return 0;
+    // Without signs, so that no nonsense overflows: what it becomes, DateOf refuses.
     const auto part = [](std::uint32_t number) { return static_cast<int>(number); };
     return DateOf({part(told->year), part(told->month), part(told->day), part(told->hours),
                    part(told->minutes - static_cast<std::uint32_t>(told->timezone)),

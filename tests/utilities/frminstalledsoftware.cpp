@@ -131,9 +131,9 @@ TEST_CASE_FIXTURE(Software, "the list is locked while it is filled, and its colu
     for (const std::string& line : machine.journal.Lines()) {
         if (!line.starts_with("Reg")) lines.push_back(line);
     }
-    CHECK(lines == Lines{"LockWindowUpdate lvwSoftware", "SendMessageA lvwSoftware 4126 0 -2",
-                         "SendMessageA lvwSoftware 4126 1 -2", "SendMessageA lvwSoftware 4126 2 -2",
-                         "LockWindowUpdate 0"});
+    CHECK(lines == Lines{"Pointer 11", "LockWindowUpdate lvwSoftware",
+                         "SendMessageA lvwSoftware 4126 0 -2", "SendMessageA lvwSoftware 4126 1 -2",
+                         "SendMessageA lvwSoftware 4126 2 -2", "LockWindowUpdate 0", "Pointer 0"});
 }
 
 TEST_CASE_FIXTURE(Software, "the list is painted again when it is sorted, not before") {

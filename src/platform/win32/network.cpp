@@ -1,7 +1,6 @@
 #include "platform/win32/network.h"
 
 #include <lm.h>
-#include <ras.h>
 
 #include "platform/win32/text.h"
 
@@ -22,9 +21,20 @@ struct Record {
 };
 static_assert(sizeof(Record) == 412);
 
+// The library comes when it is needed, since the program hardly ever asks and every start would
+// have to load the whole telephone service.
+DWORD WINAPI AskRas(RASCONNA* records, LPDWORD size, LPDWORD count) {
+    const HMODULE library = LoadLibraryW(L"rasapi32.dll");
+    const auto ask = reinterpret_cast<Network::AskConnections>(
+        reinterpret_cast<void*>(GetProcAddress(library, "RasEnumConnectionsA")));
+    const DWORD code = ask ? ask(records, size, count) : ERROR_PROC_NOT_FOUND;
+    FreeLibrary(library);
+    return code;
+}
+
 }  // namespace
 
-Network::Network() : Network(NetRemoteTOD, NetApiBufferFree) {}
+Network::Network() : Network(NetRemoteTOD, NetApiBufferFree, AskRas) {}
 
 std::optional<TimeOfDay> Network::RemoteTimeOfDay(const std::string& server) const {
     BYTE* buffer = nullptr;
@@ -44,7 +54,7 @@ std::uint32_t Network::CountDialUpConnections(std::uint32_t& count) const {
     Record record;
     DWORD size = sizeof record;
     DWORD found = 0;
-    const DWORD code = RasEnumConnectionsA(reinterpret_cast<RASCONNA*>(&record), &size, &found);
+    const DWORD code = askConnections_(reinterpret_cast<RASCONNA*>(&record), &size, &found);
     count = found;
     return code;
 }

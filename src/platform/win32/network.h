@@ -2,18 +2,23 @@
 
 #include <windows.h>
 
+#include <ras.h>
+
 #include "platform/network.h"
 
 namespace platform::win32 {
 
 class Network final : public platform::Network {
   public:
-    // NetRemoteTOD and NetApiBufferFree, which a test may replace where the system lacks them.
+    // NetRemoteTOD, NetApiBufferFree and RasEnumConnectionsA, which a test may replace where the
+    // system lacks them or has nothing to tell.
     using AskTime = DWORD(WINAPI*)(LPCWSTR server, LPBYTE* buffer);
     using Free = DWORD(WINAPI*)(LPVOID buffer);
+    using AskConnections = DWORD(WINAPI*)(RASCONNA* records, LPDWORD size, LPDWORD count);
 
     Network();
-    Network(AskTime askTime, Free free) : askTime_(askTime), free_(free) {}
+    Network(AskTime askTime, Free free, AskConnections askConnections)
+        : askTime_(askTime), free_(free), askConnections_(askConnections) {}
 
     std::optional<TimeOfDay> RemoteTimeOfDay(const std::string& server) const override;
     std::uint32_t CountDialUpConnections(std::uint32_t& count) const override;
@@ -21,6 +26,7 @@ class Network final : public platform::Network {
   private:
     AskTime askTime_;
     Free free_;
+    AskConnections askConnections_;
 };
 
 }  // namespace platform::win32

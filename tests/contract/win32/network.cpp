@@ -2,6 +2,7 @@
 
 #include <doctest/doctest.h>
 #include <lm.h>
+#include <raserror.h>
 
 #include <cstdlib>
 #include <string>
@@ -39,13 +40,27 @@ DWORD WINAPI Free(LPVOID buffer) {
     return NetApiBufferFree(buffer);
 }
 
+constexpr DWORD TooSmall = ERROR_BUFFER_TOO_SMALL;
+
+DWORD recordSize = 0;
+DWORD roomSize = 0;
+DWORD connections = 0;
+
+DWORD WINAPI AskConnections(RASCONNA* records, LPDWORD size, LPDWORD count) {
+    recordSize = records->dwSize;
+    roomSize = *size;
+    *count = connections;
+    return connections > 1 ? TooSmall : 0;
+}
+
 struct Fixture {
-    Network network{AskTime, Free};
+    Network network{AskTime, Free, AskConnections};
 
     Fixture() {
         asked = L"?";
         answer = 0;
         frees = 0;
+        connections = 0;
         told = {.tod_elapsedt = 1,
                 .tod_msecs = 2,
                 .tod_hours = 23,
@@ -115,7 +130,8 @@ TEST_CASE("the real call tells this computer's time, or the system has no such c
     CloseHandle(thread);
     RemoveVectoredExceptionHandler(handler);
     if (code == NoSuchFunction) {
-        MESSAGE("this system has no NetRemoteTOD");
+        // It is the one that has no workstation service either, and no Windows.
+        CHECK(contract::TestMachine().LacksWorkstationService());
         return;
     }
     REQUIRE(code == 0);
@@ -123,6 +139,17 @@ TEST_CASE("the real call tells this computer's time, or the system has no such c
     GetSystemTime(&now);
     CHECK(std::abs(static_cast<int>(time.year) - now.wYear) <= 1);
     CHECK(std::abs(static_cast<int>(time.minutes) - now.wMinute) % 59 <= 1);
+}
+
+TEST_CASE_FIXTURE(Fixture, "dial-up connections are asked for with one record of 412 bytes") {
+    for (const DWORD there : {0u, 1u, 2u}) {
+        connections = there;
+        std::uint32_t count = 7;
+        CHECK(network.CountDialUpConnections(count) == (there > 1 ? TooSmall : 0));
+        CHECK(count == there);
+        CHECK(recordSize == 412);
+        CHECK(roomSize == 412);
+    }
 }
 
 TEST_CASE("the system can be asked for its dial-up connections and has none here") {

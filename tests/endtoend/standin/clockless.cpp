@@ -51,7 +51,7 @@ void SystemClock::SetLocalTime(const LocalTime& time) {
     NoteTime("SetLocalTime", time);
 }
 
-Network::Network() : Network(nullptr, nullptr) {}
+Network::Network() : Network(nullptr, nullptr, nullptr) {}
 
 // Two computers are there, the second in the year 1981.
 std::optional<TimeOfDay> Network::RemoteTimeOfDay(const std::string& server) const {
