@@ -1,4 +1,7 @@
+#include <windows.h>
+
 #include <doctest/doctest.h>
+#include <psapi.h>
 
 #include "endtoend/workplace.h"
 #include "platform/win32/handle.h"
@@ -76,6 +79,41 @@ class ComponentsFile {
 };
 
 constexpr int TweaksPage = 1;
+
+// What the program's process holds, and the most that it ever held.
+PROCESS_MEMORY_COUNTERS MemoryOf(const Application& program) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(program.Wait("frmMain"), &id);
+    const win32::KernelHandle process(
+        OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, id));
+    PROCESS_MEMORY_COUNTERS counters = {};
+    counters.cb = sizeof counters;
+    if (!GetProcessMemoryInfo(process.Get(), &counters, sizeof counters)) {
+        throw Failed("the process does not tell its memory");
+    }
+    return counters;
+}
+
+TEST_CASE(
+    "the button takes the block that half of the memory decides on, writes it all, and gives it "
+    "back") {
+    MEMORYSTATUSEX machine = {};
+    machine.dwLength = sizeof machine;
+    GlobalMemoryStatusEx(&machine);
+    REQUIRE(machine.ullTotalPhys > 512000001);
+    constexpr double block = 240000000;
+    const Workplace workplace;
+    const OpenProgram program(workplace);
+    const auto held = static_cast<double>(MemoryOf(program).WorkingSetSize);
+    REQUIRE(static_cast<double>(MemoryOf(program).PeakWorkingSetSize) < block / 2);
+    program.Click("cmdFreeMemory");
+    Until("the block that was taken and given back", [&] {
+        const PROCESS_MEMORY_COUNTERS now = MemoryOf(program);
+        return static_cast<double>(now.PeakWorkingSetSize) - held > 0.98 * block &&
+               static_cast<double>(now.WorkingSetSize) - held < 0.02 * block;
+    });
+    CHECK(static_cast<double>(MemoryOf(program).PeakWorkingSetSize) - held < 1.05 * block);
+}
 
 TEST_CASE("a level that is set acts on a bar of another program at once, and is stored") {
     const Workplace workplace;
