@@ -197,6 +197,30 @@ TEST_CASE_FIXTURE(Fixture, "a read-only folder is removed with force") {
     CHECK_FALSE(folders.Find(In("a")));
 }
 
+TEST_CASE_FIXTURE(Fixture, "a read-only folder that does not go keeps its attribute") {
+    machine.MakeFolder(In("a"));
+    Put(In("a\\file"), "x");
+    machine.SetAttributes(In("a"), 16 | 1);
+    // Wine knows it of files only.
+    const auto before = folders.Find(In("a"))->attributes;
+    CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
+    CHECK(NumberOf([&] { machine.Services().files.Remove(In("a"), true); }) ==
+          runtime::PermissionDenied);
+    CHECK(folders.Find(In("a"))->attributes == before);
+    machine.SetAttributes(In("a"), 16);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a read-only file that does not go keeps its attribute") {
+    Put(In("a"), "x");
+    machine.SetAttributes(In("a"), 33);
+    const auto file = machine.Services().files.OpenForReading(In("a"));
+    CHECK(NumberOf([&] { machine.Services().files.Remove(In("a"), true); }) ==
+          runtime::PermissionDenied);
+    CHECK(folders.Find(In("a"))->attributes == 33);
+    machine.Services().files.Close(file);
+    machine.SetAttributes(In("a"), 32);
+}
+
 TEST_CASE_FIXTURE(Fixture, "a link to a folder is told as one and lists what it leads to") {
     machine.MakeFolder(In("target"));
     Put(In("target\\a"), "x");

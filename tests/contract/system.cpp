@@ -63,6 +63,14 @@ TEST_CASE("the drive of Windows has space, and no more is free than there is") {
     CHECK(facts.Space(facts.WindowsDirectory()).total == space.total);
 }
 
+// As a list of drives names them.
+TEST_CASE("a drive's space is also told by its letter with a blank behind") {
+    contract::TestMachine machine;
+    const auto& facts = machine.Services().facts;
+    const std::string drive = facts.WindowsDirectory().substr(0, 2);
+    CHECK(facts.Space(drive + " ").total == facts.Space(drive + "\\").total);
+}
+
 TEST_CASE("a drive that is not there and a path that is none have no space") {
     contract::TestMachine machine;
     const auto& facts = machine.Services().facts;

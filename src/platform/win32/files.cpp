@@ -1,5 +1,6 @@
 #include "platform/win32/files.h"
 
+#include "platform/win32/nomediumbox.h"
 #include "platform/win32/text.h"
 #include "runtime/failure.h"
 
@@ -55,26 +56,31 @@ void WriteAll(const FileHandle& file, std::string_view bytes) {
 }  // namespace
 
 Files::Handle Files::OpenForAppend(std::string_view path) {
+    const NoMediumBox quiet;
     open_.emplace(next_, OpenOutput(path, FILE_APPEND_DATA, OPEN_ALWAYS));
     return next_++;
 }
 
 Files::Handle Files::OpenForReading(std::string_view path) {
+    const NoMediumBox quiet;
     open_.emplace(next_, OpenInput(path));
     return next_++;
 }
 
 void Files::Write(Handle file, std::string_view bytes) {
+    const NoMediumBox quiet;
     const auto found = open_.find(file);
     if (found == open_.end()) throw runtime::Failure(runtime::BadFileNumber);
     WriteAll(found->second, bytes);
 }
 
 void Files::Close(Handle file) {
+    const NoMediumBox quiet;
     open_.erase(file);
 }
 
 std::string Files::Read(std::string_view path) {
+    const NoMediumBox quiet;
     const FileHandle file = OpenInput(path);
     std::string content;
     char piece[16 * 1024];
@@ -89,10 +95,13 @@ std::string Files::Read(std::string_view path) {
 }
 
 void Files::Remove(std::string_view path, bool force) {
+    const NoMediumBox quiet;
     const std::wstring wide = ToWide(path);
     const DWORD attributes = GetFileAttributesW(wide.c_str());
-    const bool isProtected =
-        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    // A folder does not go this way, so it keeps its attribute.
+    const bool isProtected = attributes != INVALID_FILE_ATTRIBUTES &&
+                             !(attributes & FILE_ATTRIBUTE_DIRECTORY) &&
+                             (attributes & FILE_ATTRIBUTE_READONLY);
     if (force && isProtected) {
         SetFileAttributesW(wide.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
     }
@@ -103,6 +112,7 @@ void Files::Remove(std::string_view path, bool force) {
 }
 
 void Files::WriteText(std::string_view path, std::string_view bytes) {
+    const NoMediumBox quiet;
     WriteAll(OpenOutput(path, GENERIC_WRITE, CREATE_ALWAYS), bytes);
 }
 

@@ -132,16 +132,21 @@ std::string Folders::LongPath(std::string_view path) const {
 }
 
 void Folders::Remove(std::string_view path, bool force) {
+    const NoMediumBox quiet;
     const std::wstring wide = ToWide(path);
-    const DWORD attributes = GetFileAttributesW(wide.c_str());
-    const bool isProtected =
-        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
-    if (force && isProtected) {
-        SetFileAttributesW(wide.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
-    }
     if (RemoveDirectoryW(wide.c_str())) return;
-    const DWORD error = GetLastError();
-    if (force && isProtected) SetFileAttributesW(wide.c_str(), attributes);
+    DWORD error = GetLastError();
+    const DWORD attributes = GetFileAttributesW(wide.c_str());
+    const bool isProtected = attributes != INVALID_FILE_ATTRIBUTES &&
+                             (attributes & FILE_ATTRIBUTE_DIRECTORY) &&
+                             (attributes & FILE_ATTRIBUTE_READONLY);
+    // Taken only where it stands in the way, and given back where it was not that alone.
+    if (force && isProtected && error == ERROR_ACCESS_DENIED) {
+        SetFileAttributesW(wide.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+        if (RemoveDirectoryW(wide.c_str())) return;
+        error = GetLastError();
+        SetFileAttributesW(wide.c_str(), attributes);
+    }
     throw error == ERROR_DIRECTORY ? runtime::Failure(runtime::PermissionDenied) : FailureOf(error);
 }
 
