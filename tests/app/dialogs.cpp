@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 
 #include <functional>
+#include <map>
 
 #include "app/program.h"
 #include "toolkit/listbox.h"
@@ -136,16 +137,42 @@ TEST_CASE_FIXTURE(Dialogs,
     CHECK(form->ShownPointer() == toolkit::DefaultPointer);
 }
 
-TEST_CASE_FIXTURE(Dialogs, "the dialogs are there when nothing can be read") {
+TEST_CASE_FIXTURE(Dialogs, "the buttons of the dialogs say what they show") {
+    for (const auto& [button, caption] : std::map<const char*, const char*>{
+             {"cmdShowAllLoggedOnUsers", "Alle gerade am System angemeldeten Benutzer anzeigen"},
+             {"cmdInstalledSoftware", "Installierte Software"},
+             {"cmdVirtualDrive", "Virtuelle Laufwerke verwalten"}}) {
+        CHECK(form->Find<controls::chameleonButton>(button).Caption() == caption);
+    }
+}
+
+TEST_CASE_FIXTURE(Dialogs, "the dialogs are there and empty when nothing can be read") {
     for (const char* call : {"GetVersionExA", "GetSystemInfo", "GlobalMemoryStatusEx",
                              "GetLogicalDrives", "GetDeviceCaps", "RegOpenKeyExA",
                              "GetComputerNameA", "NetWkstaUserEnum", "FormatMessageA", "Start",
                              "SetCurrentDirectoryW", "GetSetting", "GetVolumeInformationA"}) {
         machine.faults.FailAll(call, 5);
     }
-    Open("cmdAbout", "frmAbout", [](toolkit::Form&) {});
-    Open("cmdSysInfo", "frmSystemInformation", [](toolkit::Form&) {});
-    Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [](toolkit::Form&) {});
-    Open("cmdInstalledSoftware", "frmInstalledSoftware", [](toolkit::Form&) {});
-    Open("cmdVirtualDrive", "frmVirtualDrive", [](toolkit::Form&) {});
+    Open("cmdAbout", "frmAbout", [](toolkit::Form& about) {
+        CHECK(about.Find<toolkit::Label>("lblVersion").Caption() == "v2.38");
+    });
+    Open("cmdSysInfo", "frmSystemInformation", [](toolkit::Form& information) {
+        const std::string& report = information.Find<toolkit::TextBox>("txtReport").Text();
+        CHECK(report.starts_with("Betriebssystem:\tnicht verfügbar\r\n"));
+        CHECK(report.find("\nLaufwerke:\tnicht verfügbar\r\n") != std::string::npos);
+    });
+    CHECK(machine.messages.Shown().empty());
+    Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [](toolkit::Form& users) {
+        CHECK(users.Find<toolkit::ListBox>("lstUsers").Items().empty());
+    });
+    CHECK(machine.messages.Shown().size() == 1);
+    Open("cmdInstalledSoftware", "frmInstalledSoftware", [](toolkit::Form& software) {
+        CHECK(software.Find<toolkit::ListView>("lvwSoftware").Count() == 0);
+        CHECK(software.Find<toolkit::Label>("lblFound").Caption() == "Gefunden: 0 Anwendungen");
+    });
+    Open("cmdVirtualDrive", "frmVirtualDrive", [](toolkit::Form& drives) {
+        CHECK(drives.Find<toolkit::ListView>("lstDrives").Count() == 0);
+        CHECK(drives.Find<toolkit::ComboBox>("cbodrives").Items().size() == 26);
+    });
+    CHECK(machine.messages.Shown().size() == 1);
 }

@@ -51,6 +51,7 @@ TEST_CASE_FIXTURE(Applying, "a window size that is no number ends the pass with 
         CHECK(program.Records() == 1);
         CHECK(program.LogHas("Number: 13\r\n\r\nProcedure: WriteRegistry\r\n"));
         CHECK(program.LogHas("Description: Typen unverträglich\r\n"));
+        CHECK(program.LogHas("Source: Quillmore\r\n"));
         CHECK(program.Titles() == std::vector<std::string>{"Fehler 13"});
         CHECK_FALSE(program.OfTcp("TcpWindowSize"));
         CHECK_FALSE(program.OfTcp("DefaultTTL"));
