@@ -16,6 +16,7 @@
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "toolkit/controls.h"
+#include "tweaks/cataloguekeys.h"
 #include "tweaks/networksets.h"
 
 namespace app {
@@ -30,8 +31,6 @@ constexpr char RawSwitch[] = "-RAW";
 // One more than the last page's number: the spare one passes the test and is then refused by the
 // tab control itself, so that the designed first page stays. On purpose.
 constexpr std::int16_t LastStoredTab = 8;
-
-constexpr char SystemKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
 
 bool WarningAccepted(const Settings& settings) {
     bool accepted = false;
@@ -100,8 +99,8 @@ void ShowRawNotice(const platform::Machine& machine) {
 void ShowServicePack(frmMain& form, const platform::Machine& machine) {
     auto& label = form.Find<toolkit::Label>("lblSP");
     const registry::Registry values(machine.registry, machine.locale);
-    if (values.RegValuePresent(registry::HKLM, SystemKey, "CSDVersion")) {
-        label.SetCaption(values.RegReadValue(registry::HKLM, SystemKey, "CSDVersion"));
+    if (values.RegValuePresent(registry::HKLM, tweaks::SystemKey, "CSDVersion")) {
+        label.SetCaption(values.RegReadValue(registry::HKLM, tweaks::SystemKey, "CSDVersion"));
     } else {
         label.SetVisible(false);
         form.Find<toolkit::Label>("lblSPLabel").SetVisible(false);

@@ -35,7 +35,7 @@ class Apply {
 
     toolkit::Form& mainForm_;
     controls::frmPassword& password_;
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     Parts parts_;
 };
 

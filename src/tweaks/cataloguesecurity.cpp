@@ -1,6 +1,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "tweaks/catalogue.h"
+#include "tweaks/cataloguekeys.h"
 #include "tweaks/steps.h"
 
 namespace tweaks {
@@ -9,17 +10,11 @@ namespace {
 using registry::HKCU;
 using registry::HKLM;
 
-constexpr char AdvancedKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced";
-constexpr char PoliciesKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
-constexpr char MemoryKey[] =
-    "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management";
-constexpr char WinlogonKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon";
-
 // The title alone decides, once its box is filled: Windows shows no message without one. So a text
 // without a title reads as off, and the next Apply wipes it.
 void ReadLogonMessage(const PassContext& pass, const Option& option) {
     const bool titled = !pass.form.Find<toolkit::TextBox>("txtWinLogOnC").Text().empty();
-    pass.form.Find<toolkit::CheckBox>(option.control).SetValue(titled ? 1 : 0);
+    SetCheckBox(pass, option.control, titled);
 }
 
 // chkSecureWindows and chk1RecycleBinDelete have no row: they act on click, and no pass looks at

@@ -1,6 +1,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "tweaks/catalogue.h"
+#include "tweaks/cataloguekeys.h"
 #include "tweaks/steps.h"
 
 namespace tweaks {
@@ -9,11 +10,7 @@ namespace {
 using registry::HKCU;
 using registry::HKLM;
 
-constexpr char MemoryKey[] =
-    "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management";
 constexpr char CdfsKey[] = "SYSTEM\\CurrentControlSet\\Control\\FileSystem\\CDFS";
-constexpr char WinlogonKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon";
-constexpr char SystemKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
 
 // Without the driver's key the box is shut, because its on side would make the key for a driver
 // that is not there; it is the only option that looks whether it makes sense on this machine.
@@ -101,8 +98,7 @@ constexpr Option Options[] = {
         .off = {Dword(1)},
     },
     // One value decides over four controls, by its presence: a stored "0" reads as on. The password
-    // is stored as it is,
-    // which is how Windows wants it for its automatic logon.
+    // is stored as it is, which is how Windows wants it for its automatic logon.
     Option{
         .control = "chkAutoLogin",
         .place = {HKLM, WinlogonKey, "AutoAdminLogon"},

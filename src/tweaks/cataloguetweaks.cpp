@@ -4,6 +4,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "tweaks/catalogue.h"
+#include "tweaks/cataloguekeys.h"
 #include "tweaks/steps.h"
 
 namespace tweaks {
@@ -13,8 +14,6 @@ using registry::HKCR;
 using registry::HKCU;
 using registry::HKLM;
 
-constexpr char AdvancedKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced";
-constexpr char PoliciesKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
 constexpr char DesktopKey[] = "Control Panel\\Desktop";
 // Read without and written with a backslash at the end.
 constexpr char EncodingKey[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Settings\\MP3Encoding";
@@ -25,13 +24,13 @@ constexpr char EncodingKeyToWrite[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Setting
 // it. The settings remember the opposite of the box: whether the library is registered.
 void WritePreviewLibrary(const PassContext& pass, const Option& option) {
     WriteByRow(pass, option);
-    const bool off = pass.form.Find<toolkit::CheckBox>(option.control).Value() == 1;
+    const bool previewOff = IsOn(pass, option.control);
     constexpr std::int32_t Hidden = 0;
-    pass.machine.processes.Start(off ? "regsvr32.exe %windir%\\system32\\shmedia.dll /u /s"
-                                     : "regsvr32.exe %windir%\\system32\\shmedia.dll /s",
+    pass.machine.processes.Start(previewOff ? "regsvr32.exe %windir%\\system32\\shmedia.dll /u /s"
+                                            : "regsvr32.exe %windir%\\system32\\shmedia.dll /s",
                                  Hidden);
     platform::Settings settings(pass.machine.settings);
-    settings.SaveSetting("VideoPrv", "Regged", off ? "false" : "true");
+    settings.SaveSetting("VideoPrv", "Regged", previewOff ? "false" : "true");
 }
 
 constexpr Option Options[] = {

@@ -1,6 +1,7 @@
 #include "tweaks/passes.h"
 
 #include "platform/locale.h"
+#include "runtime/mistake.h"
 #include "tweaks/catalogue.h"
 #include "tweaks/order.h"
 
@@ -21,7 +22,9 @@ void Passes::Walk(std::span<const std::string_view> order, OptionStep step) {
     form_.SetPointer(toolkit::Hourglass);
     const PassContext pass{form_, registry_, machine_.locale.Signs(), machine_};
     for (std::string_view name : order) {
-        if (const Option* option = FindOption(name)) step(pass, *option);
+        const Option* option = FindOption(name);
+        if (!option) throw runtime::Mistake("no option " + std::string(name));
+        step(pass, *option);
     }
     form_.SetPointer(toolkit::DefaultPointer);
 }

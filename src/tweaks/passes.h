@@ -11,7 +11,7 @@
 namespace tweaks {
 
 // The two passes over all options. They know no changed or unchanged option: every row runs on
-// every pass. Names of the order without a row are passed over.
+// every pass.
 //
 // A registry call that cannot be carried out is no failure. A Failure (a control's own event, a
 // text that is no number) passes out at once: all after that step stays undone, and the form's

@@ -14,33 +14,6 @@ const char* Or(const char* other, const char* own) {
     return other ? other : own;
 }
 
-bool HasText(const std::string& text, const Condition& condition) {
-    switch (condition.question) {
-        case Question::LowerEqualsText:
-            return runtime::ToLower(text) == condition.text;
-        case Question::UpperEqualsText:
-            return runtime::ToUpper(text) == condition.text;
-        case Question::NotEmpty:
-            return !text.empty();
-        default:
-            return text == condition.text;
-    }
-}
-
-// The text that cannot be read as a number, so an absent value too, equals none and exceeds all.
-bool HasNumber(const std::string& text, const Condition& condition,
-               const runtime::NumberSigns& signs) {
-    const auto number = runtime::ParseNumber(text, signs);
-    switch (condition.question) {
-        case Question::AtLeastNumber:
-            return !number || *number >= condition.number;
-        case Question::EmptyOrEqualsNumber:
-            return text.empty() || number == condition.number;
-        default:
-            return number == condition.number;
-    }
-}
-
 bool Holds(const PassContext& pass, const ValuePlace& place, const Condition& condition) {
     const auto present = [&] {
         return pass.registry.RegValuePresent(place.root, place.key, place.value);
@@ -48,19 +21,34 @@ bool Holds(const PassContext& pass, const ValuePlace& place, const Condition& co
     const auto text = [&] {
         return pass.registry.RegReadValue(place.root, place.key, place.value);
     };
+    const auto number = [&](const std::string& of) { return runtime::ParseNumber(of, pass.signs); };
     switch (condition.question) {
         case Question::Present:
             return present();
         case Question::PresentWithText:
-            return present() && HasText(text(), condition);
+            return present() && text() == condition.text;
         case Question::NotEmpty:
+            return !text().empty();
         case Question::EqualsText:
+            return text() == condition.text;
         case Question::LowerEqualsText:
+            return runtime::ToLower(text()) == condition.text;
         case Question::UpperEqualsText:
-            return HasText(text(), condition);
-        default:
-            return HasNumber(text(), condition, pass.signs);
+            return runtime::ToUpper(text()) == condition.text;
+        // The text that cannot be read as a number, so an absent value too, equals none and exceeds
+        // all.
+        case Question::EqualsNumber:
+            return number(text()) == condition.number;
+        case Question::AtLeastNumber: {
+            const auto found = number(text());
+            return !found || *found >= condition.number;
+        }
+        case Question::EmptyOrEqualsNumber: {
+            const std::string found = text();
+            return found.empty() || number(found) == condition.number;
+        }
     }
+    return false;
 }
 
 bool AllHold(const PassContext& pass, const ValuePlace& own, const Conditions& conditions) {
@@ -69,14 +57,6 @@ bool AllHold(const PassContext& pass, const ValuePlace& own, const Conditions& c
         all &= Holds(pass, {own.root, own.key, Or(condition.value, own.value)}, condition);
     }
     return all;
-}
-
-void SetCheckBox(const PassContext& pass, std::string_view name, bool on) {
-    pass.form.Find<toolkit::CheckBox>(name).SetValue(on ? 1 : 0);
-}
-
-bool IsOn(const PassContext& pass, std::string_view name) {
-    return pass.form.Find<toolkit::CheckBox>(name).Value() == 1;
 }
 
 std::string TextAt(const PassContext& pass, const ValuePlace& place) {
@@ -157,9 +137,10 @@ bool Allows(const PassContext& pass, const ValuePlace& own, Guard guard) {
             return pass.registry.RegKeyPresent(own.root, own.key);
         case Guard::KeyAbsent:
             return !pass.registry.RegKeyPresent(own.root, own.key);
-        default:
-            return true;
+        case Guard::None:
+            break;
     }
+    return true;
 }
 
 // Where the option is written; nothing when neither of its two keys is there.
@@ -172,6 +153,14 @@ std::optional<ValuePlace> PlaceToWrite(const PassContext& pass, const Option& op
 }
 
 }  // namespace
+
+bool IsOn(const PassContext& pass, std::string_view name) {
+    return pass.form.Find<toolkit::CheckBox>(name).Value() == 1;
+}
+
+void SetCheckBox(const PassContext& pass, std::string_view name, bool on) {
+    pass.form.Find<toolkit::CheckBox>(name).SetValue(on ? 1 : 0);
+}
 
 void ReadByRow(const PassContext& pass, const Option& option) {
     ValuePlace place = option.place;

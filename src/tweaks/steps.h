@@ -29,6 +29,10 @@ void ReadOption(const PassContext& pass, const Option& option);
 // Carries the control's state into the registry, whether or not it changed. A failure passes out.
 void WriteOption(const PassContext& pass, const Option& option);
 
+// A check box by its name.
+bool IsOn(const PassContext& pass, std::string_view name);
+void SetCheckBox(const PassContext& pass, std::string_view name, bool on);
+
 // The ordinary read and write alone, for a named step that needs them beside its own doing.
 void ReadByRow(const PassContext& pass, const Option& option);
 void WriteByRow(const PassContext& pass, const Option& option);
