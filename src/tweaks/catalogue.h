@@ -7,7 +7,7 @@
 
 namespace tweaks {
 
-// The options of one page, in the order of the form.
+// The options of one page. The passes have an order of their own.
 struct CataloguePage {
     // The caption of the page's tab.
     std::string_view tab;

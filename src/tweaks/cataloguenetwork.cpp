@@ -168,7 +168,7 @@ constexpr Option Options[] = {
     Option{
         .control = "txtIETitel",
         .place = {HKCU, IEKey, "Search Page"},
-        .always = {TextOf("txtIETitel")},
+        .always = {TextOfOwn()},
     },
     // For show only, on purpose: chkWindowsTour writes the value.
     Option{

@@ -18,72 +18,72 @@ constexpr Option Options[] = {
     Option{
         .control = "lblVerwaltung(0)",
         .place = {HKLM, FoldersKey, "Common Administrative Tools"},
-        .always = {TextOf("lblVerwaltung(0)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(1)",
         .place = {HKLM, FoldersKey, "Common AppData"},
-        .always = {TextOf("lblVerwaltung(1)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(2)",
         .place = {HKLM, FoldersKey, "Common Desktop"},
-        .always = {TextOf("lblVerwaltung(2)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(3)",
         .place = {HKLM, FoldersKey, "Common Documents"},
-        .always = {TextOf("lblVerwaltung(3)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(4)",
         .place = {HKLM, FoldersKey, "Common Favorites"},
-        .always = {TextOf("lblVerwaltung(4)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(5)",
         .place = {HKLM, FoldersKey, "Common Programs"},
-        .always = {TextOf("lblVerwaltung(5)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(6)",
         .place = {HKLM, FoldersKey, "Common Start Menu"},
-        .always = {TextOf("lblVerwaltung(6)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(7)",
         .place = {HKLM, FoldersKey, "Common Startup"},
-        .always = {TextOf("lblVerwaltung(7)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(8)",
         .place = {HKLM, FoldersKey, "Common Templates"},
-        .always = {TextOf("lblVerwaltung(8)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(9)",
         .place = {HKCU, FoldersKey, "My Music"},
-        .always = {TextOf("lblVerwaltung(9)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(10)",
         .place = {HKCU, FoldersKey, "My Pictures"},
-        .always = {TextOf("lblVerwaltung(10)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(11)",
         .place = {HKCU, FoldersKey, "My Video"},
-        .always = {TextOf("lblVerwaltung(11)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(12)",
         .place = {HKCU, FoldersKey, "Personal"},
-        .always = {TextOf("lblVerwaltung(12)")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "lblVerwaltung(13)",
         .place = {HKLM, WindowsKey, "ProgramFilesDir"},
-        .always = {TextOf("lblVerwaltung(13)")},
+        .always = {TextOfOwn()},
     },
 };
 

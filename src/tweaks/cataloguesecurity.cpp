@@ -150,14 +150,14 @@ constexpr Option Options[] = {
         .control = "txtWinLogOnT",
         .place = {HKLM, WinlogonKey, "LegalNoticeText"},
         .decidedBy = "chkWinLogOn",
-        .on = {TextOf("txtWinLogOnT")},
+        .on = {TextOfOwn()},
         .off = {Text("")},
     },
     Option{
         .control = "txtWinLogOnC",
         .place = {HKLM, WinlogonKey, "LegalNoticeCaption"},
         .decidedBy = "chkWinLogOn",
-        .on = {TextOf("txtWinLogOnC")},
+        .on = {TextOfOwn()},
         .off = {Text("")},
     },
     // A key that is there is left as it is, however incomplete.

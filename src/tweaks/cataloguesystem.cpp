@@ -15,8 +15,8 @@ constexpr char CdfsKey[] = "SYSTEM\\CurrentControlSet\\Control\\FileSystem\\CDFS
 // Without the driver's key the box is shut, because its on side would make the key for a driver
 // that is not there; it is the only option that looks whether it makes sense on this machine.
 void ReadAgp(const PassContext& pass, const Option& option) {
-    pass.form.FindControl(option.control)
-        ->SetEnabled(pass.registry.RegKeyPresent(option.place.root, option.place.key));
+    pass.form.Find<toolkit::CheckBox>(option.control)
+        .SetEnabled(pass.registry.RegKeyPresent(option.place.root, option.place.key));
     ReadByRow(pass, option);
 }
 
@@ -130,7 +130,7 @@ constexpr Option Options[] = {
     Option{
         .control = "txtStartmenu",
         .place = {HKCU, "Control Panel\\Desktop", "MenuShowDelay"},
-        .always = {TextOf("txtStartmenu")},
+        .always = {TextOfOwn()},
     },
     // Turned round against the value's name.
     Option{
@@ -146,7 +146,7 @@ constexpr Option Options[] = {
     Option{
         .control = "txtOSVersion",
         .place = {HKLM, SystemKey, "ProductName"},
-        .always = {TextOf("txtOSVersion")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "txtProductId",
@@ -155,22 +155,22 @@ constexpr Option Options[] = {
     Option{
         .control = "txtUserName",
         .place = {HKLM, SystemKey, "RegisteredOwner"},
-        .always = {TextOf("txtUserName")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "txtCompanyName",
         .place = {HKLM, SystemKey, "RegisteredOrganization"},
-        .always = {TextOf("txtCompanyName")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "txtWindowsVersion",
         .place = {HKLM, SystemKey, "CurrentVersion"},
-        .always = {TextOf("txtWindowsVersion")},
+        .always = {TextOfOwn()},
     },
     Option{
         .control = "txtOSBuild",
         .place = {HKLM, SystemKey, "CurrentBuildNumber"},
-        .always = {TextOf("txtOSBuild")},
+        .always = {TextOfOwn()},
     },
 };
 

@@ -1,10 +1,10 @@
 #include "platform/machine.h"
-#include "platform/processes.h"
 #include "platform/settings.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "tweaks/catalogue.h"
 #include "tweaks/cataloguekeys.h"
+#include "tweaks/registerlibrary.h"
 #include "tweaks/steps.h"
 
 namespace tweaks {
@@ -20,15 +20,12 @@ constexpr char EncodingKey[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Settings\\MP3E
 constexpr char EncodingKeyToWrite[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Settings\\MP3Encoding\\";
 
 // The only option that runs a command from the pass: the library is registered or unregistered
-// anew in every pass. The command goes out as it stands, %windir% included, and nobody waits for
-// it. The settings remember the opposite of the box: whether the library is registered.
+// anew in every pass. The settings remember the opposite of the box: whether the library is
+// registered.
 void WritePreviewLibrary(const PassContext& pass, const Option& option) {
     WriteByRow(pass, option);
     const bool previewOff = IsOn(pass, option.control);
-    constexpr std::int32_t Hidden = 0;
-    pass.machine.processes.Start(previewOff ? "regsvr32.exe %windir%\\system32\\shmedia.dll /u /s"
-                                            : "regsvr32.exe %windir%\\system32\\shmedia.dll /s",
-                                 Hidden);
+    RegisterLibrary(pass.machine.processes, "shmedia.dll", !previewOff);
     platform::Settings settings(pass.machine.settings);
     settings.SaveSetting("VideoPrv", "Regged", previewOff ? "false" : "true");
 }
@@ -69,7 +66,7 @@ constexpr Option Options[] = {
     Option{
         .control = "txtTimeOut",
         .place = {HKCU, DesktopKey, "HungAppTimeout"},
-        .always = {TextOf("txtTimeOut").IfNumeric("txtTimeOut")},
+        .always = {TextOfOwn().IfNumeric("txtTimeOut")},
     },
     // Off deletes the user's value, on purpose: the machine's value, once set, stays, and the
     // option keeps reading as on.

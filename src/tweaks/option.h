@@ -89,7 +89,7 @@ struct Step {
     Action action = Action::DeleteValue;
     std::int32_t number = 0;
     // The text to write; for WriteTextOf and WriteNumberOf the name of the control whose text it
-    // is.
+    // is, nullptr being the option's own.
     const char* text = nullptr;
 
     std::optional<registry::Root> root = std::nullopt;
@@ -135,6 +135,9 @@ constexpr Step Binary(const char* text) {
 }
 constexpr Step TextOf(const char* control) {
     return {.action = Action::WriteTextOf, .text = control};
+}
+constexpr Step TextOfOwn() {
+    return {.action = Action::WriteTextOf};
 }
 // The text converted to a number. A text that does not convert ends the pass with its Failure.
 constexpr Step NumberOf(const char* control) {

@@ -5,12 +5,12 @@
 #include "platform/locale.h"
 #include "platform/machine.h"
 #include "platform/messages.h"
-#include "platform/processes.h"
 #include "platform/settings.h"
 #include "registry/registry.h"
 #include "runtime/number.h"
 #include "toolkit/combobox.h"
 #include "toolkit/form.h"
+#include "tweaks/registerlibrary.h"
 #include "tweaks/sysocinf.h"
 
 namespace tweaks {
@@ -24,7 +24,6 @@ using toolkit::ComboBox;
 constexpr char RecycleBinKey[] =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"
     "{645FF040-5081-101B-9F08-00AA002F954E}";
-constexpr std::int32_t HiddenWindow = 0;
 
 // The bytes of both headers that do not belong to a packet's content.
 constexpr double HeaderBytes = 40;
@@ -41,13 +40,10 @@ void HideWinComponents(const CheckBox& box, const Machine& machine) {
     RewriteSysocInf(machine, show);
 }
 
-// The process gets "%windir%" as it stands, and nobody waits for it.
 void SecureWindows(const CheckBox& box, const Machine& machine) {
     const bool secure = box.Value() == 1;
     Remember(machine, "SecureWindows", "Regged", secure);
-    machine.processes.Start(secure ? "regsvr32.exe %windir%\\system32\\upnp.dll /u /s"
-                                   : "regsvr32.exe %windir%\\system32\\upnp.dll /s",
-                            HiddenWindow);
+    RegisterLibrary(machine.processes, "upnp.dll", !secure);
 }
 
 // A key that is there already gets no value. "(Standard)" is the name of an ordinary value here, on

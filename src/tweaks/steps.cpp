@@ -63,11 +63,14 @@ std::string TextAt(const PassContext& pass, const ValuePlace& place) {
     return pass.registry.RegReadValue(place.root, place.key, place.value);
 }
 
+ValuePlace PlaceOf(const Step& step, const ValuePlace& own) {
+    return {step.root.value_or(own.root), Or(step.key, own.key), Or(step.value, own.value)};
+}
+
 void ReadBoxesAlong(const PassContext& pass, const Option& option, const ValuePlace& own, bool on) {
     for (const Step& step : option.on) {
         if (step.action != Action::WriteTextOf) continue;
-        const ValuePlace place{own.root, own.key, Or(step.value, own.value)};
-        SetTextOfControl(pass.form, step.text, on ? TextAt(pass, place) : "");
+        SetTextOfControl(pass.form, step.text, on ? TextAt(pass, PlaceOf(step, own)) : "");
     }
 }
 
@@ -97,9 +100,12 @@ bool NumericTestPasses(const PassContext& pass, const Step& step) {
     return false;
 }
 
-void Carry(const PassContext& pass, const ValuePlace& place, const Step& step) {
-    const auto& [root, key, value] = place;
+void Carry(const PassContext& pass, const Option& option, const ValuePlace& own, const Step& step) {
+    const auto [root, key, value] = PlaceOf(step, own);
     registry::Registry& registry = pass.registry;
+    const auto textOfControl = [&] {
+        return TextOfControl(pass.form, step.text ? step.text : option.control);
+    };
     switch (step.action) {
         case Action::WriteDword:
             return registry.RegWriteDword(root, key, value, step.number);
@@ -108,11 +114,10 @@ void Carry(const PassContext& pass, const ValuePlace& place, const Step& step) {
         case Action::WriteBinary:
             return registry.RegWriteBinary(root, key, value, step.text);
         case Action::WriteTextOf:
-            return registry.RegWriteString(root, key, value, TextOfControl(pass.form, step.text));
+            return registry.RegWriteString(root, key, value, textOfControl());
         case Action::WriteNumberOf:
-            return registry.RegWriteDword(
-                root, key, value,
-                runtime::ToWholeNumber(TextOfControl(pass.form, step.text), pass.signs));
+            return registry.RegWriteDword(root, key, value,
+                                          runtime::ToWholeNumber(textOfControl(), pass.signs));
         case Action::DeleteValue:
             return registry.RegDeleteValueAt(root, key, value);
         case Action::DeleteKey:
@@ -120,12 +125,10 @@ void Carry(const PassContext& pass, const ValuePlace& place, const Step& step) {
     }
 }
 
-void CarryAll(const PassContext& pass, const ValuePlace& own, const Steps& steps) {
+void CarryAll(const PassContext& pass, const Option& option, const ValuePlace& own,
+              const Steps& steps) {
     for (const Step& step : steps) {
-        if (!NumericTestPasses(pass, step)) continue;
-        Carry(pass,
-              {step.root.value_or(own.root), Or(step.key, own.key), Or(step.value, own.value)},
-              step);
+        if (NumericTestPasses(pass, step)) Carry(pass, option, own, step);
     }
 }
 
@@ -173,19 +176,21 @@ void ReadByRow(const PassContext& pass, const Option& option) {
 void WriteByRow(const PassContext& pass, const Option& option) {
     const auto place = PlaceToWrite(pass, option);
     if (!place) return;
-    CarryAll(pass, *place, option.always);
+    CarryAll(pass, option, *place, option.always);
     if (!option.HasSides()) return;
     const bool on = IsOn(pass, option.decidedBy.empty() ? option.control : option.decidedBy);
     if (!Allows(pass, *place, on ? option.onGuard : option.offGuard)) return;
-    CarryAll(pass, *place, on ? option.on : option.off);
+    CarryAll(pass, option, *place, on ? option.on : option.off);
 }
 
 void ReadOption(const PassContext& pass, const Option& option) {
-    option.readStep ? option.readStep(pass, option) : ReadByRow(pass, option);
+    const NamedStep read = option.readStep ? option.readStep : ReadByRow;
+    read(pass, option);
 }
 
 void WriteOption(const PassContext& pass, const Option& option) {
-    option.writeStep ? option.writeStep(pass, option) : WriteByRow(pass, option);
+    const NamedStep write = option.writeStep ? option.writeStep : WriteByRow;
+    write(pass, option);
 }
 
 }  // namespace tweaks

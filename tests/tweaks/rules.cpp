@@ -114,11 +114,14 @@ TEST_CASE("every step has what its action needs") {
     CHECK(Violations([](const Option& option) {
               for (const Steps* steps : {&option.on, &option.off, &option.always}) {
                   for (const Step& step : *steps) {
+                      const bool ofControl = step.action == Action::WriteTextOf ||
+                                             step.action == Action::WriteNumberOf;
                       const bool needsText = step.action == Action::WriteText ||
                                              step.action == Action::WriteBinary ||
-                                             step.action == Action::WriteTextOf ||
-                                             step.action == Action::WriteNumberOf;
-                      if (needsText != (step.text != nullptr) || step.number < 0) return false;
+                                             (ofControl && option.IsCheckBox());
+                      const bool mayHaveText = needsText || ofControl;
+                      if (step.text ? !mayHaveText : needsText) return false;
+                      if (step.number < 0) return false;
                       if (step.message && !step.numericControl) return false;
                   }
               }
@@ -141,7 +144,7 @@ TEST_CASE_FIXTURE(Options, "every control named by a row is on the form, of the 
                   for (const Step& step : *steps) {
                       const bool named = step.action == Action::WriteTextOf ||
                                          step.action == Action::WriteNumberOf;
-                      if (named && !holdsText(step.text)) return false;
+                      if (named && step.text && !holdsText(step.text)) return false;
                       if (step.numericControl && !holdsText(step.numericControl)) return false;
                   }
               }

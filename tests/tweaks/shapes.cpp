@@ -121,6 +121,29 @@ TEST_CASE_FIXTURE(Shapes, "a step goes to its own root, key and value where it n
     CHECK(HasKey("L"));
 }
 
+TEST_CASE_FIXTURE(Shapes, "a box goes along with a check box wherever its step is written") {
+    const Option row{
+        .control = "chkBox",
+        .place = {HKCU, "K", "v"},
+        .onWhen = {Present()},
+        .on = {Text("1"), TextOf("txtText").Under(HKLM).In("L").To("w")},
+        .off = {DeleteValue()},
+    };
+    text.SetText("hin");
+    box.SetValue(1);
+    WriteOption(pass, row);
+    text.SetText("");
+    ReadOption(pass, row);
+    CHECK(text.Text() == "hin");
+}
+
+TEST_CASE_FIXTURE(Shapes, "a field's own text is written without naming the field again") {
+    const Option row{.control = "txtText", .place = {HKCU, "K", "v"}, .always = {TextOfOwn()}};
+    text.SetText("selbst");
+    WriteOption(pass, row);
+    CHECK(Of("K", "v") == BareTextValue("selbst"));
+}
+
 TEST_CASE_FIXTURE(Shapes, "each side has its own guard on the option's own place") {
     const Option row{
         .control = "chkBox",

@@ -55,7 +55,7 @@ std::string NumericTestOf(const Step& step, const Option& option) {
 }
 
 std::string SourceOf(const Step& step, std::string_view control) {
-    return step.text == control ? "the box" : step.text;
+    return !step.text || step.text == control ? "the box" : step.text;
 }
 
 // In the line of the given control.
