@@ -36,13 +36,17 @@ Box MemoryGroup(Form& form) {
                          });
 }
 
+// The box for AGP is shut where there is no driver, and then hears no mouse: the frame tells why.
 Box FixesGroup(Form& form) {
-    return CheckBoxGroup(
+    Box group = CheckBoxGroup(
         form, {"fraSystemFixes", "System Fixes"},
         {
             {"chkEnableAGP4x", "AGP 4x Modus bei NVIDIA Grafikkarten aktiviert"},
             {"chkFixAthlonPCIAGP", "Problem mit Athlon Prozessoren und AGP Karten beheben"},
         });
+    form.FindControl("fraSystemFixes")
+        ->SetToolTip("AGP 4x ist nur wählbar, wenn ein NVIDIA-Treiber (nv4) installiert ist.");
+    return group;
 }
 
 // The slider leads; the box follows.
@@ -101,12 +105,13 @@ Box AutoLoginGroup(Form& form) {
 Box SystemFactsGroup(Form& form) {
     auto& group = form.Add<toolkit::Frame>("fraOSVersion", "OS Information");
     std::vector<Box> cells;
-    const auto add = [&](Named label, const char* box) {
+    const auto add = [&](Named label, const char* box, TextBoxStyle style = {}) {
         cells.push_back(LabelOn(form, label));
-        cells.push_back(Stretch(TextBoxOn(form, box)));
+        cells.push_back(Stretch(TextBoxOn(form, box, style)));
     };
     add({"lblOSName", "OS Name"}, "txtOSVersion");
-    add({"Label3", "ProductID"}, "txtProductId");
+    // Never written, so nobody is let type there in vain.
+    add({"Label3", "ProductID"}, "txtProductId", {.readOnly = true});
     add({"Label4", "Reg. User"}, "txtUserName");
     add({"Label5", "Reg. Firma"}, "txtCompanyName");
 

@@ -94,6 +94,21 @@ TEST_CASE_FIXTURE(NetworkPage, "the page DFÜ carries its captions") {
     }
 }
 
+TEST_CASE_FIXTURE(NetworkPage, "each control of the page DFÜ stands in its own group") {
+    CHECK(GroupsOf(form) ==
+          "- Label7 Line3D(Label7) cmdStandardDfue cmdOptimalDfue\n"
+          "Frame2: lblMTU cboMTU lblRWIN txtRWIN lblTTL txtTTL\n"
+          "fraHTTPConnections: lblHTTP10 cboHTTP10 lblHTTP11 cboHTTP11\n"
+          "fraThreads: chkEnableNetworkProcessor chkDNSSpeed chkNetworkSpeed chkTCPTuning "
+          "chkNetworkTasks\n"
+          "fraADvanced: chkSACK chkAutoMTU chkMUTBH chkIPForwarding\n"
+          "fraIESpecials: chkPWEntrys chkIEWinPos Label8 txtIETitel chkScriptDebugging "
+          "chkNotifyDownloadReady\n"
+          "fraIE6: chkIEExtensions txtExtensions cmdExtensionDefault chkOutlookTray\n"
+          "Frame3: optOptimalDFUESets(0) optOptimalDFUESets(1) optOptimalDFUESets(2) "
+          "optOptimalDFUESets(3) optOptimalDFUESets(4)\n");
+}
+
 TEST_CASE_FIXTURE(NetworkPage, "the page DFÜ fits its area and no two controls overlap") {
     CheckFits(form);
 }
@@ -206,6 +221,11 @@ TEST_CASE_FIXTURE(NetworkPage, "a text that is no number marks nothing and fails
 
 TEST_CASE_FIXTURE(NetworkPage, "where no type fits, the selection stays as it is") {
     Type(2).SetValue(true);
+    SUBCASE("for want of numbers") {}
+    SUBCASE("for numbers of no type") {
+        ShowDsl();
+        tweaks::SetTextOfControl(form, "txtTTL", "65");
+    }
     CHECK(Marked() == 2);
 }
 

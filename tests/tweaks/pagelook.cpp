@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
+
 #include "runtime/text.h"
 #include "toolkit/controls.h"
 
@@ -70,6 +72,26 @@ void CheckAtBottomRight(const toolkit::Form& form, std::string_view lastButton) 
         CHECK(one.area.Bottom() == PageArea.height);
     }
     CHECK(found == 1);
+}
+
+std::string GroupsOf(const toolkit::Form& form) {
+    const auto placed = Placed(form);
+    std::string free = "-";
+    std::string groups;
+    for (const Placement& frame : placed) {
+        if (!IsFrame(frame)) continue;
+        groups += '\n' + frame.control->Name() + ':';
+        for (const Placement& one : placed) {
+            if (!IsFrame(one) && Overlap(frame.area, one.area)) groups += ' ' + one.control->Name();
+        }
+    }
+    for (const Placement& one : placed) {
+        const auto around = [&](const Placement& frame) {
+            return IsFrame(frame) && Overlap(frame.area, one.area);
+        };
+        if (std::none_of(placed.begin(), placed.end(), around)) free += ' ' + one.control->Name();
+    }
+    return free + groups + '\n';
 }
 
 }  // namespace tweak_tests

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "toolkit/form.h"
 #include "toolkit/layout.h"
 
@@ -19,5 +21,9 @@ inline constexpr toolkit::Rect PageArea{0, 0, 630, 390};
 void CheckFits(const toolkit::Form& form);
 void CheckCaptionsHaveRoom(const toolkit::Form& form);
 void CheckAtBottomRight(const toolkit::Form& form, std::string_view lastButton);
+
+// Which controls stand in which frame of the page, by their areas: a line for each frame, the
+// free-standing ones first.
+std::string GroupsOf(const toolkit::Form& form);
 
 }  // namespace tweak_tests

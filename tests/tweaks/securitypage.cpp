@@ -59,6 +59,17 @@ TEST_CASE_FIXTURE(SecurityPage, "the page Sicherheit carries its captions") {
     }
 }
 
+TEST_CASE_FIXTURE(SecurityPage, "each control of the page Sicherheit stands in its own group") {
+    CHECK(GroupsOf(form) ==
+          "- lblMisc Line3D(lblMisc) cmdDefaultMisc cmdOptimalMisc\n"
+          "fraMisc: chkRemoveLastDocsFolder chkShowALLFiles chkHideComputer chkWatsonIE "
+          "chkWatsonXP chkWindowsDesktop chkErrorReporting chkClearRecentDocs "
+          "chkWindowsUpdate chkSecureWindows chkLogOnAdmin chkDisableTM "
+          "chk1RecycleBinDelete chkNTLogin chkPageFileDelete chkDelegateFolders\n"
+          "fraWinLogOn: chkWinLogOn lblWinLogOn txtWinLogOnT lblWinLogoOnC txtWinLogOnC\n"
+          "fraDatensicherheit: chkDatensicherheit(1) chkDatensicherheit(2)\n");
+}
+
 TEST_CASE_FIXTURE(SecurityPage, "the page Sicherheit fits its area and no two controls overlap") {
     CheckFits(form);
 }

@@ -100,6 +100,36 @@ TEST_CASE_FIXTURE(SystemPage, "the password is masked and the version boxes have
     }
 }
 
+TEST_CASE_FIXTURE(SystemPage, "each control of the page System stands in its own group") {
+    CHECK(GroupsOf(form) ==
+          "- lblTuning Line3D(lblTuning) chkLastAccessTimestamp cmdFreeMemory cmdNormal "
+          "cmdOptimal\n"
+          "fraMemory: chkmemorymanagement chkLargeSystemCache chkBootOptimizeFunction "
+          "chkSecondLevelDataCache chkBoostLoading chkCDFSTune chkFastServices "
+          "chkUltraDMA66 chkMFTTuning\n"
+          "fraSystemFixes: chkEnableAGP4x chkFixAthlonPCIAGP\n"
+          "fraTaskBar: Level txtLevelValue chkIcons\n"
+          "fraAutoLogin: chkAutoLogin lblALName txtALUserName lblALPassword txtALPassword "
+          "lblALDomain txtALDomain\n"
+          "Frame7: sldStartmenu txtStartmenu\n"
+          "fraOSVersion: lblOSName txtOSVersion Label3 txtProductId Label4 txtUserName "
+          "Label5 txtCompanyName lblOSVersion txtWindowsVersion lblBuild txtOSBuild "
+          "lblSPLabel lblSP\n");
+}
+
+TEST_CASE_FIXTURE(SystemPage, "of the boxes of system facts the product's number alone is shut") {
+    for (const char* name : {"txtOSVersion", "txtProductId", "txtUserName", "txtCompanyName",
+                             "txtWindowsVersion", "txtOSBuild"}) {
+        CAPTURE(name);
+        CHECK(Box(name).Style().readOnly == (name == std::string("txtProductId")));
+    }
+}
+
+TEST_CASE_FIXTURE(SystemPage, "the frame of the graphics box tells why that may be shut") {
+    CHECK(form.FindControl("fraSystemFixes")->ToolTip() ==
+          "AGP 4x ist nur wählbar, wenn ein NVIDIA-Treiber (nv4) installiert ist.");
+}
+
 TEST_CASE_FIXTURE(SystemPage, "the page System fits its area and no two controls overlap") {
     CheckFits(form);
 }

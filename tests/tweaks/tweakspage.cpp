@@ -45,6 +45,18 @@ TEST_CASE_FIXTURE(TweaksPage, "the page Tweaks carries its captions") {
     }
 }
 
+TEST_CASE_FIXTURE(TweaksPage, "each control of the page Tweaks stands in its own group") {
+    CHECK(GroupsOf(form) ==
+          "- lblWindows2 Line3D(lblWindows2) cmdNormalWindows2 cmdOptimalWindows2\n"
+          "Frame1: chkSHMediaDLL chkUnloadDll chkWinAnimate chkNeroBurnSpeed Label9 "
+          "txtTimeOut chkEncryptionContext chkOSVersionOnDesktop chkOldSearchAssistent "
+          "chkBalloonTipps chkCDAutoPlay chkDescriptionPopups chkDisableThumbnails "
+          "chkBSODAutostart chkImagePreview chkShortCutInk chkSystemRestore "
+          "chkNoSpaceCheck chkTaskBarGlooming chkSystemSpeaker chkMP3BitRate "
+          "chkHideWinComponents chkAutoEndTasks chkShowAdminToolsInStartMenue "
+          "chkWindowsTour chkCascadeExplorer chkDOSComp chkIconCache\n");
+}
+
 TEST_CASE_FIXTURE(TweaksPage, "the page Tweaks fits its area and no two controls overlap") {
     CheckFits(form);
 }
