@@ -2,6 +2,7 @@
 
 #include "runtime/failure.h"
 #include "tweaks/catalogue.h"
+#include "tweaks/golden.h"
 #include "tweaks/pagefixture.h"
 
 using namespace tweak_tests;
@@ -173,9 +174,38 @@ TEST_CASE_FIXTURE(Options, "a second write pass makes the same calls as the firs
     CHECK(names(machine.journal.Text()) == names(second));
 }
 
-TEST_CASE_FIXTURE(Options, "a pass leaves no key of a write open") {
-    passes.Write();
-    CHECK(machine.registry.OpenHandles() == 0);
+namespace {
+
+// A write pass with all check boxes in that state.
+void WriteAll(Options& options, int state) {
+    options.FillNumbers();
+    for (const std::string& name : GoldenCheckBoxes()) options.form.Check(name).SetValue(state);
+    options.passes.Write();
+}
+
+}  // namespace
+
+TEST_CASE("a pass on an empty registry leaves no key open") {
+    for (int state : {0, 1}) {
+        Options options;
+        WriteAll(options, state);
+        CHECK(options.machine.registry.OpenHandles() == 0);
+    }
+}
+
+// Off asks for the keys of the graphics driver, the shared folders, the tasks of the network and
+// the menu entry, on for the value of the disk check and the keys of folders and tasks; both ask
+// for the two keys of an Outlook.
+TEST_CASE("a pass leaves one key open for each thing that it asked for and found, no other") {
+    for (const auto& [state, open] : {std::pair{0, 4 + 2}, std::pair{1, 3 + 2}}) {
+        CAPTURE(state);
+        Options options;
+        for (const Fact& fact : GoldenFacts()) {
+            options.machine.registry.Put(fact.Root(), fact.key, fact.value, TextValue("1"));
+        }
+        WriteAll(options, state);
+        CHECK(options.machine.registry.OpenHandles() == open);
+    }
 }
 
 TEST_CASE_FIXTURE(Options, "without the right to write the machine's keys a pass says nothing") {
