@@ -50,6 +50,20 @@ struct Connected : Program {
 
 }  // namespace
 
+TEST_CASE("a connection type and a time source are chosen beside each other") {
+    Connected program;
+    REQUIRE(program.Start());
+    const auto option = [&](const char* name) -> toolkit::OptionButton& {
+        return program.form->Find<toolkit::OptionButton>(name);
+    };
+    option("optSynServer").SetValue(true);
+    option("optOptimalDFUESets(2)").SetValue(true);
+    CHECK(option("optSynServer").Value());
+    option("optAtomUhr").SetValue(true);
+    CHECK(option("optOptimalDFUESets(2)").Value());
+    CHECK_FALSE(option("optSynServer").Value());
+}
+
 TEST_CASE("the connection type whose values the registry holds is selected at the start") {
     const std::pair<int, NetworkValues> types[] = {{1, {576, 2144, 128, 4, 2, 0, 1, 1}},
                                                    {2, {1472, 11680, 64, 8, 6, 0, 1, 1}},
