@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "tweaks/catalogue.h"
+#include "tweaks/golden.h"
 #include "tweaks/pagefixture.h"
 
 using namespace tweak_tests;
@@ -87,25 +88,6 @@ bool Writes(const std::string& control, bool on) {
     return std::any_of(steps.begin(), steps.end(), [](const tweaks::Step& step) {
         return step.action != tweaks::Action::DeleteValue;
     });
-}
-
-// The check boxes that do not show what Windows does where their value is absent, and what they
-// show.
-std::vector<std::pair<std::string, bool>> ReadingOtherwiseThanWindows() {
-    // A key that Windows itself makes is not found by these.
-    std::vector<std::pair<std::string, bool>> boxes = {
-        {"chkImagePreview", false}, {"chkDelegateFolders", true}, {"chkNetworkTasks", true}};
-    Options options;
-    options.passes.Read();
-    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
-        for (const tweaks::Option& option : page.options) {
-            if (!option.HasConditions()) continue;
-            const bool shown = options.State(option.control) == 1;
-            const bool windows = option.windowsDefault == tweaks::State::On;
-            if (shown != windows) boxes.emplace_back(option.control, shown);
-        }
-    }
-    return boxes;
 }
 
 }  // namespace
