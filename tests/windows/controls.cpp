@@ -73,6 +73,68 @@ TEST_CASE("one option button of a group is selected, and the tabulator stops at 
     CHECK(SendMessageW(desk.Find(form, "opt(1)"), BM_GETCHECK, 0, 0) == BST_UNCHECKED);
 }
 
+namespace {
+
+// Buttons that tell the arrival of the focus as a click, as those of Windows XP do.
+class TellingButtons {
+  public:
+    TellingButtons()
+        : any_(CreateWindowW(L"BUTTON", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr,
+                             nullptr)) {
+        before_ = reinterpret_cast<WNDPROC>(
+            SetClassLongW(any_, GCL_WNDPROC, reinterpret_cast<LONG>(Procedure)));
+    }
+    ~TellingButtons() {
+        SetClassLongW(any_, GCL_WNDPROC, reinterpret_cast<LONG>(before_));
+        DestroyWindow(any_);
+    }
+    TellingButtons(const TellingButtons&) = delete;
+    TellingButtons& operator=(const TellingButtons&) = delete;
+
+    static inline int told = 0;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        const LRESULT result = CallWindowProcW(before_, window, message, wParam, lParam);
+        if (message != WM_SETFOCUS) return result;
+        ++told;
+        SendMessageW(GetParent(window), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(window));
+        return result;
+    }
+
+    HWND any_;
+    static inline WNDPROC before_ = nullptr;
+};
+
+}  // namespace
+
+TEST_CASE("an option button is chosen by a press or an arrow key, not by the focus that comes") {
+    const TellingButtons telling;
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& text = form.Add<toolkit::TextBox>("txt");
+    auto& first = form.Add<toolkit::OptionButton>("opt(0)", "Erste", 1);
+    auto& second = form.Add<toolkit::OptionButton>("opt(1)", "Zweite", 1);
+    form.SetLayout(toolkit::Column({Leaf(text), Leaf(first), Leaf(second)}));
+    form.Show();
+    SetFocus(desk.Find(form, "txt"));
+    const int before = TellingButtons::told;
+    SetFocus(desk.Find(form, "opt(0)"));
+    REQUIRE(GetFocus() == desk.Find(form, "opt(0)"));
+    CHECK(TellingButtons::told == before + 1);
+    CHECK_FALSE(first.Value());
+    CHECK(SendMessageW(desk.Find(form, "opt(0)"), BM_GETCHECK, 0, 0) == BST_UNCHECKED);
+    PostMessageW(desk.Find(form, "opt(0)"), WM_KEYDOWN, VK_SPACE, 0);
+    PostMessageW(desk.Find(form, "opt(0)"), WM_KEYUP, VK_SPACE, 0);
+    ServeQueue();
+    CHECK(first.Value());
+    PostMessageW(desk.Find(form, "opt(0)"), WM_KEYDOWN, VK_DOWN, 0);
+    desk.host.DoEvents();
+    CHECK(second.Value());
+    CHECK(GetFocus() == desk.Find(form, "opt(1)"));
+}
+
 TEST_CASE("what is typed reaches the text box, and the field shows what the box made of it") {
     Desk desk;
     TestForm form(desk.host, "frmMain");

@@ -1,8 +1,18 @@
 #include "platform/win32/windows/buttonwindows.h"
 
+#include "runtime/temporarily.h"
 #include "toolkit/form.h"
 
 namespace platform::win32 {
+
+namespace {
+
+bool ArrowIsDown() {
+    return GetKeyState(VK_LEFT) < 0 || GetKeyState(VK_UP) < 0 || GetKeyState(VK_RIGHT) < 0 ||
+           GetKeyState(VK_DOWN) < 0;
+}
+
+}  // namespace
 
 // The native box never changes by itself: it shows what the control holds, also when an event has
 // refused the click or failed.
@@ -22,6 +32,19 @@ void CheckBoxWindow::Notified(UINT code) {
 
 ControlWindow::Recipe OptionButtonWindow::Describe() const {
     return {L"BUTTON", BS_AUTORADIOBUTTON};
+}
+
+void OptionButtonWindow::Prepare() {
+    focus_.Watch(Window(), [this](HookedMessage& hooked) {
+        const auto alive = shared_from_this();
+        const runtime::Temporarily comes(focusComes_, hooked.message == WM_SETFOCUS);
+        return hooked.Pass();
+    });
+}
+
+void OptionButtonWindow::Detach() {
+    focus_.Leave();
+    ControlWindow::Detach();
 }
 
 template <typename Action>
@@ -46,11 +69,12 @@ void OptionButtonWindow::ShowValue() {
     });
 }
 
-// The system tells the arrival of the focus as a click too. With the arrow keys that is the choice
-// itself, but walking past with the tabulator must not choose.
+// The system tells the arrival of the focus as a click too. With the arrow keys that may be the
+// choice itself, but walking past with the tabulator must not choose, nor coming back to the
+// window.
 void OptionButtonWindow::Notified(UINT code) {
     if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
-    const bool chosen = control_.Enabled() && GetKeyState(VK_TAB) >= 0;
+    const bool chosen = control_.Enabled() && (!focusComes_ || ArrowIsDown());
     if (chosen) Guard([this] { control_.SetValue(true); });
     if (Window()) ForGroup([](OptionButtonWindow& member) { member.ShowValue(); });
 }

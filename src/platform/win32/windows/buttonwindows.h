@@ -2,6 +2,7 @@
 
 #include "platform/win32/windows/controlwindow.h"
 #include "platform/win32/windows/listeningwindow.h"
+#include "platform/win32/windows/messagehook.h"
 #include "toolkit/controls.h"
 
 // The standard window class BUTTON in its three roles.
@@ -28,9 +29,11 @@ class OptionButtonWindow final : public ControlWindow {
         : ControlWindow(control, surroundings), control_(control) {}
 
     void Notified(UINT code) override;
+    void Detach() override;
 
   protected:
     Recipe Describe() const override;
+    void Prepare() override;
     void ShowValue() override;
 
   private:
@@ -38,6 +41,8 @@ class OptionButtonWindow final : public ControlWindow {
     void ForGroup(Action action) const;
 
     toolkit::OptionButton& control_;
+    MessageHook focus_;
+    bool focusComes_ = false;
 };
 
 class FrameWindow final : public ListeningWindow {
