@@ -29,13 +29,15 @@ class Files {
     // A handle that is not open is passed over.
     virtual void Close(Handle file) = 0;
 
-    // The whole file, opened for input meanwhile. Throws what OpenForReading throws, and the disk's
-    // own failures.
+    // The whole file. Others may read, write and delete it meanwhile, so that only who has the file
+    // to himself refuses it. Throws what OpenForReading throws for the rest, and the disk's own
+    // failures.
     virtual std::string Read(std::string_view path) = 0;
 
     // The file system object's DeleteFile. A file with the read-only attribute goes with `force`
     // only. Throws Failure FileNotFound, PathNotFound, PermissionDenied (also for a file that
-    // somebody holds open), or InvalidProcedureCall.
+    // somebody has open, whatever he lets others do), or InvalidProcedureCall; the file stays as it
+    // was then.
     virtual void Remove(std::string_view path, bool force) = 0;
 
     // The file system object's OpenTextFile for writing, 8-bit text, with one Write: what was there

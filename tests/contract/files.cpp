@@ -173,6 +173,40 @@ TEST_CASE_FIXTURE(Fixture, "reading a whole file refuses as opening it for readi
     CHECK(files.Read(path) == "x");
 }
 
+TEST_CASE_FIXTURE(Fixture, "a file that others use and share is read whole, but not for itself") {
+    const std::string path = machine.FilePath("shared.inf");
+    Append(path, "x");
+    machine.WithShared(path, [&] {
+        CHECK(files.Read(path) == "x");
+        CHECK(NumberOf([&] { files.OpenForReading(path); }) == runtime::PermissionDenied);
+    });
+    CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a file that others use and share is not removed, now or later") {
+    const std::string path = machine.FilePath("shared.inf");
+    Append(path, "x");
+    machine.WithShared(path, [&] {
+        CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
+    });
+    CHECK(machine.FileContent(path) == "x");
+    files.Remove(path, false);
+    CHECK(machine.FileContent(path) == std::nullopt);
+}
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a read-only file that is not removed with force either stays read-only") {
+    const std::string path = machine.FilePath("shared.inf");
+    Append(path, "x");
+    machine.WithShared(path, [&] {
+        machine.Protect(path);
+        CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
+    });
+    CHECK(NumberOf([&] { files.Remove(path, false); }) == runtime::PermissionDenied);
+    CHECK(machine.FileContent(path) == "x");
+    files.Remove(path, true);
+}
+
 TEST_CASE_FIXTURE(Fixture, "a file is removed, a read-only one with force only") {
     const std::string path = machine.FilePath("gone.inf");
     Append(path, "x");

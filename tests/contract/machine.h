@@ -91,6 +91,8 @@ class TestMachine {
     void SetAttributes(std::string_view path, std::uint32_t attributes);
     // A junction or symbolic link at the path to that folder.
     void MakeLink(std::string_view path, std::string_view target);
+    // While the action runs, somebody else uses the file in every way and lets others do the same.
+    void WithShared(std::string_view path, const std::function<void()>& action);
     // While the action runs, nobody else may read the folder.
     void WithUnreadable(std::string_view path, const std::function<void()>& action);
 

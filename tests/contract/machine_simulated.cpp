@@ -91,6 +91,12 @@ void TestMachine::MakeLink(std::string_view path, std::string_view target) {
     inside_->machine.disk.MakeLink(path, target);
 }
 
+void TestMachine::WithShared(std::string_view path, const std::function<void()>& action) {
+    inside_->machine.disk.At(path).shared = true;
+    action();
+    inside_->machine.disk.At(path).shared = false;
+}
+
 void TestMachine::WithUnreadable(std::string_view path, const std::function<void()>& action) {
     bool& unreadable = inside_->machine.disk.At(path).unreadable;
     unreadable = true;

@@ -277,6 +277,15 @@ void TestMachine::MakeLink(std::string_view path, std::string_view target) {
             [&] { return AttributesOf(link) != INVALID_FILE_ATTRIBUTES; });
 }
 
+void TestMachine::WithShared(std::string_view path, const std::function<void()>& action) {
+    const win32::FileHandle shared(
+        CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE,
+                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                    0, nullptr));
+    if (!shared) throw std::logic_error("no file to share");
+    action();
+}
+
 void TestMachine::WithUnreadable(std::string_view path, const std::function<void()>& action) {
     const win32::FileHandle held(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ, 0, nullptr,
                                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));

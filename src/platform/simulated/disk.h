@@ -24,6 +24,8 @@ struct DiskNode {
     std::string target;
     // Another program has the file or folder open and shares it with nobody.
     bool held = false;
+    // Another program uses the file in every way and shares it with everybody.
+    bool shared = false;
     // The user may not list the folder.
     bool unreadable = false;
     // The user may not write to, delete, or make the files of the folder.

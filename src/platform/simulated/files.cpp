@@ -55,7 +55,7 @@ Files::Handle Files::OpenForAppend(std::string_view path) {
 Files::Handle Files::OpenForReading(std::string_view path) {
     auto line = journal_.Note([&] { return "OpenForReading " + Quoted(path); });
     PassOrThrow(journal_, faults_, line, "OpenForReading", path);
-    open_[next_] = {Readable(line, path).Path(), false};
+    open_[next_] = {Readable(line, path, true).Path(), false};
     journal_.Finish(line, [&] { return "#" + std::to_string(next_); });
     return next_++;
 }
@@ -84,7 +84,7 @@ void Files::Close(Handle file) {
 std::string Files::Read(std::string_view path) {
     auto line = journal_.Note([&] { return "ReadFile " + Quoted(path); });
     PassOrThrow(journal_, faults_, line, "ReadFile", path);
-    const std::string& content = Readable(line, path).content;
+    const std::string& content = Readable(line, path, false).content;
     journal_.Finish(line, [&] { return std::to_string(content.size()) + " bytes"; });
     return content;
 }
@@ -111,7 +111,7 @@ void Files::WriteText(std::string_view path, std::string_view bytes) {
     Writable(line, path).content = bytes;
 }
 
-const DiskNode& Files::Readable(Journal::Place line, std::string_view path) const {
+const DiskNode& Files::Readable(Journal::Place line, std::string_view path, bool alone) const {
     const DiskNode* node = disk_.Find(path);
     if (IsFolder(node)) ThrowFault(journal_, line, runtime::PathFileAccess);
     if (!IsFolder(disk_.Find(DirectoryOf(path)))) ThrowFault(journal_, line, runtime::PathNotFound);
@@ -121,7 +121,8 @@ const DiskNode& Files::Readable(Journal::Place line, std::string_view path) cons
     const bool isRead = std::any_of(open_.begin(), open_.end(), [&](const auto& entry) {
         return entry.second.path == place && !entry.second.forWriting;
     });
-    if (isRead || node->held) ThrowFault(journal_, line, runtime::PermissionDenied);
+    if (isRead || node->held || (alone && node->shared))
+        ThrowFault(journal_, line, runtime::PermissionDenied);
     return *node;
 }
 
@@ -136,7 +137,7 @@ DiskNode& Files::Writable(Journal::Place line, std::string_view path) {
 }
 
 bool Files::IsHeld(const DiskNode& node) const {
-    return node.held || node.parent->unwritable || IsOpen(node);
+    return node.held || node.shared || node.parent->unwritable || IsOpen(node);
 }
 
 bool Files::IsOpen(const DiskNode& node) const {

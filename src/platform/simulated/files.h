@@ -54,8 +54,9 @@ class Files final : public platform::Files {
 
     // Here.
     bool IsOpen(const DiskNode& node) const;
-    // A file that can be opened for input; throws for any other.
-    const DiskNode& Readable(Journal::Place line, std::string_view path) const;
+    // A file that can be opened for input, with or without others who read it; throws for any
+    // other.
+    const DiskNode& Readable(Journal::Place line, std::string_view path, bool alone) const;
     // Whether the file may neither be written nor deleted, force or not.
     bool IsHeld(const DiskNode& node) const;
     // For output: the file, which is made when it is not there.

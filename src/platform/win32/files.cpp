@@ -35,10 +35,10 @@ FileHandle OpenOutput(std::string_view path, DWORD access, DWORD disposition) {
     throw FailureOf(error == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : error);
 }
 
-// Others may write the file meanwhile, but not read it.
-FileHandle OpenInput(std::string_view path) {
-    FileHandle file(CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_WRITE, nullptr,
-                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+// `sharing` is what others may do with the file meanwhile.
+FileHandle OpenInput(std::string_view path, DWORD sharing) {
+    FileHandle file(CreateFileW(ToWide(path).c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
     if (file) return file;
     const DWORD error = GetLastError();
     // Only here is a missing right told apart from a file that is in use.
@@ -63,7 +63,7 @@ Files::Handle Files::OpenForAppend(std::string_view path) {
 
 Files::Handle Files::OpenForReading(std::string_view path) {
     const NoMediumBox quiet;
-    open_.emplace(next_, OpenInput(path));
+    open_.emplace(next_, OpenInput(path, FILE_SHARE_WRITE));
     return next_++;
 }
 
@@ -81,7 +81,7 @@ void Files::Close(Handle file) {
 
 std::string Files::Read(std::string_view path) {
     const NoMediumBox quiet;
-    const FileHandle file = OpenInput(path);
+    const FileHandle file = OpenInput(path, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
     std::string content;
     char piece[16 * 1024];
     DWORD length = 0;
@@ -105,7 +105,11 @@ void Files::Remove(std::string_view path, bool force) {
     if (force && isProtected) {
         SetFileAttributesW(wide.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
     }
-    if (DeleteFileW(wide.c_str())) return;
+    // The system would delete a file that somebody shares only when he closes it, and give its name
+    // away no sooner.
+    const FileHandle alone(CreateFileW(wide.c_str(), DELETE, FILE_SHARE_DELETE, nullptr,
+                                       OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (alone && DeleteFileW(wide.c_str())) return;
     const DWORD error = GetLastError();
     if (force && isProtected) SetFileAttributesW(wide.c_str(), attributes);
     throw FailureOf(error);
