@@ -1,4 +1,7 @@
 // The help texts under a mouse that really moves over the screen and rests there.
+#include <windows.h>
+
+#include <commctrl.h>
 #include <doctest/doctest.h>
 
 #include <functional>
@@ -9,6 +12,7 @@ namespace endtoend {
 namespace {
 
 constexpr int CleanUpPage = 3;
+constexpr int NetworkPage = 5;
 constexpr DWORD Balloon = 0x40;
 // A tip comes after a second.
 constexpr DWORD Soon = 3000;
@@ -72,6 +76,21 @@ TEST_CASE_FIXTURE(Mouse, "a check box, a slider and a button tell what they do")
     CHECK(TipOf("Level").starts_with("Stellt ein, wie durchsichtig die Taskbar ist"));
     MoveTo("SSTab1");
     CHECK(TipOf("cmdFreeMemory").starts_with("Windows gibt teilweise Speicher nicht mehr frei"));
+}
+
+TEST_CASE_FIXTURE(Mouse, "a combo box tells what it does over its field, too") {
+    program.OpenTab(NetworkPage);
+    CHECK(TipOf("cboMTU").starts_with("Die MTU ist die größte Länge eines Datenpakets"));
+    MoveTo("SSTab1");
+    CHECK(TipOf("cboHTTP11").starts_with("Hier können Sie festlegen wie viele simultane http"));
+}
+
+// Of the 3320000 that it is told; 43200 are 43 seconds here, and no time at all to a system that
+// counts 16 bits with a sign.
+TEST_CASE_FIXTURE(Mouse, "the tips' window keeps the lower 16 bits of the time that it is told") {
+    REQUIRE(TipOf("chkFastServices") != "nothing");
+    CHECK(Send(Shown(), TTM_GETDELAYTIME, TTDT_AUTOPOP) == 3320000 % 65536);
+    CHECK(Send(Shown(), TTM_GETDELAYTIME, TTDT_INITIAL) == 1000);
 }
 
 TEST_CASE_FIXTURE(Mouse, "a text of several hundred characters stays one plain tip, in lines") {

@@ -71,6 +71,13 @@ void ToolTips::SendTool(Handle window, std::uint32_t message, TipTool& tool, con
     tool.top = record.rect.top;
     tool.right = record.rect.right;
     tool.bottom = record.rect.bottom;
+    // Over a combo box the mouse is mostly in the field inside, which needs a tool of its own.
+    if (message != TTM_ADDTOOLA || !(tool.uFlags & TTF_IDISHWND)) return;
+    if (const HWND field = FindWindowExA(record.hwnd, nullptr, WC_EDITA, nullptr)) {
+        record.hwnd = field;
+        record.uId = reinterpret_cast<UINT_PTR>(field);
+        SendMessageA(Window(window), message, 0, reinterpret_cast<LPARAM>(&record));
+    }
 }
 
 std::int32_t ToolTips::VerticalResolution() const {
