@@ -3,6 +3,8 @@
 #include <doctest/doctest.h>
 #include <psapi.h>
 
+#include "endtoend/registrystate.h"
+#include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/handle.h"
 
@@ -57,6 +59,8 @@ class Bar {
     HWND volatile window_ = nullptr;
 };
 
+constexpr char Components[] = "C:\\windows\\inf\\Sysoc.inf";
+
 // The components' file of this Windows, which has none by itself; it goes at the end.
 class ComponentsFile {
   public:
@@ -65,20 +69,26 @@ class ComponentsFile {
         const win32::FileHandle file(
             CreateFileW(Path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
         DWORD written = 0;
-        WriteFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &written,
-                  nullptr);
+        ::WriteFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &written,
+                    nullptr);
     }
     ~ComponentsFile() { DeleteFileW(Path); }
     ComponentsFile(const ComponentsFile&) = delete;
     ComponentsFile& operator=(const ComponentsFile&) = delete;
 
-    std::string Content() const { return ReadFile("C:\\windows\\inf\\Sysoc.inf"); }
+    std::string Content() const { return ReadFile(Components); }
 
   private:
     static constexpr wchar_t Path[] = L"C:\\windows\\inf\\Sysoc.inf";
 };
 
 constexpr int TweaksPage = 1;
+constexpr int CleanUpPage = 3;
+constexpr int SecurityPage = 4;
+
+constexpr char BinKey[] =
+    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"
+    "{645FF040-5081-101B-9F08-00AA002F954E}";
 
 // What the program's process holds, and the most that it ever held.
 PROCESS_MEMORY_COUNTERS MemoryOf(const Application& program) {
@@ -142,9 +152,12 @@ TEST_CASE("the components' file is rewritten at the click, and not rewritten bac
     const OpenProgram program(workplace);
     program.OpenTab(TweaksPage);
     program.SetChecked("chkHideWinComponents", true);
-    Until("the rewritten file", [&] { return file.Content() == "a,,7\r\nb,,7\r\n"; });
+    Until("the rewritten file", [] { return SizeOf(Components) == 12; });
+    CHECK(file.Content() == "a,,7\r\nb,,7\r\n");
     program.SetChecked("chkHideWinComponents", false);
     Until("the stored state", [&] { return workplace.Stored("WinComponents", "Show") == "false"; });
+    // An answer comes when the click is done.
+    CHECK(program.Responds("frmMain"));
     CHECK(file.Content() == "a,,7\r\nb,,7\r\n");
 }
 
@@ -156,6 +169,38 @@ TEST_CASE("without the components' file the click ends in the platform's message
     const MessageBox box = program.Answer("Quillmore", IDOK);
     CHECK(box.text.starts_with("Laufzeitfehler '53'"));
     CHECK(program.Running());
+}
+
+TEST_CASE("the recycle bin's key goes at the click, and comes back with one value at the next") {
+    const Workplace workplace;
+    CreateKey("HKLM", BinKey);
+    const OpenProgram program(workplace);
+    program.OpenTab(SecurityPage);
+    CHECK_FALSE(program.Checked("chk1RecycleBinDelete"));
+    program.SetChecked("chk1RecycleBinDelete", true);
+    Until("the key to go", [] { return !KeyExists("HKLM", BinKey); });
+    program.SetChecked("chk1RecycleBinDelete", false);
+    Until("the key to come", [] { return KeyExists("HKLM", BinKey); });
+    CHECK(program.Responds("frmMain"));
+    CHECK(ReadValue({"HKLM", BinKey, "(Standard)"}) == BareText(""));
+    CHECK_FALSE(ReadValue({"HKLM", BinKey, ""}));
+    CHECK(program.Box().window == nullptr);
+}
+
+TEST_CASE("cleaning the user's folder warns at the click, and not when it is taken back") {
+    const Workplace workplace;
+    const OpenProgram program(workplace);
+    program.OpenTab(CleanUpPage);
+    program.Click("chkCleanUserTempFolder");
+    const MessageBox box = program.Answer("ACHTUNG!", IDOK);
+    CHECK(box.text ==
+          "Bitte schließen Sie vor Benutzung dieser Option unbedingt ALLE\r\n"
+          "offenen Anwendungen um Datenverlust zu vermeiden!");
+    CHECK(box.buttons == std::vector<int>{IDOK});
+    CHECK(program.Checked("chkCleanUserTempFolder"));
+    program.SetChecked("chkCleanUserTempFolder", false);
+    CHECK(program.Responds("frmMain"));
+    CHECK(program.Box().window == nullptr);
 }
 
 }  // namespace

@@ -57,6 +57,12 @@ class Clicked {
 
     const OpenProgram& Running() const { return program_; }
 
+    // The file, once it is as large as that.
+    std::string FileOfSize(const std::string& expected) const {
+        Until("the rewritten file", [&] { return SizeOf(PathOfFile()) == expected.size(); });
+        return ReadFile(PathOfFile());
+    }
+
     // The platform's own message, which is the only thing that is said.
     std::string Complaint() const { return program_.Answer("Quillmore", IDOK).text; }
 
@@ -69,7 +75,7 @@ TEST_CASE("the components' file loses its marks and nothing else, byte for byte"
     const EmptyPlace place(PathOfFile());
     WriteFile(PathOfFile(), AsInstalled);
     const Clicked clicked(workplace);
-    Until("the rewritten file", [] { return ReadFile(PathOfFile()) == AsShown; });
+    CHECK(clicked.FileOfSize(AsShown) == AsShown);
     CHECK(clicked.Running().Box().window == nullptr);
     CHECK(workplace.Stored("WinComponents", "Show") == "true");
 }
@@ -79,8 +85,8 @@ TEST_CASE("a byte-order mark goes, and a last line without an end gets one") {
     const EmptyPlace place(PathOfFile());
     WriteFile(PathOfFile(), "\xFF\xFE[Components]\r\na,Hide,7\r\nb,HiHidede,7");
     const Clicked clicked(workplace);
-    Until("the rewritten file",
-          [] { return ReadFile(PathOfFile()) == "[Components]\r\na,,7\r\nb,Hide,7\r\n"; });
+    const std::string expected = "[Components]\r\na,,7\r\nb,Hide,7\r\n";
+    CHECK(clicked.FileOfSize(expected) == expected);
 }
 
 TEST_CASE("a read-only components' file is rewritten too") {
@@ -89,7 +95,7 @@ TEST_CASE("a read-only components' file is rewritten too") {
     WriteFile(PathOfFile(), AsInstalled);
     SetReadOnly(true);
     const Clicked clicked(workplace);
-    Until("the rewritten file", [] { return ReadFile(PathOfFile()) == AsShown; });
+    CHECK(clicked.FileOfSize(AsShown) == AsShown);
     CHECK(clicked.Running().Box().window == nullptr);
     SetReadOnly(false);
 }
@@ -118,16 +124,34 @@ TEST_CASE("a components' file that nobody else may read stays as it is, with a c
     CHECK(ReadFile(PathOfFile()) == AsInstalled);
 }
 
-TEST_CASE("a components' file that cannot be deleted stays as it is, with a complaint") {
+TEST_CASE("a components' file that may be read but not deleted stays as it is, with a complaint") {
     const Workplace workplace;
     const EmptyPlace place(PathOfFile());
     WriteFile(PathOfFile(), AsInstalled);
-    {
+    SUBCASE("whoever reads it lets others read") {
         const FileHandle held = Hold(FILE_SHARE_READ);
         REQUIRE(held);
         const Clicked clicked(workplace);
         CHECK(clicked.Complaint().starts_with("Laufzeitfehler '70'"));
         CHECK(clicked.Running().Box().window == nullptr);
+    }
+    SUBCASE("whoever reads it lets others do anything") {
+        const FileHandle held = Hold(FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+        REQUIRE(held);
+        const Clicked clicked(workplace);
+        CHECK(clicked.Complaint().starts_with("Laufzeitfehler '70'"));
+        CHECK(clicked.Running().Box().window == nullptr);
+    }
+    SUBCASE("it is read-only, and stays so") {
+        SetReadOnly(true);
+        {
+            const FileHandle held = Hold(FILE_SHARE_READ);
+            REQUIRE(held);
+            const Clicked clicked(workplace);
+            CHECK(clicked.Complaint().starts_with("Laufzeitfehler '70'"));
+        }
+        CHECK((GetFileAttributesW(ToWide(PathOfFile()).c_str()) & FILE_ATTRIBUTE_READONLY) != 0);
+        SetReadOnly(false);
     }
     CHECK(ReadFile(PathOfFile()) == AsInstalled);
 }

@@ -80,6 +80,12 @@ std::string WindowsFolder() {
     return FromWide({folder, GetWindowsDirectoryW(folder, MAX_PATH)});
 }
 
+unsigned SizeOf(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA facts = {};
+    GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &facts);
+    return facts.nFileSizeLow;
+}
+
 void WriteFile(const std::string& path, const std::string& bytes) {
     const platform::win32::FileHandle file(
         CreateFileW(ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));

@@ -16,6 +16,9 @@ std::string WindowsFolder();
 // Makes the file, and the folders above it. Throws Failed when it cannot be written.
 void WriteFile(const std::string& path, const std::string& bytes);
 
+// The size of a file, 0 where there is none. Other than reading it, to ask is in nobody's way.
+unsigned SizeOf(const std::string& path);
+
 // The place of one file, which is empty as long as this object lives.
 class EmptyPlace {
   public:
