@@ -188,3 +188,24 @@ TEST_CASE_FIXTURE(Start, "a packet size typed into the open program sets the rec
     form->Find<toolkit::ComboBox>("cboMTU").SetText("1500");
     CHECK(Text("txtRWIN").Text() == "5840");
 }
+
+TEST_CASE_FIXTURE(Start,
+                  "each control that acts at once or filters its keys does so in the window") {
+    REQUIRE(Program::Start());
+    for (const char* name : {"chkHideWinComponents", "chkSecureWindows", "chk1RecycleBinDelete",
+                             "chkCleanUserTempFolder", "chkScanAll", "chkIcons"}) {
+        CAPTURE(name);
+        CHECK(form->Find<toolkit::CheckBox>(name).onClick);
+    }
+    const auto& packet = form->Find<toolkit::ComboBox>("cboMTU");
+    CHECK(packet.onChange);
+    CHECK(packet.onClick);
+    for (const char* name : {"cboMTU", "cboHTTP10", "cboHTTP11"}) {
+        CAPTURE(name);
+        CHECK(form->Find<toolkit::ComboBox>(name).onKeyPress);
+    }
+    for (const char* name : {"txtRWIN", "txtTTL", "txtTimeOut", "txtLevelValue", "txtStartmenu"}) {
+        CAPTURE(name);
+        CHECK(form->Find<toolkit::TextBox>(name).onKeyPress);
+    }
+}
