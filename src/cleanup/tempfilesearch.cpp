@@ -189,6 +189,7 @@ void TempFileSearch::AddSizes(std::int32_t& total) const {
 
 void TempFileSearch::ShowResult(std::int32_t total) {
     toolkit::AdjustColumnWidth(frame_.lvwFiles, true, 1);
+    frame_.lblScannedFiles.SetToolTip("");
     frame_.lblScannedFiles.SetCaption("Suchvorgang abgeschlossen!");
     const int rows = frame_.lvwFiles.Count();
     frame_.lblHinweisTemp.SetCaption(

@@ -56,7 +56,8 @@ class Control {
     void SetVisible(bool visible);
 
     // One line that is shown to a mouse that rests on the control; none while it is "". Of the
-    // labels only those of the style Path show it.
+    // labels only those of the style Path show it; a path that is cut shows itself when it has
+    // none.
     const std::string& ToolTip() const { return toolTip_; }
     void SetToolTip(std::string_view text);
 

@@ -92,6 +92,7 @@ Box RowOfPath(Form& form, const platform::Machine& machine, std::size_t index) {
     auto& path = form.Add<Label>(Member("lblVerwaltung", index), "", toolkit::LabelStyle::Path);
     auto& button = form.Add<controls::chameleonButton>(
         Member("cmdPath", index), controls::Persisted{"TX=..."}, machine.clock);
+    button.SetToolTip("Ordner für " + runtime::Trim(Rows[index].name) + " auswählen");
     button.onClick = [&form, machine, index] { PathPressed(form, machine, index); };
     return Gap(toolkit::Row({AtLeast(name, NameWidth, 0), toolkit::Stretch(Leaf(path)),
                              AtMost(Leaf(button), ButtonSize.width, ButtonSize.height)}),

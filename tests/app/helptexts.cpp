@@ -122,7 +122,7 @@ TEST_CASE("a program that ends before its window is there makes no tips") {
     CHECK(program.machine.journal.Calls("InitCommonControlsEx").empty());
 }
 
-TEST_CASE("four controls have a line of their own for the mouse") {
+TEST_CASE("four controls and the buttons of the paths have a line of their own for the mouse") {
     Program program;
     REQUIRE(program.Start());
     const auto line = [&](const char* name) { return program.form->FindControl(name)->ToolTip(); };
@@ -134,5 +134,5 @@ TEST_CASE("four controls have a line of their own for the mouse") {
           "Diese Einstellung ist erst nach einem Neustart aktiviert");
     const auto& controls = program.form->Controls();
     CHECK(std::count_if(controls.begin(), controls.end(),
-                        [](const auto& control) { return !control->ToolTip().empty(); }) == 4);
+                        [](const auto& control) { return !control->ToolTip().empty(); }) == 4 + 14);
 }

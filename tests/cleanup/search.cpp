@@ -17,6 +17,17 @@ TEST_CASE_FIXTURE(Fixture, "an empty result says so and leaves the deletion disa
     CHECK(frame.cmdSearchTempFiles.Caption() == "Suchen");
 }
 
+TEST_CASE_FIXTURE(Fixture, "the tip with the path of the current file goes with the search") {
+    File("C:\\x\\a.tmp");
+    std::string during;
+    machine.forms.onEvents = [&] { during += frame.lblScannedFiles.ToolTip(); };
+    disk.MakeFolder("C:\\y");
+    Search();
+    CHECK(during.find("a.tmp") != std::string::npos);
+    CHECK(frame.lblScannedFiles.Caption() == "Suchvorgang abgeschlossen!");
+    CHECK(frame.lblScannedFiles.ToolTip() == "");
+}
+
 TEST_CASE_FIXTURE(Fixture, "a result tells rows, bytes and files without grouping signs") {
     for (int i = 0; i < 1200; ++i) File("C:\\x\\" + std::to_string(i) + ".txt");
     File("C:\\x\\a.tmp").toldSize = 1234567;

@@ -105,6 +105,16 @@ TEST_CASE_FIXTURE(PathsPage, "the page Pfade carries its captions") {
           "installiert werden.");
 }
 
+TEST_CASE_FIXTURE(PathsPage,
+                  "each of the buttons with the same caption tells which folder it chooses") {
+    const auto tip = [&](int index) {
+        return form.FindControl(Member("cmdPath", index))->ToolTip();
+    };
+    CHECK(tip(0) == "Ordner für Verwaltung auswählen");
+    CHECK(tip(4) == "Ordner für Favoriten auswählen");
+    CHECK(tip(13) == "Ordner für Installationspfad auswählen");
+}
+
 TEST_CASE_FIXTURE(PathsPage, "the page Pfade fits its area and no two controls overlap") {
     CheckFits(form);
 }

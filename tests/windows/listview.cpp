@@ -78,6 +78,18 @@ TEST_CASE("rows and columns of a list that was filled before its window are show
     CHECK(SendMessageW(window, LVM_GETITEMSTATE, 1, LVIS_SELECTED) == LVIS_SELECTED);
 }
 
+TEST_CASE("a fresh column has room for its header, and is as wide as others where that is short") {
+    ListFixture f;
+    f.list.AddColumn("Zuletzt geändert, und das ist lang");
+    const auto width = [&](WPARAM column) { return f.Send(LVM_GETCOLUMNWIDTH, column); };
+    const LRESULT text = f.Send(LVM_GETSTRINGWIDTHW, 0,
+                                reinterpret_cast<LPARAM>(L"Zuletzt geändert, und das ist lang"));
+    CHECK(width(0) == width(2));
+    CHECK(width(3) > width(0));
+    // The header draws its text with an edge on both sides.
+    CHECK(width(3) >= text + 12);
+}
+
 TEST_CASE("the window follows removing, clearing, ticking and selecting") {
     ListFixture f;
     f.Fill(3);

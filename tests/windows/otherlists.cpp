@@ -30,6 +30,34 @@ TEST_CASE("a list box shows its lines") {
     CHECK(SendMessageW(window, LB_GETCOUNT, 0, 0) == 1);
 }
 
+TEST_CASE("a list box scrolls sideways as far as its widest line") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& list = form.Add<toolkit::ListBox>("List1");
+    form.SetLayout(Leaf(list));
+    form.Show();
+    const HWND window = desk.Find(form, "List1");
+    const auto scrolls = [&] { return (GetWindowLongW(window, GWL_STYLE) & WS_HSCROLL) != 0; };
+    const auto extent = [&] { return SendMessageW(window, LB_GETHORIZONTALEXTENT, 0, 0); };
+    list.AddItem("kurz");
+    CHECK_FALSE(scrolls());
+    const std::string wide = "http://quillmore.example/?a&b" + std::string(200, 'm');
+    list.AddItem(wide);
+    list.AddItem(std::string(150, 'i'));
+    CHECK(scrolls());
+    const HDC dc = GetDC(window);
+    SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
+    SIZE size{};
+    GetTextExtentPoint32A(dc, wide.c_str(), static_cast<int>(wide.size()), &size);
+    ReleaseDC(window, dc);
+    CHECK(extent() >= size.cx);
+    CHECK(extent() <= size.cx + 10);
+    list.Clear();
+    CHECK(extent() == 0);
+    list.AddItem("kurz");
+    CHECK_FALSE(scrolls());
+}
+
 TEST_CASE("a progress bar shows its range and value") {
     Desk desk;
     TestForm form(desk.host, "frmMain");

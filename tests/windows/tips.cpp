@@ -134,6 +134,20 @@ TEST_CASE_FIXTURE(Fixture, "a label of the style Path sees the mouse, for its ti
     CHECK(WindowFromPoint(point) == desk.Find(form, "lbl"));
 }
 
+TEST_CASE_FIXTURE(Fixture, "a path that is cut is told whole by its label, one that fits is not") {
+    Show();
+    CHECK(TipOf("lbl") == "");
+    const std::string longPath = "C:\\Tom & Jerry\\" + std::string(100, 'x');
+    path.SetCaption(longPath);
+    CHECK(TipOf("lbl") == longPath);
+    path.SetToolTip("C:\\eins");
+    CHECK(TipOf("lbl") == "C:\\eins");
+    path.SetToolTip("");
+    CHECK(TipOf("lbl") == longPath);
+    path.SetCaption("C:\\a");
+    CHECK(TipOf("lbl") == "");
+}
+
 TEST_CASE_FIXTURE(Fixture, "tips go with their form, also of controls that watch their keys") {
     text.onKeyPress = [](char16_t&) {};
     text.SetToolTip("Text");

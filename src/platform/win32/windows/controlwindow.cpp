@@ -75,7 +75,7 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
             Repaint();
             break;
         case toolkit::Aspect::ToolTip:
-            if (control_.ToolTip().empty()) {
+            if (TipText().empty()) {
                 tip_.Leave();
             } else {
                 tip_.ShowChange(window_);
@@ -85,7 +85,7 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
 }
 
 void ControlWindow::PointerCame() {
-    if (!control_.ToolTip().empty()) tip_.Offer(window_);
+    if (!TipText().empty()) tip_.Offer(window_);
 }
 
 bool ControlWindow::HasFocus() const {

@@ -31,7 +31,7 @@ class ControlWindow : public toolkit::ControlView,
     // The mouse is over the control, which may have a tip to offer.
     void PointerCame();
     // That tip is to be seen, and asks for its text.
-    void AnswerTip(NMTTDISPINFOW& question) { tip_.Answer(question, control_.ToolTip()); }
+    void AnswerTip(NMTTDISPINFOW& question) { tip_.Answer(question, TipText()); }
 
     // nullptr before Create and after Detach.
     HWND Window() const { return window_; }
@@ -81,6 +81,8 @@ class ControlWindow : public toolkit::ControlView,
     virtual void Prepare() {}
     virtual void ShowItems() {}
     virtual void ShowValue() {}
+    // What a mouse that rests on the control is told; nothing while it is "".
+    virtual std::string TipText() const { return control_.ToolTip(); }
     virtual HFONT Font() const { return surroundings_.screen.Plain(); }
 
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "platform/win32/text.h"
+
 namespace platform::win32 {
 namespace {
 
@@ -32,6 +34,16 @@ ControlWindow::Recipe LabelWindow::Describe() const {
 HFONT LabelWindow::Font() const {
     const bool heading = control_.Style() == toolkit::LabelStyle::Heading;
     return heading ? surroundings_.screen.Heading() : surroundings_.screen.Plain();
+}
+
+// A path that is cut has itself for a tip, unless it has another.
+std::string LabelWindow::TipText() const {
+    const std::string& tip = control_.ToolTip();
+    if (!tip.empty() || control_.Style() != toolkit::LabelStyle::Path) return tip;
+    RECT client{};
+    GetClientRect(Window(), &client);
+    const bool isCut = surroundings_.screen.WidthOf(ToWide(control_.Caption())) > client.right;
+    return isCut ? control_.Caption() : tip;
 }
 
 // The second press of a double click comes as another code, so it is no second click.

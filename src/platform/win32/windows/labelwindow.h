@@ -17,6 +17,7 @@ class LabelWindow final : public ListeningWindow {
   protected:
     Recipe Describe() const override;
     HFONT Font() const override;
+    std::string TipText() const override;
     bool IsHeard() const override { return control_.onClick || control_.onMouseMove; }
     LRESULT Hear(const HookedMessage& hooked) override;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/win32/windows/controlwindow.h"
 #include "toolkit/listbox.h"
 
@@ -17,7 +19,12 @@ class ListBoxWindow final : public ControlWindow {
     void ShowItems() override;
 
   private:
+    void MakeRoomFor(const std::string& item, const std::wstring& text);
+
     toolkit::ListBox& control_;
+    // In pixels: the widest letter, and the widest of the lines.
+    int letter_ = 0;
+    int widest_ = 0;
 };
 
 }  // namespace platform::win32

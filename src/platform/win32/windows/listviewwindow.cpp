@@ -148,7 +148,8 @@ void ListViewWindow::CatchUp() {
         std::wstring header = ToWide(control_.Columns()[static_cast<std::size_t>(columns_)]);
         LVCOLUMNW column{};
         column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
-        column.cx = surroundings_.screen.Scale(ColumnWidth);
+        column.cx = static_cast<int>(
+            std::max<LRESULT>(surroundings_.screen.Scale(ColumnWidth), HeaderWidth(header)));
         column.pszText = header.data();
         column.iSubItem = columns_;
         Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(columns_), reinterpret_cast<LPARAM>(&column));
@@ -297,14 +298,17 @@ void ListViewWindow::FitColumn(int column, bool includingHeader) {
     Send(LVM_SETCOLUMNWIDTH, at, includingHeader ? LVSCW_AUTOSIZE_USEHEADER : LVSCW_AUTOSIZE);
     widest_ = nullptr;
     // Not every system counts the room that a header has around its text.
-    const LRESULT least =
-        WidthOf(ToWide(control_.Columns()[at])) + surroundings_.screen.Scale(HeaderEdges);
+    const LRESULT least = HeaderWidth(ToWide(control_.Columns()[at]));
     const bool isCut = includingHeader && Send(LVM_GETCOLUMNWIDTH, at) < least;
     if (isCut) Send(LVM_SETCOLUMNWIDTH, at, least);
 }
 
 LRESULT ListViewWindow::WidthOf(const std::wstring& text) const {
     return Send(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+LRESULT ListViewWindow::HeaderWidth(const std::wstring& header) const {
+    return WidthOf(header) + surroundings_.screen.Scale(HeaderEdges);
 }
 
 // No byte of a text takes more room than the widest letter, so most texts need no measuring.

@@ -51,6 +51,8 @@ class ListViewWindow final : public ControlWindow {
     void Toggle(int row);
     void TickAsTold(int row, const LVITEMW& item);
     LRESULT WidthOf(const std::wstring& text) const;
+    // That shows the whole header.
+    LRESULT HeaderWidth(const std::wstring& header) const;
     std::wstring WidestText(int column) const;
     int Focused() const;
 

@@ -33,6 +33,14 @@ toolkit::Size Screen::SizeOf(std::string_view text, bool bold) const {
     return size;
 }
 
+int Screen::WidthOf(const std::wstring& text) const {
+    const HGDIOBJ before = SelectObject(dc_.Get(), Plain());
+    SIZE size{};
+    GetTextExtentPoint32W(dc_.Get(), text.c_str(), static_cast<int>(text.size()), &size);
+    SelectObject(dc_.Get(), before);
+    return size.cx;
+}
+
 int Screen::Scale(int pixels) const {
     return MulDiv(pixels, dotsPerInch_, DesignDotsPerInch);
 }

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <string_view>
 
 #include "platform/win32/handle.h"
@@ -16,6 +17,8 @@ class Screen final : public toolkit::TextMeasure {
 
     toolkit::Size SizeOf(std::string_view text, bool bold) const override;
     int Scale(int pixels) const override;
+    // Of a text in which an ampersand is nothing but one, in the plain font.
+    int WidthOf(const std::wstring& text) const;
 
     // Twips are 1440 to the inch.
     int ToPixels(float twips) const;
