@@ -1,6 +1,11 @@
 #include <doctest/doctest.h>
 
+#include <memory>
+#include <string>
+
 #include "app/program.h"
+#include "toolkit/drivelistbox.h"
+#include "toolkit/listbox.h"
 
 using namespace app_test;
 using platform::Registry;
@@ -18,6 +23,63 @@ void RefuseWarning(Program& program) {
 
 int Tab(Program& program) {
     return program.form->Find<toolkit::TabStrip>("SSTab1").Tab();
+}
+
+// A machine on which each step of the start has an effect to be seen.
+void Seed(Program& program) {
+    auto& machine = program.machine;
+    machine.registry.Put(Registry::LocalMachine, MemoryKey, "LargeSystemCache", DwordValue(1));
+    machine.registry.Put(Registry::LocalMachine, SystemKey, "CSDVersion",
+                         TextValue("Service Pack 3"));
+    machine.internetCache.Add({.url = "http://a/"});
+    machine.autostart.entries["Quillmore"] = "anything";
+    machine.information.drives = {{"C:\\", platform::DriveKind::Fixed}};
+    machine.facts.SetSpace('C', {0, 1000, 400});
+    machine.settings.Put("TaskBar", "Luminance", "100");
+    machine.settings.Put("Desktop", "TransparentIcons", "1");
+    machine.settings.Put("VideoPrv", "Regged", "true");
+    for (const char* key : {"TrayIcon", "RebootQuestion", "ForceReboot", "SyncServer"}) {
+        machine.settings.Put("Options", key, "1");
+    }
+    machine.settings.Put("Options", "State", "2");
+    machine.settings.Put("Options", "Left", "120");
+    machine.settings.Put("Options", "Top", "300");
+    machine.settings.Put("Options", "ServerName", "zeit");
+    machine.settings.Put("Options", "Tab", "7");
+}
+
+// What a start on that machine has not brought about.
+std::string EffectsMissing(Program& program) {
+    app::frmMain& form = *program.form;
+    const std::pair<const char*, bool> effects[] = {
+        {"state", form.State() == WindowState::Maximised},
+        {"left", form.Place().left == 120},
+        {"top", form.Place().top == 300},
+        {"version", form.Caption() == "Quillmore v2.38"},
+        {"read pass", program.Check("chkLargeSystemCache").Value() == 1},
+        {"cache", form.Find<toolkit::ListBox>("List1").Items().size() == 1},
+        {"icons", program.Check("chkIcons").Value() == 1},
+        {"level", program.Text("txtLevelValue").Text() == "100"},
+        {"autostart", program.Check("chkCreateAutoStart").Value() == 1},
+        {"tray", program.Check("chkTrayIcon").Value() == 1 && program.machine.tray.hasIcon &&
+                     program.machine.tray.tip == "Quillmore"},
+        {"preview", program.Check("chkSHMediaDLL").Value() == 0},
+        {"question", program.Check("chkRebootQuestion").Value() == 1},
+        {"force", program.Check("chkForceReboot").Value() == 1},
+        {"service pack", form.Find<toolkit::Label>("lblSP").Caption() == "Service Pack 3"},
+        {"help texts", program.machine.toolTips.OpenWindows() == 1},
+        {"server", program.Text("txtSyncServer").Text() == "zeit"},
+        {"drive", form.Find<toolkit::DriveListBox>("drvSelect").Drive().starts_with("c:")},
+        {"space", form.Find<toolkit::Label>("lblGesamt").Caption() == "Gesamt: 1.000 Bytes"},
+        {"clear", form.Find<controls::chameleonButton>("cmdClearIECache").Enabled()},
+        {"tab", Tab(program) == 7},
+        {"time source", form.Find<toolkit::OptionButton>("optSynServer").Value()},
+    };
+    std::string missing;
+    for (const auto& [effect, there] : effects) {
+        if (!there) missing += std::string(missing.empty() ? "" : ", ") + effect;
+    }
+    return missing;
 }
 
 constexpr char GateTitle[] = "Quillmore - Falsches Betriebssystem";
@@ -243,11 +305,13 @@ TEST_CASE("a system that does not tell its build number is refused") {
     CHECK(program.machine.messages.Shown().at(0).title == GateTitle);
 }
 
-TEST_CASE("-RAW passes the gate on another build and shows its notice") {
+TEST_CASE("-RAW passes the gate on another build, shows its notice, and the start goes on") {
     Program program;
     program.machine.system.facts.build = 2195;
     program.machine.program.commandLine = "-RAW";
+    Seed(program);
     CHECK(program.Start());
+    CHECK(EffectsMissing(program) == "");
     REQUIRE(program.machine.messages.Shown().size() == 1);
     CHECK(program.machine.messages.Shown()[0] ==
           platform::simulated::ShownMessage{
@@ -355,9 +419,11 @@ TEST_CASE("the server's name comes back") {
     CHECK(program.Text("txtSyncServer").Text() == "zeit-ü");
 }
 
-TEST_CASE("failing any single call of start-up neither reports nor stops it") {
+TEST_CASE("failing any single call of start-up costs its own step, and nothing is reported") {
     Program count;
+    Seed(count);
     REQUIRE(count.Start());
+    REQUIRE(EffectsMissing(count) == "");
     const auto calls = static_cast<int>(count.machine.journal.Count());
     // Whether the warning was accepted is a question of its own.
     constexpr int AcceptedCall = 2;
@@ -365,6 +431,7 @@ TEST_CASE("failing any single call of start-up neither reports nor stops it") {
         if (n == AcceptedCall) continue;
         CAPTURE(n);
         Program program;
+        Seed(program);
         program.machine.faults.FailNth(n, runtime::PermissionDenied);
         const bool started = program.Start();
         // The one call that decides whether to go on is the question for the build number.
@@ -374,8 +441,36 @@ TEST_CASE("failing any single call of start-up neither reports nor stops it") {
         } else {
             CHECK(program.machine.messages.Shown().empty());
             CHECK(program.form->Visible());
+            const std::string missing = EffectsMissing(program);
+            CAPTURE(missing);
+            // What is not listed cannot be cleared, and no drive has no size.
+            const bool follows = missing == "cache, clear" || missing == "drive, space";
+            CHECK((follows || missing.find(',') == std::string::npos));
         }
     }
+}
+
+TEST_CASE("a session that ends behind a message of start-up closes as ever, with designed boxes") {
+    Program program;
+    program.machine.registry.Put(Registry::CurrentUser, "Control Panel\\Desktop", "MenuShowDelay",
+                                 TextValue("3000000000"));
+    program.machine.settings.Put("Options", "ForceReboot", "1");
+    program.machine.messages.WhileOpen("Fehler 6", [&] { program.form->Unload(); });
+    CHECK_FALSE(program.Start());
+    CHECK(program.Stored("ForceReboot") == "0");
+    CHECK(program.Stored("Tab") == "0");
+}
+
+TEST_CASE("drive and deletion are ready before the stored tab is shown, the time source is not") {
+    Program program;
+    Seed(program);
+    program.form = std::make_unique<app::frmMain>(program.machine.services);
+    std::string missing;
+    program.form->Find<toolkit::TabStrip>("SSTab1").onClick = [&] {
+        missing = EffectsMissing(program);
+    };
+    program.form->Load();
+    CHECK(missing == "time source");
 }
 
 TEST_CASE("ReadRegistry reports nothing on a machine on which no value exists") {
