@@ -30,9 +30,13 @@ constexpr std::array<std::string_view, 5> AsSpelled = {
 
 FolderRules::FolderRules(const platform::Machine& machine) {
     const utilities::clsGetSystemDirectoryPaths directories(machine.facts);
-    sendTo_ = runtime::ToUpper(utilities::GetSpecialFolderPath(machine.shell, SendToFolder));
-    windows_ = runtime::ToUpper(directories.WindowsDirectory());
-    system_ = runtime::ToUpper(directories.SystemDirectory());
+    const std::string windows = runtime::ToUpper(directories.WindowsDirectory());
+    const std::string system = runtime::ToUpper(directories.SystemDirectory());
+    whole_ = {runtime::ToUpper(utilities::GetSpecialFolderPath(machine.shell, SendToFolder)),
+              windows + "\\ALL USERS", windows + "\\SENDTO", system + "\\SECURITY"};
+    // The first of these covers the other two and the last one above, which stand for themselves
+    // all the same.
+    beginnings_ = {system, system + "\\CATROOT2", system + "\\USMT"};
 }
 
 bool FolderRules::IsExcludedFolder(std::string_view path) const {
@@ -41,12 +45,12 @@ bool FolderRules::IsExcludedFolder(std::string_view path) const {
     const auto contains = [&](std::string_view part) {
         return path.find(part) != std::string_view::npos;
     };
-    return upper == sendTo_ || upper.find("SENDTO") != std::string::npos ||
+    return upper.find("SENDTO") != std::string::npos ||
+           std::any_of(whole_.begin(), whole_.end(),
+                       [&](const std::string& folder) { return upper == folder; }) ||
            std::any_of(AllUsers.begin(), AllUsers.end(), begins) ||
-           upper == windows_ + "\\ALL USERS" || upper == windows_ + "\\SENDTO" ||
-           // The first of these covers the other three, which stand for themselves all the same.
-           begins(system_) || upper == system_ + "\\SECURITY" || begins(system_ + "\\CATROOT2") ||
-           begins(system_ + "\\USMT") || std::any_of(AsSpelled.begin(), AsSpelled.end(), contains);
+           std::any_of(beginnings_.begin(), beginnings_.end(), begins) ||
+           std::any_of(AsSpelled.begin(), AsSpelled.end(), contains);
 }
 
 }  // namespace cleanup

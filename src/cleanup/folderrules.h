@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -20,10 +21,9 @@ class FolderRules {
     bool IsExcludedFolder(std::string_view path) const;
 
   private:
-    // In capitals.
-    std::string sendTo_;
-    std::string windows_;
-    std::string system_;
+    // All in capitals: whole paths, and what paths begin with.
+    std::array<std::string, 4> whole_;
+    std::array<std::string, 3> beginnings_;
 };
 
 }  // namespace cleanup

@@ -1,6 +1,7 @@
 #include "cleanup/internetcache.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/locale.h"
 #include "toolkit/listbox.h"
@@ -19,6 +20,21 @@ InternetCache::Address MakeBlock(InternetCache& cache, std::uint32_t size) {
     if (block != 0 && size >= sizeof size) cache.Write(block, &size, sizeof size);
     return block;
 }
+
+// The search of a listing and the block that it reads into, given back whatever ends it.
+struct Reading {
+    explicit Reading(InternetCache& on) : cache(on) {}
+    ~Reading() {
+        cache.Free(block.start);
+        cache.CloseSearch(search);
+    }
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+
+    InternetCache& cache;
+    InternetCache::Handle search = 0;
+    CacheBlock block;
+};
 
 void AddEntry(const InternetCache& cache, const platform::Locale& locale, const CacheBlock& block,
               toolkit::ListBox& list) {
@@ -43,8 +59,9 @@ std::string UrlPointerToText(const InternetCache& cache, const platform::Locale&
 // entry that has grown between the two ends the list, as does a block that cannot be had.
 void FillCacheList(InternetCache& cache, const platform::Locale& locale, toolkit::ListBox& list) {
     list.Clear();
-    InternetCache::Handle search = 0;
-    CacheBlock block;
+    Reading reading(cache);
+    InternetCache::Handle& search = reading.search;
+    CacheBlock& block = reading.block;
     bool found = false;
     // The first question bears the pattern "0" and the reading none, on purpose: a cache that knows
     // nothing by that pattern is not listed at all.
@@ -55,15 +72,13 @@ void FillCacheList(InternetCache& cache, const platform::Locale& locale, toolkit
     }
     while (found) {
         AddEntry(cache, locale, block, list);
-        cache.Free(block.start);
+        cache.Free(std::exchange(block.start, 0));
         block.size = 0;
         cache.FindNext(search, 0, block.size);
         block.start = MakeBlock(cache, block.size);
         std::uint32_t size = block.size;
         found = block.start != 0 && cache.FindNext(search, block.start, size);
     }
-    cache.Free(block.start);
-    cache.CloseSearch(search);
 }
 
 }  // namespace cleanup

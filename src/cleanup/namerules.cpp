@@ -13,7 +13,7 @@ namespace {
 
 // Compared as they stand, on purpose: "x.TMP" is no temporary file. Question marks are no wildcards
 // here, and no name can hold one, so "??~" never fits, nor does the name below.
-// Each has three characters.
+// Each has three characters, which are compared one by one: each file of a disk meets them all.
 constexpr char Extensions[][4] = {"---", "tmp", "_mp", "old", "bak",
                                   "chk", "gid", "dmp", "syd", "??~"};
 constexpr std::array<std::string_view, 2> Names = {"mscreate.dir", "0???????.nch"};

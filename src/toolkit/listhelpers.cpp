@@ -14,6 +14,8 @@ void AdjustColumnWidth(ListView& list, bool accountForHeaders, int endColumnsToE
 
 void SortByHeader(ListView& list, int header, bool& descending) {
     descending = !descending;
+    // So that a sorted list is sorted once, not by the key and by the order again.
+    list.SetSorted(false);
     list.SetSortKey(header);
     list.SetSortOrder(descending ? ListView::Descending : ListView::Ascending);
     list.SetSorted(true);

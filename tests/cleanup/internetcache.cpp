@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <new>
+
 #include "platform/simulated/machine.h"
 #include "toolkit/form.h"
 #include "toolkit/listbox.h"
@@ -221,4 +223,25 @@ TEST_CASE_FIXTURE(Fixture,
                         : failing <= 9 ? Lines{"a", "b"}
                                        : Lines{"a", "b", "c"}));
     }
+}
+
+TEST_CASE_FIXTURE(Fixture, "a listing that fails in the list leaves nothing open") {
+    struct Full final : toolkit::ControlView {
+        explicit Full(toolkit::ListBox& on) : list(on) { list.SetView(this); }
+        ~Full() override { list.SetView(nullptr); }
+        void Refresh(toolkit::Aspect) override {
+            if (list.Items().size() == 2) throw std::bad_alloc();
+        }
+        void Repaint() override {}
+        bool PointerIsOver() const override { return false; }
+        void TakeFocus() override {}
+        void CaptureMouse() override {}
+        void MoveFocus(bool) override {}
+
+        toolkit::ListBox& list;
+    } full(list);
+    AddThree();
+    CHECK_THROWS_AS(Listed(), std::bad_alloc);
+    CHECK(cache.HeldBlocks() == 0);
+    CHECK(cache.OpenSearches() == 0);
 }

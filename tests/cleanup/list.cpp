@@ -1,5 +1,8 @@
 #include <doctest/doctest.h>
 
+#include <set>
+#include <utility>
+
 #include "cleanup/fixture.h"
 #include "toolkit/listhelpers.h"
 
@@ -14,6 +17,38 @@ TEST_CASE_FIXTURE(Fixture, "the list has four columns and check boxes, the delet
     CHECK(frame.cmdSearchTempFiles.Caption() == "Suchen");
 }
 
+TEST_CASE_FIXTURE(Fixture, "each control of the frame has its own caption") {
+    const std::pair<const char*, const char*> captions[] = {
+        {"Frame8", "Temporäre Dateien"},
+        {"chkScanAll", "Alle lokalen Festplatten scannen"},
+        {"chkDeleteThumbs", "Bildvorschau Archive (Thumbs.db) löschen"},
+        {"chkNullByteFiles", "Nach 0 Byte Dateien suchen"},
+        {"chkRecentDocFolder", "Ordner \"Zuletzt verwendete Dokumente \" löschen"},
+        {"chkCleanUserTempFolder", "Tempverzeichnis des angemeldeten Benutzers säubern"},
+        {"chkMoveToRecycleBin", "Gefundene Dateien in den Papierkorb verschieben"},
+        {"chkCleanRecycleBin", "Papierkorb leeren"},
+        {"cmdCleanBinDirect", "Sofort"},
+        {"cmdSearchTempFiles", "Suchen"},
+        {"cmdCleanTempFiles", "Dateien löschen"},
+    };
+    for (const auto& [name, caption] : captions) {
+        CAPTURE(std::string(name));
+        CHECK(form.FindControl(name)->Caption() == caption);
+    }
+}
+
+TEST_CASE_FIXTURE(Fixture, "each control of the frame stands in its layout once") {
+    std::multiset<std::string> names;
+    const auto collect = [&](const auto& self, const toolkit::Box& box) -> void {
+        if (box.control) names.insert(box.control->Name());
+        for (const toolkit::Box& child : box.children) self(self, child);
+    };
+    collect(collect, frame.Layout());
+    std::multiset<std::string> made;
+    for (const auto& control : form.Controls()) made.insert(control->Name());
+    CHECK(names == made);
+}
+
 TEST_CASE_FIXTURE(Fixture, "the first click on a header sorts descending, each further one turns") {
     for (const char* name : {"b", "c", "a"}) File(std::string("C:\\") + name + ".tmp");
     Search();
@@ -25,6 +60,30 @@ TEST_CASE_FIXTURE(Fixture, "the first click on a header sorts descending, each f
     list.ClickColumn(2);
     CHECK(list.SortKey() == 2);
     CHECK(list.SortOrder() == ListView::Descending);
+}
+
+TEST_CASE_FIXTURE(Fixture, "a click on another header sorts a sorted list once") {
+    struct Counting final : toolkit::ControlView {
+        explicit Counting(ListView& on) : list(on) { list.SetView(this); }
+        ~Counting() override { list.SetView(nullptr); }
+        void Refresh(toolkit::Aspect) override { ++times; }
+        void Repaint() override {}
+        bool PointerIsOver() const override { return false; }
+        void TakeFocus() override {}
+        void CaptureMouse() override {}
+        void MoveFocus(bool) override {}
+
+        ListView& list;
+        int times = 0;
+    };
+    File("C:\\a.tmp");
+    File("C:\\b.old");
+    Search();
+    list.ClickColumn(0);
+    const Counting counting(list);
+    list.ClickColumn(2);
+    CHECK(counting.times == 1);
+    CHECK(Rows() == Lines{"c:\\b.old", "c:\\a.tmp"});
 }
 
 TEST_CASE_FIXTURE(Fixture, "sizes sort as texts") {

@@ -183,6 +183,19 @@ TEST_CASE_FIXTURE(Fixture, "a sub-folder that vanishes before its size is asked 
     CHECK(machine.messages.Shown().empty());
 }
 
+TEST_CASE_FIXTURE(Fixture,
+                  "a sub-folder is what it is when its size has been told, if there at all") {
+    disk.MakeFolder("C:\\WINDOWS\\Temp\\a");
+    disk.MakeFolder("C:\\WINDOWS\\Temp\\b");
+    machine.folders.afterListing = [&](const std::string& path) {
+        if (path == "C:\\WINDOWS\\Temp\\a") disk.Erase(disk.At(path));
+        if (path == "C:\\WINDOWS\\Temp\\b") disk.At(path).modified = {2005, 1, 2, 3, 4, 5};
+    };
+    CHECK(Found() == Lines{"C:\\WINDOWS\\Temp\\b"});
+    CHECK(list.Text(0, 3) == "02.01.2005 03:04:05");
+    CHECK(machine.messages.Shown().empty());
+}
+
 TEST_CASE_FIXTURE(Fixture, "a failure of listing Windows' Temp is told unless it is not there") {
     for (int number : {5, 7, 70}) {
         machine.faults.FailAll("FindFirstFileW", number);

@@ -256,5 +256,5 @@ TEST_CASE_FIXTURE(Fixture, "a name with a dot behind it is listed as its folder 
     File("C:\\x\\a.tmp", 33);
     File("C:\\x\\~a.tmp.");
     CHECK(Found() == Lines{"c:\\x\\~a.tmp."});
-    CHECK(machine.journal.Calls("GetFileAttributesExW \"c:\\x\\~").empty());
+    CHECK(machine.journal.Text().find("GetFileAttributesExW \"c:\\x\\~") == std::string::npos);
 }
