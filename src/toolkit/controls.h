@@ -57,7 +57,7 @@ class Label : public Control {
 };
 
 // A group box: a caption and a line around the controls that the layout puts into it. For its
-// handler the same holds as for a label's.
+// handler the same holds as for a label's, and for its tip.
 class Frame : public Control {
   public:
     Frame(Form& form, std::string name, std::string caption);
@@ -89,7 +89,7 @@ class CheckBox : public Control {
 // One choice of a group. Selecting it takes the selection from the others of its group.
 class OptionButton : public Control {
   public:
-    // `group` is any number shared by the option buttons of one frame.
+    // `group` is any number shared by the option buttons of one frame and by no other on the form.
     OptionButton(Form& form, std::string name, std::string caption, int group);
 
     bool Value() const { return value_; }
