@@ -184,7 +184,7 @@ TEST_CASE("each free text of a check box names the default") {
 TEST_CASE("a text says where an option's value has no effect on Windows XP") {
     for (const char* control : {"chkCascadeExplorer", "chkDisableTM", "chkWindowsUpdate",
                                 "chkHideComputer", "chkShowALLFiles", "chkBootOptimizeFunction"}) {
-        CAPTURE(control);
+        CAPTURE(std::string(control));
         CHECK(TextOf(control).find("keine Wirkung") != std::string::npos);
     }
 }
