@@ -1,7 +1,7 @@
-// Newer run-time libraries bring along what they need for several threads, and with it functions that
-// Windows XP lacks, upon which it would not start the program. The program has one thread: here are
-// a guard of static objects that waits for nobody, and a function for the library's own threads,
-// which are never made.
+// Newer run-time libraries bring along what they need for several threads, and with it functions
+// that Windows XP lacks, upon which it would not start the program. The program has one thread:
+// here are a guard of static objects that waits for nobody, and a function for the library's own
+// threads, which are never made.
 #include <cstdint>
 
 namespace {
@@ -30,7 +30,7 @@ void __cxa_guard_release(std::int64_t* guard) {
 void __cxa_guard_abort(std::int64_t*) {}
 
 // Found here, it is not imported from the system.
-extern unsigned long (__attribute__((stdcall)) * const GetThreadIdOfNobody)(void*) asm(
+extern unsigned long(__attribute__((stdcall)) * const GetThreadIdOfNobody)(void*) asm(
     "__imp__GetThreadId@4");
-unsigned long (__attribute__((stdcall)) * const GetThreadIdOfNobody)(void*) = NoThreadId;
+unsigned long(__attribute__((stdcall)) * const GetThreadIdOfNobody)(void*) = NoThreadId;
 }

@@ -48,7 +48,7 @@ std::vector<Row> RowsOf(const toolkit::ListView& list) {
 // is not noticed.
 class Removal {
   public:
-    Removal(TempFilesFrame& frame, platform::Machine& machine, const KnownLinks& links)
+    Removal(TempFilesFrame& frame, const platform::Machine& machine, const KnownLinks& links)
         : frame_(frame),
           machine_(machine),
           rows_(RowsOf(frame.lvwFiles)),
@@ -69,7 +69,7 @@ class Removal {
     void MoveToBin(const std::string& path) const;
 
     TempFilesFrame& frame_;
-    platform::Machine& machine_;
+    const platform::Machine& machine_;
     const std::vector<Row> rows_;
     const KnownLinks links_;
     const bool emptiesBin_;

@@ -245,9 +245,11 @@ TEST_CASE_FIXTURE(Frame, "a system without a network is told of in the time serv
     CHECK(Label() == "");
 }
 
-TEST_CASE_FIXTURE(Frame, "a box that cannot be shown is a failure like another") {
-    machine.faults.FailNth(2, 7);
+TEST_CASE_FIXTURE(Frame, "a message that cannot be shown keeps neither the clock nor the pointer") {
+    machine.faults.FailAll("MessageBox", 7);
     Press();
-    CHECK(Shown() == std::vector{NotDone("Nicht genügend Speicher [7]")});
+    CHECK(Shown().empty());
     CHECK(Runs());
+    CHECK(Label() == "");
+    CHECK(machine.forms.ScreenPointer() == toolkit::DefaultPointer);
 }
