@@ -122,7 +122,8 @@ TEST_CASE("a program that ends before its window is there makes no tips") {
     CHECK(program.machine.journal.Calls("InitCommonControlsEx").empty());
 }
 
-TEST_CASE("four controls and the buttons of the paths have a line of their own for the mouse") {
+TEST_CASE(
+    "four controls, a frame and the buttons of the paths have a line of their own for the mouse") {
     Program program;
     REQUIRE(program.Start());
     const auto line = [&](const char* name) { return program.form->FindControl(name)->ToolTip(); };
@@ -132,7 +133,8 @@ TEST_CASE("four controls and the buttons of the paths have a line of their own f
     CHECK(line("chkCDAutoPlay") == "Nur Windows XP Home Edition");
     CHECK(line("chk1RecycleBinDelete") ==
           "Diese Einstellung ist erst nach einem Neustart aktiviert");
+    CHECK_FALSE(line("fraSystemFixes").empty());
     const auto& controls = program.form->Controls();
     CHECK(std::count_if(controls.begin(), controls.end(),
-                        [](const auto& control) { return !control->ToolTip().empty(); }) == 4 + 14);
+                        [](const auto& control) { return !control->ToolTip().empty(); }) == 5 + 14);
 }
