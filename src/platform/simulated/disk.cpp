@@ -61,6 +61,11 @@ std::string DiskNode::Path() const {
 
 DiskNode* Disk::Walk(std::string_view path, Last last, int& linksLeft) const {
     DiskNode* node = &top_;
+    if (path.starts_with("\\\\")) {
+        path.remove_prefix(2);
+        // A server alone is no folder; its shares are.
+        if (path.find('\\') == std::string_view::npos) return nullptr;
+    }
     if (path.empty()) return nullptr;
     while (node && !path.empty()) {
         const std::string_view part = TakePart(path);

@@ -1,0 +1,40 @@
+#include "cleanup/deletefolder.h"
+
+#include <doctest/doctest.h>
+
+#include "cleanup/fixture.h"
+
+using cleanup_test::NumberOf;
+
+namespace {
+
+struct Fixture {
+    platform::simulated::Machine machine;
+    platform::simulated::Disk& disk = machine.disk;
+    platform::Folders& folders = machine.services.folders;
+    platform::Files& files = machine.services.files;
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture, "a file taken for a folder is failure 76 and stays") {
+    disk.MakeFile("C:\\a.tmp");
+    CHECK(NumberOf([&] { cleanup::DeleteFolder(folders, files, "C:\\a.tmp"); }) == 76);
+    CHECK(NumberOf([&] { cleanup::DropLinks(folders, files, "C:\\a.tmp"); }) == 76);
+    CHECK(folders.Find("C:\\a.tmp").has_value());
+}
+
+TEST_CASE_FIXTURE(Fixture, "a folder that is not there is failure 76") {
+    CHECK(NumberOf([&] { cleanup::DeleteFolder(folders, files, "C:\\gone"); }) == 76);
+    CHECK(NumberOf([&] { cleanup::DropLinks(folders, files, "C:\\gone"); }) == 76);
+}
+
+TEST_CASE_FIXTURE(Fixture, "only the links to folders are taken out of a folder") {
+    disk.MakeFile("D:\\data\\precious.txt");
+    disk.MakeFile("C:\\x\\deep\\a.txt");
+    disk.MakeLink("C:\\x\\deep\\link", "D:\\data");
+    cleanup::DropLinks(folders, files, "C:\\x");
+    CHECK_FALSE(folders.Find("C:\\x\\deep\\link").has_value());
+    CHECK(folders.Find("C:\\x\\deep\\a.txt").has_value());
+    CHECK(folders.Find("D:\\data\\precious.txt").has_value());
+}

@@ -1,0 +1,45 @@
+#include "cleanup/knownlinks.h"
+
+#include <doctest/doctest.h>
+
+#include "cleanup/fixture.h"
+
+namespace {
+
+struct Fixture {
+    platform::simulated::Machine machine;
+    platform::simulated::Disk& disk = machine.disk;
+    platform::Folders& folders = machine.services.folders;
+    cleanup::KnownLinks links;
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Fixture,
+                  "a link that the search came through leads on, one that came later not") {
+    disk.MakeFolder("D:\\data");
+    disk.MakeLink("C:\\x\\known", "D:\\data");
+    disk.MakeLink("C:\\x\\later", "D:\\data");
+    links.Add(folders, "C:\\x\\known");
+    CHECK(links.LeadTo(folders, "C:\\x\\known\\a.tmp"));
+    CHECK_FALSE(links.LeadTo(folders, "C:\\x\\later\\a.tmp"));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a link itself need not be known, only those above it") {
+    disk.MakeLink("C:\\x\\link", "D:\\data");
+    CHECK(links.LeadTo(folders, "C:\\x\\link"));
+}
+
+TEST_CASE_FIXTURE(Fixture, "a path below a folder that is gone leads nowhere") {
+    CHECK_FALSE(links.LeadTo(folders, "C:\\gone\\a.tmp"));
+}
+
+TEST_CASE_FIXTURE(Fixture, "on a server folders begin behind the share") {
+    disk.MakeFolder("\\\\server\\share\\temp");
+    disk.MakeFolder("D:\\data");
+    disk.MakeLink("\\\\server\\share\\temp\\link", "D:\\data");
+    CHECK(links.LeadTo(folders, "\\\\server\\share\\temp\\a.tmp"));
+    CHECK_FALSE(links.LeadTo(folders, "\\\\server\\share\\temp\\link\\a.tmp"));
+    links.Add(folders, "\\\\server\\share\\temp\\link");
+    CHECK(links.LeadTo(folders, "\\\\server\\share\\temp\\link\\a.tmp"));
+}
