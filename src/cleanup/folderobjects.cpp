@@ -2,6 +2,7 @@
 
 #include "cleanup/literalpath.h"
 #include "runtime/failure.h"
+#include "runtime/text.h"
 
 namespace cleanup {
 
@@ -37,7 +38,9 @@ std::vector<Folder> SubFolders(platform::Folders& folders, const std::string& pa
 
 std::optional<FolderEntry> AsItIsNow(const platform::Folders& folders, const std::string& path,
                                      const FolderEntry& listed) {
-    if (!IsTakenLiterally(path)) return listed;
+    // Neither a name that the system takes for another one nor a path that is too long for it can
+    // be asked for again.
+    if (!IsTakenLiterally(path) || runtime::Length(path) >= platform::PathLimit) return listed;
     auto now = folders.Find(path);
     if (now && now->IsFolder() != listed.IsFolder()) now.reset();
     return now;

@@ -34,8 +34,11 @@ struct FolderEntry {
     bool operator==(const FolderEntry&) const = default;
 };
 
+// Paths of so many characters are not found, nor are longer ones.
+inline constexpr std::size_t PathLimit = 260;
+
 // Folders and what stands in them. On the way to a path links are followed; what the path itself
-// names is taken as it is, link or not. Paths of 260 or more characters are not found.
+// names is taken as it is, link or not.
 class Folders {
   public:
     virtual ~Folders() = default;

@@ -85,9 +85,9 @@ constexpr HelpText Rows[] = {
      "abgeschaltet."},
     {"chkCDAutoPlay",
      "Startet eingelegte CDs automatisch, wie es Windows XP standardmäßig tut. Die Option ist nur "
-     "für die Windows XP Home Edition gedacht. ACHTUNG: Eingeschaltet löscht jedes Übernehmen den "
-     "ganzen Schlüssel mit den Richtlinien für den Explorer samt allen anderen Einträgen, nur "
-     "einer mit Unterschlüsseln bleibt, wie er ist!"},
+     "für die Windows XP Home Edition gedacht. ACHTUNG: Ist sie eingeschaltet, löscht jedes "
+     "Übernehmen den ganzen Schlüssel mit den Richtlinien für den Explorer samt allen anderen "
+     "Einträgen, nur einer mit Unterschlüsseln bleibt, wie er ist!"},
     {"chkDescriptionPopups",
      "Zeigt eine kurze Beschreibung an, wenn die Maus auf einer Datei, einem Ordner oder einem "
      "Desktop-Icon stehen bleibt. Standardmäßig ist dies eingeschaltet. ACHTUNG: Solange die "
@@ -148,8 +148,8 @@ constexpr HelpText Rows[] = {
      "Fenster des Internet Explorers hat der Eintrag keine Wirkung."},
     {"chkDOSComp",
      "Windows XP legt auf NTFS-Laufwerken zu langen Dateinamen kurze (8.3) an, die DOS-Programme "
-     "und manche Installationsprogramme noch benötigen. Standardmäßig ist dies aktiv, ohne sie "
-     "gewinnen Sie etwas Geschwindigkeit. Fehlt der Eintrag, erscheint die Option als "
+     "und manche Installationsprogramme noch benötigen. Standardmäßig ist dies aktiv, ohne die "
+     "kurzen Namen gewinnen Sie etwas Geschwindigkeit. Fehlt der Eintrag, erscheint die Option als "
      "ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkIconCache",
      "Sollten sich Icons während des Arbeitens verändern bzw. das aussehen anderer Icons annehmen, "
@@ -214,8 +214,8 @@ constexpr HelpText Rows[] = {
      "ACHTUNG: Die Option erscheint auch dann als eingeschaltet, und das Übernehmen entfernt die "
      "Ordner!"},
     {"chkPageFileDelete",
-     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, das damit deutlich länger "
-     "dauert, so dass niemand Reste Ihrer Daten darin lesen kann. Standardmäßig ist dies "
+     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, damit niemand Reste Ihrer Daten "
+     "darin lesen kann; das dauert deutlich länger. Standardmäßig ist dies "
      "ausgeschaltet. Fehlt der Eintrag, erscheint die Option als eingeschaltet und wird beim "
      "Übernehmen eingeschaltet."},
     {"chkDisableTM",

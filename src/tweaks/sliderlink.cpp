@@ -7,6 +7,7 @@
 #include "toolkit/controls.h"
 
 namespace tweaks {
+
 void LinkSliderWithBox(toolkit::Slider& slider, toolkit::TextBox& box,
                        const platform::Locale& locale, std::function<void(std::int32_t)> effect) {
     slider.onChange = [&slider, &box, effect = std::move(effect)] {

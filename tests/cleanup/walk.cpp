@@ -232,6 +232,14 @@ TEST_CASE_FIXTURE(Fixture, "a file is what it is when its turn comes, not when i
     CHECK(frame.lblHinweisTemp.Caption() == "1 Tempdateien belegen 4 Bytes - Gescannt: 6 Dateien");
 }
 
+TEST_CASE_FIXTURE(Fixture,
+                  "a file whose path is too long to be asked for is listed as it was found") {
+    const std::string folder = "c:\\x\\" + std::string(240, 'f');
+    File(folder + "\\much too long.tmp", 32, "text");
+    CHECK(Found() == Lines{folder + "\\much too long.tmp"});
+    CHECK(Column(1) == Lines{"4"});
+}
+
 TEST_CASE_FIXTURE(Fixture, "only what would get a row is asked for once more") {
     File("C:\\x\\a.tmp");
     File("C:\\x\\b.txt");

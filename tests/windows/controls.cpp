@@ -5,10 +5,28 @@
 
 #include "platform/win32/windows/controlwindow.h"
 #include "runtime/failure.h"
+#include "support/standinfunction.h"
 #include "windows/desk.h"
 #include "windows/realmouse.h"
 
 using namespace windows;
+
+// Where the code of this program finds the system's function.
+extern "C" {
+extern void* entryOfGetNextDlgTabItem asm("__imp__GetNextDlgTabItem@12");
+}
+
+namespace {
+
+// As the system's answers where there is one place only. From a place out of use Windows would
+// look for ever.
+HWND WINAPI NextOfOneInUse(HWND, HWND from, BOOL) {
+    CHECK(IsWindowEnabled(from));
+    CHECK(IsWindowVisible(from));
+    return from;
+}
+
+}  // namespace
 
 TEST_CASE("every window carries its control's name in the ANSI code page") {
     Desk desk;
@@ -273,6 +291,23 @@ TEST_CASE("the only control hands the focus to the form when it loses its use") 
     auto& only = form.Add<PlainButton>("cmdOnly", "OK");
     form.Show();
     SetFocus(desk.Find(form, "cmdOnly"));
+    SUBCASE("disabled") {
+        only.SetEnabled(false);
+    }
+    SUBCASE("hidden") {
+        only.SetVisible(false);
+    }
+    CHECK(GetFocus() == desk.host.WindowOf(form));
+}
+
+TEST_CASE("the system looks for the next control only from one that is in use") {
+    Desk desk;
+    TestForm form(desk.host, "frmAbout");
+    form.Add<toolkit::Label>("lbl", "Text");
+    auto& only = form.Add<PlainButton>("cmdOnly", "OK");
+    form.Show();
+    SetFocus(desk.Find(form, "cmdOnly"));
+    const support::StandInFunction watched(entryOfGetNextDlgTabItem, NextOfOneInUse);
     SUBCASE("disabled") {
         only.SetEnabled(false);
     }

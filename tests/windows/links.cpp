@@ -12,6 +12,18 @@ using namespace windows;
 
 namespace {
 
+// The key that is to come up last; 0 when it has.
+WPARAM released = 0;
+
+LRESULT CALLBACK NoteRelease(int code, WPARAM wParam, LPARAM lParam) {
+    const auto* message = reinterpret_cast<const MSG*>(lParam);
+    const bool isRelease = message->message == WM_KEYUP || message->message == WM_SYSKEYUP;
+    if (code == HC_ACTION && wParam == PM_REMOVE && isRelease && message->wParam == released) {
+        released = 0;
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
 // A page of a box, two links and a box in a frame; a page with a box; one with nothing for the
 // keyboard.
 struct Pages {
@@ -51,11 +63,17 @@ struct Pages {
         RealMouse::Press(key, true);
         RealMouse::Press(key, false);
         for (const WORD other : held) RealMouse::Press(other, false);
+        released = held.size() > 0 ? *(held.end() - 1) : key;
+        const HHOOK hook =
+            SetWindowsHookExW(WH_GETMESSAGE, NoteRelease, nullptr, GetCurrentThreadId());
         const DWORD start = GetTickCount();
-        while (GetTickCount() - start < 100) {
-            desk.host.DoEvents();
+        while (released && form.Loaded() && GetTickCount() - start < 5000) {
             MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+            desk.host.DoEvents();
         }
+        UnhookWindowsHookEx(hook);
+        // A form that has gone hears of no release.
+        CHECK((released == 0 || !form.Loaded()));
     }
     std::string Focused() const { return NameOf(GetFocus()); }
 };

@@ -46,7 +46,8 @@ struct Fixture : Desk {
     std::vector<DWORD> Picture() const {
         const RECT area = support::ClientOnScreen(host.WindowOf(form));
         std::vector<DWORD> picture;
-        for (bool changed = true; changed;) {
+        const DWORD start = GetTickCount();
+        for (bool changed = true; changed && GetTickCount() - start < 10000;) {
             ServeAWhile(150);
             auto next = support::ScreenPixels(area);
             changed = next != picture;

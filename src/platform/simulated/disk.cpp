@@ -9,8 +9,7 @@ namespace platform::simulated {
 
 namespace {
 
-// The longest path has 259 characters, and a path leads through 31 links at most.
-constexpr std::size_t PathLimit = 260;
+// A path leads through so many links at most.
 constexpr int LinkLimit = 31;
 
 // The part before the next backslash, which is taken off with it.

@@ -109,8 +109,11 @@ void Files::Remove(std::string_view path, bool force) {
     // away no sooner.
     const FileHandle alone(CreateFileW(wide.c_str(), DELETE, FILE_SHARE_DELETE, nullptr,
                                        OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
-    if (alone && DeleteFileW(wide.c_str())) return;
-    const DWORD error = GetLastError();
+    DWORD error = alone ? ERROR_SUCCESS : GetLastError();
+    if (error != ERROR_SHARING_VIOLATION) {
+        if (DeleteFileW(wide.c_str())) return;
+        error = GetLastError();
+    }
     if (force && isProtected) SetFileAttributesW(wide.c_str(), attributes);
     throw FailureOf(error);
 }

@@ -70,8 +70,8 @@ void Socket::ConnectTo(ULONG address) {
     server.sin_port = htons(remotePort);
     server.sin_addr.s_addr = address;
     socket_.Reset(socket(AF_INET, SOCK_STREAM, IPPROTO_TCP));
-    if (WSAAsyncSelect(socket_.Get(), window_.Get(), message_, FD_CONNECT | FD_READ | FD_CLOSE) !=
-        0) {
+    if (!socket_ || WSAAsyncSelect(socket_.Get(), window_.Get(), message_,
+                                   FD_CONNECT | FD_READ | FD_CLOSE) != 0) {
         PostError(WSAGetLastError());
     } else if (connect(socket_.Get(), reinterpret_cast<sockaddr*>(&server), sizeof server) != 0 &&
                WSAGetLastError() != WSAEWOULDBLOCK) {

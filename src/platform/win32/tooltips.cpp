@@ -72,7 +72,8 @@ void ToolTips::SendTool(Handle window, std::uint32_t message, TipTool& tool, con
     tool.right = record.rect.right;
     tool.bottom = record.rect.bottom;
     // Over a combo box the mouse is mostly in the field inside, which needs a tool of its own.
-    if (message != TTM_ADDTOOLA || !(tool.uFlags & TTF_IDISHWND)) return;
+    const bool concernsField = message == TTM_ADDTOOLA || message == TTM_DELTOOLA;
+    if (!concernsField || !(tool.uFlags & TTF_IDISHWND) || !record.hwnd) return;
     if (const HWND field = FindWindowExA(record.hwnd, nullptr, WC_EDITA, nullptr)) {
         record.hwnd = field;
         record.uId = reinterpret_cast<UINT_PTR>(field);

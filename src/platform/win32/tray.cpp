@@ -17,7 +17,7 @@ constexpr UINT TrayMessage = WM_APP + 1;
 constexpr UINT TrayId = 1;
 constexpr WORD ProgramIcon = 1;
 constexpr UINT_PTR RetryTimer = 1;
-constexpr UINT RetryInterval = 2000;
+constexpr UINT FirstRetry = 500;
 
 // The record without the fields that came later: the shells of 2000 and XP know both.
 constexpr DWORD RecordSize = NOTIFYICONDATAW_V2_SIZE;
@@ -36,6 +36,7 @@ HICON SmallIcon() {
 Tray::Tray(platform::Messages& messages)
     : messages_(messages),
       shellStarted_(RegisterWindowMessageW(L"TaskbarCreated")),
+      retryInterval_(FirstRetry),
       window_([this](UINT message, WPARAM, LPARAM lParam) { Receive(message, lParam); }) {}
 
 Tray::~Tray() {
@@ -66,7 +67,9 @@ void Tray::SetShown(bool shown) {
 // without the icon there would be no way back to a hidden window.
 void Tray::Put() {
     shown_ = Notify(NIM_ADD) || Notify(NIM_MODIFY);
-    if (!shown_) SetTimer(window_.Get(), RetryTimer, RetryInterval, nullptr);
+    // A shell that hangs holds each attempt up, so they come ever more seldom.
+    retryInterval_ = shown_ ? FirstRetry : retryInterval_ * 2;
+    if (!shown_) SetTimer(window_.Get(), RetryTimer, retryInterval_, nullptr);
 }
 
 bool Tray::Notify(DWORD action) {

@@ -31,6 +31,8 @@ class Tray final : public platform::Tray {
     UINT shellStarted_;
     bool wanted_ = false;
     bool shown_ = false;
+    // Milliseconds.
+    unsigned retryInterval_;
     HICON icon_ = nullptr;
     std::wstring tip_;
     HiddenWindow window_;

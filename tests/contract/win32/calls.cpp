@@ -18,6 +18,7 @@
 #include "platform/win32/handle.h"
 #include "platform/win32/messages.h"
 #include "platform/win32/shell.h"
+#include "support/standinfunction.h"
 #include "utilities/shellwait.h"
 
 // Where the code of this program finds the system's functions.
@@ -34,31 +35,7 @@ extern void* entryOfShellExecute asm("__imp__ShellExecuteA@24");
 namespace {
 
 namespace win32 = platform::win32;
-
-// While this lives, another function stands in for one of the system's.
-class StandInFunction {
-  public:
-    template <typename Function>
-    StandInFunction(void*& entry, Function* function) : entry_(entry), real_(entry) {
-        Enter(reinterpret_cast<void*>(function));
-    }
-    ~StandInFunction() { Enter(real_); }
-    StandInFunction(const StandInFunction&) = delete;
-    StandInFunction& operator=(const StandInFunction&) = delete;
-
-    void* Real() const { return real_; }
-
-  private:
-    void Enter(void* function) {
-        DWORD protection = 0;
-        VirtualProtect(&entry_, sizeof entry_, PAGE_READWRITE, &protection);
-        entry_ = function;
-        VirtualProtect(&entry_, sizeof entry_, protection, &protection);
-    }
-
-    void*& entry_;
-    void* real_;
-};
+using support::StandInFunction;
 
 // The program's main form, with a plain window.
 class MainForm final : public win32::FormHandles {

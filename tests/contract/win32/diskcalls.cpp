@@ -12,6 +12,7 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "runtime/failure.h"
+#include "support/standinfunction.h"
 
 // What the program asks of the system's disks, watched where it makes the calls.
 
@@ -45,24 +46,10 @@ void Look(const char* name) {
 
 // One function is replaced by another as long as this lives.
 template <auto& Slot>
-class Replaced {
-  public:
+struct Replaced : support::StandInFunction {
     using Function = std::remove_reference_t<decltype(Slot)>;
 
-    explicit Replaced(Function other) : own_(Slot) { Put(other); }
-    ~Replaced() { Put(own_); }
-    Replaced(const Replaced&) = delete;
-    Replaced& operator=(const Replaced&) = delete;
-
-  private:
-    static void Put(Function function) {
-        DWORD before = 0;
-        VirtualProtect(&Slot, sizeof Slot, PAGE_READWRITE, &before);
-        Slot = function;
-        VirtualProtect(&Slot, sizeof Slot, before, &before);
-    }
-
-    const Function own_;
+    explicit Replaced(Function other) : StandInFunction(reinterpret_cast<void*&>(Slot), other) {}
 };
 
 // Looks at each call of one function.

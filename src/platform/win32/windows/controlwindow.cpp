@@ -57,15 +57,15 @@ void ControlWindow::Refresh(toolkit::Aspect what) {
             SetWindowTextW(window_, ToWide(control_.Caption()).c_str());
             break;
         case toolkit::Aspect::Enabled: {
-            const bool leaves = !control_.Enabled() && HasFocus();
+            const HWND heir = !control_.Enabled() && HasFocus() ? Heir() : nullptr;
             EnableWindow(window_, control_.Enabled());
-            if (leaves) HandFocusOn();
+            if (heir) FocusLikeDialog(heir);
             break;
         }
         case toolkit::Aspect::Visible: {
-            const bool leaves = !control_.Visible() && HasFocus();
+            const HWND heir = !control_.Visible() && HasFocus() ? Heir() : nullptr;
             ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
-            if (leaves) HandFocusOn();
+            if (heir) FocusLikeDialog(heir);
             break;
         }
         case toolkit::Aspect::Limits:
@@ -119,16 +119,18 @@ void ControlWindow::MoveFocus(bool forward) {
     if (next) FocusLikeDialog(next);
 }
 
-// Without a window that has the focus the keyboard would be dead; where no other control takes it,
-// the form does.
-void ControlWindow::HandFocusOn() const {
+// Asked of the system only while this is in use: it walks in a ring until it comes back, and it
+// passes over what is not in use, so that it might never come back.
+HWND ControlWindow::Heir() const {
     const HWND form = GetAncestor(window_, GA_ROOT);
+    if (!IsWindowEnabled(window_) || !IsWindowVisible(window_)) return form;
     const HWND next = GetNextDlgTabItem(form, window_, FALSE);
-    if (next && IsWindowEnabled(next) && IsWindowVisible(next)) {
-        FocusLikeDialog(next);
-    } else {
-        SetFocus(form);
-    }
+    return next != window_ && IsTabStop(next) ? next : form;
+}
+
+bool IsTabStop(HWND window) {
+    return (GetWindowLongW(window, GWL_STYLE) & WS_TABSTOP) && IsWindowEnabled(window) &&
+           IsWindowVisible(window);
 }
 
 void FocusLikeDialog(HWND window) {

@@ -95,8 +95,9 @@ class ControlWindow : public toolkit::ControlView,
     const Surroundings surroundings_;
 
   private:
-    // After the native window has lost its use.
-    void HandFocusOn() const;
+    // Who gets the focus when the native window loses its use. Without a window that has it the
+    // keyboard would be dead, so where no other control takes it the form does.
+    HWND Heir() const;
 
     toolkit::Control& control_;
     HWND window_ = nullptr;
@@ -107,6 +108,8 @@ class ControlWindow : public toolkit::ControlView,
 
 // Gives the focus to a window, and selects the text of an edit field as a dialog does.
 void FocusLikeDialog(HWND window);
+// Whether the tabulator stops there now.
+bool IsTabStop(HWND window);
 
 // The text of a native window.
 std::string TextOf(HWND window);

@@ -124,8 +124,9 @@ void TabStripWindow::Turn(bool forward) {
     Guard([&] { control_.SetTab(next); });
     if (!Window() || !wasOnPage) return;
     const HWND page = pages_.at(static_cast<std::size_t>(control_.Tab()));
-    const HWND first = GetNextDlgTabItem(page, nullptr, FALSE);
-    if (first && IsWindowVisible(first)) FocusLikeDialog(first);
+    HWND first = GetWindow(page, GW_CHILD);
+    while (first && !IsTabStop(first)) first = GetWindow(first, GW_HWNDNEXT);
+    if (first) FocusLikeDialog(first);
 }
 
 void TabStripWindow::Notified(UINT code) {
