@@ -38,7 +38,13 @@ BOOL CALLBACK BoxAnswerer::Found(HWND window, LPARAM parameter) {
     const HWND label = GetDlgItem(window, TextId);
     wchar_t name[16] = {};
     GetClassNameW(window, name, 16);
-    if (!self || std::wstring_view(name) != L"#32770" || !label) return TRUE;
+    if (!self || std::wstring_view(name) != L"#32770") return TRUE;
+    if (!label) {
+        if (!GetDlgItem(window, self->answer_)) return TRUE;
+        ++self->shellQuestions;
+        EndDialog(window, self->answer_);
+        return FALSE;
+    }
     ++self->boxes;
     self->title = TextOf(window);
     self->text = TextOf(label);

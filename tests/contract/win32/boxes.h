@@ -15,6 +15,8 @@ class BoxAnswerer {
     BoxAnswerer& operator=(const BoxAnswerer&) = delete;
 
     int boxes = 0;
+    // Questions of the shell's, which are no message boxes but have the same buttons.
+    int shellQuestions = 0;
     std::string title;
     std::string text;
     HWND owner = nullptr;

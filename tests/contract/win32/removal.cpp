@@ -32,6 +32,8 @@ struct Fixture {
     cleanup::TempFiles tool{form, machine.Services()};
     cleanup::TempFilesFrame& frame = tool.Frame();
     toolkit::ListView& list = frame.lvwFiles;
+    // Of the last removal.
+    int shellQuestions = 0;
 
     // The user's temp folder is the one here, and the selected drive has no medium.
     Fixture() {
@@ -99,6 +101,7 @@ struct Fixture {
         contract::BoxAnswerer user(IDYES);
         frame.cmdCleanTempFiles.Press();
         CHECK(user.boxes == 1);
+        shellQuestions = user.shellQuestions;
         for (const std::string& path : Precious()) {
             CAPTURE(path);
             CHECK(machine.FileContent(path) == path);
@@ -139,6 +142,24 @@ TEST_CASE_FIXTURE(Fixture, "real folders and files are removed, read-only ones i
     Clean();
     CHECK_FALSE(IsThere("a"));
     CHECK_FALSE(IsThere("d.dat"));
+}
+
+TEST_CASE_FIXTURE(Fixture, "the bin takes ticked files and all folders, each after a question") {
+    Folder("a");
+    Make("a\\b.dat");
+    Make("c.dat");
+    Make("kept.dat");
+    Search();
+    for (int row = 0; row < list.Count(); ++row) {
+        const std::string& path = list.Text(row);
+        list.SetTicked(row, path == In("c.dat") || path == In("a\\b.dat"));
+    }
+    frame.chkMoveToRecycleBin.SetValue(1);
+    Clean();
+    CHECK(shellQuestions == 3);
+    CHECK_FALSE(IsThere("a"));
+    CHECK_FALSE(IsThere("c.dat"));
+    CHECK(IsThere("kept.dat"));
 }
 
 TEST_CASE_FIXTURE(Fixture, "links in a folder that is removed leave what they lead to") {
