@@ -14,8 +14,9 @@
 # line; the exit code is 1 when there is any.
 set -euo pipefail
 
-# Rows of the import tables are the lines led by a tab; an import by number alone reads
-# "\t800000b2\t  178  <none>".
+# Rows of the import tables are the lines led by a tab. Older versions of objdump print address, hint
+# and name, and an import by number alone as "\t800000b2\t  178  <none>"; newer ones print address,
+# number, hint and name, and that as "\t000070f8    178  <none> <none>".
 Imports() {
     awk '
         /^\tDLL Name: / {
@@ -25,6 +26,10 @@ Imports() {
         }
         /^\t[0-9a-f]+\t +[0-9]+  [^ ]/ {
             print dll "!" ($3 == "<none>" ? "#" $2 : $3)
+            next
+        }
+        /^\t[0-9a-f]+  +(<none>|[0-9]+) +(<none>|[0-9a-f]+) +[^ ]/ {
+            print dll "!" ($4 == "<none>" ? "#" $2 : $4)
         }
     ' "$1" | LC_ALL=C sort -u
 }

@@ -46,6 +46,13 @@ Refuses "common controls that are not initialised" "InitCommonControls is not im
     '/InitCommonControls/d' headers.txt "${imports[@]}"
 Refuses "a text without imports" "no import table found" '/^\t/d' headers.txt "${imports[@]}"
 
+Accepts "known functions pass, as newer tools print them" \
+    "${imports[@]}" "$here/samples/headers-newer.txt"
+Refuses "an unknown function, as newer tools print it" "shell32!SHGetKnownFolderPath" \
+    's/ShellExecuteA/SHGetKnownFolderPath/' headers-newer.txt "${imports[@]}"
+Refuses "an unknown ordinal, as newer tools print it" "shell32!#179" \
+    's/  178  <none>/  179  <none>/' headers-newer.txt "${imports[@]}"
+
 later=$here/samples/service-packs.txt
 Accepts "functions of the first XP pass" service-packs "$later" "$here/samples/headers.txt"
 Refuses "a function of a service pack" "came with a service pack: shell32!LaterFunction" \

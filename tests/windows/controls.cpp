@@ -287,32 +287,25 @@ TEST_CASE("a control that loses its use hands the focus on") {
 
 TEST_CASE("the only control hands the focus to the form when it loses its use") {
     Desk desk;
-    TestForm form(desk.host, "frmMain");
-    auto& only = form.Add<PlainButton>("cmdOnly", "OK");
-    form.Show();
-    SetFocus(desk.Find(form, "cmdOnly"));
-    SUBCASE("disabled") {
-        only.SetEnabled(false);
-    }
-    SUBCASE("hidden") {
-        only.SetVisible(false);
-    }
-    CHECK(GetFocus() == desk.host.WindowOf(form));
-}
-
-TEST_CASE("the system looks for the next control only from one that is in use") {
-    Desk desk;
     TestForm form(desk.host, "frmAbout");
     form.Add<toolkit::Label>("lbl", "Text");
     auto& only = form.Add<PlainButton>("cmdOnly", "OK");
     form.Show();
     SetFocus(desk.Find(form, "cmdOnly"));
-    const support::StandInFunction watched(entryOfGetNextDlgTabItem, NextOfOneInUse);
-    SUBCASE("disabled") {
-        only.SetEnabled(false);
+    const auto loseUse = [&] {
+        SUBCASE("disabled") {
+            only.SetEnabled(false);
+        }
+        SUBCASE("hidden") {
+            only.SetVisible(false);
+        }
+    };
+    SUBCASE("in a ring of the system's") {
+        loseUse();
     }
-    SUBCASE("hidden") {
-        only.SetVisible(false);
+    SUBCASE("in a ring that can only be entered from a control in use") {
+        const support::StandInFunction watched(entryOfGetNextDlgTabItem, NextOfOneInUse);
+        loseUse();
     }
     CHECK(GetFocus() == desk.host.WindowOf(form));
 }

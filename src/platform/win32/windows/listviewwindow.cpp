@@ -33,7 +33,7 @@ void ListViewWindow::Prepare() {
     if (boxes) Send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);
     hook_.Watch(Window(), [this](HookedMessage& hooked) {
         const auto alive = shared_from_this();
-        return Handle(hooked);
+        return Answer(hooked);
     });
 }
 
@@ -74,7 +74,7 @@ LRESULT ListViewWindow::Pass(const HookedMessage& hooked) {
 }
 
 // While the list is locked only who asks it for its rows makes it catch up.
-LRESULT ListViewWindow::Handle(HookedMessage& hooked) {
+LRESULT ListViewWindow::Answer(HookedMessage& hooked) {
     if (stale_ && (!locked_ || hooked.message >= LVM_FIRST)) CatchUp();
     switch (hooked.message) {
         case WM_KEYDOWN:

@@ -34,7 +34,7 @@ class ListViewWindow final : public ControlWindow {
     void ShowValue() override;
 
   private:
-    LRESULT Handle(HookedMessage& hooked);
+    LRESULT Answer(HookedMessage& hooked);
     LRESULT Pass(const HookedMessage& hooked);
     LRESULT Hear(const NMHDR& notice);
     LRESULT KeyDown(HookedMessage& hooked);
