@@ -39,7 +39,8 @@ class FolderWalk {
 
     // A row, ticked, unless the attributes forbid it. While the list is sorted a row's size, type
     // and date go to the last row, on purpose: they go by the number of rows. So a search in a
-    // sorted list leaves rows without a size, which cannot be added up, and mostly ends with failure 13.
+    // sorted list leaves rows without a size, which cannot be added up, and mostly ends with
+    // failure 13.
     void AddFileRow(const std::string& path, double size, const std::string& type,
                     const platform::LocalTime& modified, std::uint32_t attributes);
 

@@ -40,7 +40,7 @@ BOOL CALLBACK BoxAnswerer::Found(HWND window, LPARAM parameter) {
     GetClassNameW(window, name, 16);
     if (!self || std::wstring_view(name) != L"#32770") return TRUE;
     if (!label) {
-        if (!GetDlgItem(window, self->answer_)) return TRUE;
+        if (!GetDlgItem(window, IDYES)) return TRUE;
         ++self->shellQuestions;
         EndDialog(window, self->answer_);
         return FALSE;
