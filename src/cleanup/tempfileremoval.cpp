@@ -25,14 +25,14 @@ namespace {
 
 constexpr auto Title = "Tempdateien löschen";
 
-struct Row {
+struct TickedRow {
     std::string path;
     bool ticked = false;
     bool isFolder = false;
 };
 
-std::vector<Row> RowsOf(const toolkit::ListView& list) {
-    std::vector<Row> rows;
+std::vector<TickedRow> RowsOf(const toolkit::ListView& list) {
+    std::vector<TickedRow> rows;
     for (int row = 0; row < list.Count(); ++row) {
         // The one word on purpose: elsewhere, where the shell has another one, folders stay.
         rows.push_back(
@@ -70,7 +70,7 @@ class Removal {
 
     TempFilesFrame& frame_;
     const platform::Machine& machine_;
-    const std::vector<Row> rows_;
+    const std::vector<TickedRow> rows_;
     const KnownLinks links_;
     const bool emptiesBin_;
     const bool intoBin_;
@@ -84,7 +84,7 @@ void Removal::EmptyBin() const {
 
 int Removal::RemoveRows() const {
     int failed = 0;
-    for (const Row& row : rows_) {
+    for (const TickedRow& row : rows_) {
         if (row.ticked) {
             if (IsInUse(row.path)) {
                 ++failed;

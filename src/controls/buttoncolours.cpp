@@ -12,13 +12,13 @@ constexpr Colour White = 0xFFFFFF;
 constexpr int AccentColour = 13;
 
 // An edge's colour: the system's, or the face's mixed with black or white.
-struct Edge {
+struct ColourEdge {
     Role role;
     int system;
     Colour with;
     int hundredths;
 };
-constexpr Edge Edges[] = {
+constexpr ColourEdge Edges[] = {
     {Role::Highlight, 20, White, 80},
     {Role::Light, 22, White, 30},
     {Role::Shadow, 16, Black, 30},
@@ -37,7 +37,7 @@ WorkingColours::WorkingColours(const toolkit::Canvas& canvas, const ButtonProper
     At(Role::TextOver) = canvas.Translate(from.foreOver);
     At(Role::Accent) = canvas.Translate(SystemColour(AccentColour));
     const Colour face = At(Role::Face);
-    for (const Edge& edge : Edges) {
+    for (const ColourEdge& edge : Edges) {
         const Colour colour = own ? Mix(face, edge.with, edge.hundredths)
                                   : canvas.Translate(SystemColour(edge.system));
         At(edge.role) = properties.softBevel ? Mix(colour, face, 50) : colour;

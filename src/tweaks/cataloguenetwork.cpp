@@ -40,7 +40,7 @@ void ReadConnections(const PassContext& pass, const Option& option) {
     ReadByRow(pass, option);
 }
 
-constexpr Option Options[] = {
+constexpr Option NetworkRows[] = {
     // Read from one interface and written to both, with two wordings of the same complaint.
     Option{
         .control = "cboMTU",
@@ -205,7 +205,7 @@ constexpr Option Options[] = {
 }  // namespace
 
 std::span<const Option> NetworkOptions() {
-    return Options;
+    return NetworkRows;
 }
 
 }  // namespace tweaks

@@ -14,7 +14,7 @@ constexpr char WindowsKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 
 // The paths are captions of labels. Each is written as it stands by every pass, the empty one too,
 // so that an Apply makes the value that was not there; no path is examined.
-constexpr Option Options[] = {
+constexpr Option PathsRows[] = {
     Option{
         .control = "lblVerwaltung(0)",
         .place = {HKLM, FoldersKey, "Common Administrative Tools"},
@@ -90,7 +90,7 @@ constexpr Option Options[] = {
 }  // namespace
 
 std::span<const Option> PathsOptions() {
-    return Options;
+    return PathsRows;
 }
 
 }  // namespace tweaks

@@ -19,7 +19,7 @@ void ReadLogonMessage(const PassContext& pass, const Option& option) {
 
 // chkSecureWindows and chk1RecycleBinDelete have no row: they act on click, and no pass looks at
 // them.
-constexpr Option Options[] = {
+constexpr Option SecurityRows[] = {
     Option{
         .control = "chkRemoveLastDocsFolder",
         .place = {HKCU, PoliciesKey, "NoRecentDocsMenu"},
@@ -191,7 +191,7 @@ constexpr Option Options[] = {
 }  // namespace
 
 std::span<const Option> SecurityOptions() {
-    return Options;
+    return SecurityRows;
 }
 
 }  // namespace tweaks

@@ -20,7 +20,7 @@ void ReadAgp(const PassContext& pass, const Option& option) {
     ReadByRow(pass, option);
 }
 
-constexpr Option Options[] = {
+constexpr Option SystemRows[] = {
     // On means that the kernel may be paged out.
     Option{
         .control = "chkmemorymanagement",
@@ -177,7 +177,7 @@ constexpr Option Options[] = {
 }  // namespace
 
 std::span<const Option> SystemOptions() {
-    return Options;
+    return SystemRows;
 }
 
 }  // namespace tweaks

@@ -30,7 +30,7 @@ void WritePreviewLibrary(const PassContext& pass, const Option& option) {
     settings.SaveSetting("VideoPrv", "Regged", previewOff ? "false" : "true");
 }
 
-constexpr Option Options[] = {
+constexpr Option TweaksRows[] = {
     // Not read by the pass: start-up sets the box from the settings store.
     Option{
         .control = "chkSHMediaDLL",
@@ -250,7 +250,7 @@ constexpr Option Options[] = {
 }  // namespace
 
 std::span<const Option> TweaksOptions() {
-    return Options;
+    return TweaksRows;
 }
 
 }  // namespace tweaks

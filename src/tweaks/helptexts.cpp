@@ -18,7 +18,7 @@ constexpr char Connections[] =
     "möglich sind. Zu hohe Werte können die Performance aber auch negativ beeinflussen.";
 
 // In the order in which the texts are hung up.
-constexpr HelpText Rows[] = {
+constexpr HelpText HelpTextRows[] = {
     {"chkAutoLogin",
      "Meldet den angegebenen Benutzer beim Start von Windows XP ohne Nachfrage an, standardmäßig "
      "ist dies ausgeschaltet. Auch ein Eintrag mit dem Wert 0 erscheint als eingeschaltet, und "
@@ -453,14 +453,14 @@ constexpr HelpText Rows[] = {
 }  // namespace
 
 std::span<const HelpText> HelpTexts() {
-    return Rows;
+    return HelpTextRows;
 }
 
 void HangHelpTexts(const toolkit::Form& form, controls::cToolTip& tips) {
     tips.SetStyle(controls::cToolTip::Standard);
     tips.SetDelayTime(1000);
     tips.SetVisibleTime(3320000);
-    for (const HelpText& row : Rows) {
+    for (const HelpText& row : HelpTextRows) {
         const toolkit::Control& control = form.Find<toolkit::Control>(row.control);
         tips.SetToolTipObj(form.Host().HandleOf(control), row.text);
     }

@@ -35,34 +35,34 @@ constexpr NetworkSet Sets[] = {
      .cboHTTP11 = 8},
 };
 
-struct Text {
+struct NumberBox {
     const char* control;
     std::int32_t NetworkSet::*number;
 };
 
 // The packet size takes the window size along, so the window size of the set comes behind it.
-constexpr Text Texts[] = {
+constexpr NumberBox NumberBoxes[] = {
     {"cboMTU", &NetworkSet::cboMTU},       {"txtRWIN", &NetworkSet::txtRWIN},
     {"txtTTL", &NetworkSet::txtTTL},       {"cboHTTP10", &NetworkSet::cboHTTP10},
     {"cboHTTP11", &NetworkSet::cboHTTP11},
 };
 
-struct Box {
+struct OnOffBox {
     const char* control;
     int NetworkSet::*state;
 };
 
-constexpr Box Boxes[] = {
+constexpr OnOffBox OnOffBoxes[] = {
     {"chkMUTBH", &NetworkSet::chkMUTBH},
     {"chkAutoMTU", &NetworkSet::chkAutoMTU},
     {"chkSACK", &NetworkSet::chkSACK},
 };
 
 void LoadNetworkSet(toolkit::Form& form, const NetworkSet& set) {
-    for (const auto& [control, number] : Texts) {
+    for (const auto& [control, number] : NumberBoxes) {
         SetTextOfControl(form, control, runtime::ToText(set.*number));
     }
-    for (const auto& [control, state] : Boxes) {
+    for (const auto& [control, state] : OnOffBoxes) {
         form.Find<toolkit::CheckBox>(control).SetValue(set.*state);
     }
 }
@@ -75,12 +75,12 @@ std::span<const NetworkSet> NetworkSets() {
 
 bool HoldsNetworkSet(const toolkit::Form& form, const NetworkSet& set,
                      const runtime::NumberSigns& signs) {
-    for (const auto& [control, wanted] : Texts) {
+    for (const auto& [control, wanted] : NumberBoxes) {
         const auto number = runtime::ParseNumber(TextOfControl(form, control), signs);
         if (!number) throw runtime::Failure(runtime::TypeMismatch);
         if (*number != set.*wanted) return false;
     }
-    for (const auto& [control, wanted] : Boxes) {
+    for (const auto& [control, wanted] : OnOffBoxes) {
         if (form.Find<toolkit::CheckBox>(control).Value() != set.*wanted) return false;
     }
     return true;

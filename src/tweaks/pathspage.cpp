@@ -33,7 +33,7 @@ struct PathRow {
     const char* folder;
 };
 
-constexpr std::array<PathRow, 14> Rows = {{
+constexpr std::array<PathRow, 14> PageRows = {{
     {"Verwaltung", Base::AllUsers, "\\Startmenü\\Programme\\Verwaltung"},
     {"Anwendungsdaten", Base::AllUsers, "\\Anwendungsdaten"},
     {"Desktop", Base::AllUsers, "\\Desktop"},
@@ -88,11 +88,11 @@ void PathPressed(Form& form, const platform::Machine& machine, std::size_t index
 }
 
 Box RowOfPath(Form& form, const platform::Machine& machine, std::size_t index) {
-    Box name = LabelOn(form, {Member("lblPathNames", index).c_str(), Rows[index].name});
+    Box name = LabelOn(form, {Member("lblPathNames", index).c_str(), PageRows[index].name});
     auto& path = form.Add<Label>(Member("lblVerwaltung", index), "", toolkit::LabelStyle::Path);
     auto& button = form.Add<controls::chameleonButton>(
         Member("cmdPath", index), controls::Persisted{"TX=..."}, machine.clock);
-    button.SetToolTip("Ordner für " + runtime::Trim(Rows[index].name) + " auswählen");
+    button.SetToolTip("Ordner für " + runtime::Trim(PageRows[index].name) + " auswählen");
     button.onClick = [&form, machine, index] { PathPressed(form, machine, index); };
     return Gap(toolkit::Row({AtLeast(name, NameWidth, 0), toolkit::Stretch(Leaf(path)),
                              AtMost(Leaf(button), ButtonSize.width, ButtonSize.height)}),
@@ -120,15 +120,15 @@ Box AddPathsPage(Form& form, const platform::Machine& machine) {
     Box heading = controls::PageHeading(form, "lblSystemPaths", "Systempfade ändern");
     Box hint = AtLeast(LabelOn(form, {"lblHintSystemPaths", Hint}), 0, HintHeight);
     std::vector<Box> rows;
-    for (std::size_t i = 0; i < Rows.size(); ++i) rows.push_back(RowOfPath(form, machine, i));
+    for (std::size_t i = 0; i < PageRows.size(); ++i) rows.push_back(RowOfPath(form, machine, i));
     Box paths = Gap(toolkit::Column(std::move(rows)), 1);
     Box buttons = ButtonsOfPage(form, machine.clock, {{"cmdPathDefault", "TX=Standard"}});
     return Gap(toolkit::Column({heading, hint, paths, toolkit::Filler(), buttons}), 6);
 }
 
 void SetDefaultPaths(Form& form, const platform::SystemFacts& facts) {
-    for (std::size_t i = 0; i < Rows.size(); ++i) {
-        form.Find<Label>(Member("lblVerwaltung", i)).SetCaption(DefaultPath(Rows[i], facts));
+    for (std::size_t i = 0; i < PageRows.size(); ++i) {
+        form.Find<Label>(Member("lblVerwaltung", i)).SetCaption(DefaultPath(PageRows[i], facts));
     }
 }
 

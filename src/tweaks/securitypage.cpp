@@ -14,7 +14,7 @@ using toolkit::Box;
 using toolkit::Form;
 
 // Line by line in the order of reading; the two long captions have a line of their own.
-Box VariousGroup(Form& form) {
+Box VariousSecurity(Form& form) {
     auto& group = form.Add<toolkit::Frame>("fraMisc", "Verschiedenes");
     std::vector<Box> lines;
     const auto line = [&](Named box) { lines.push_back(CheckBoxOn(form, box)); };
@@ -69,7 +69,7 @@ Box DataGroup(Form& form) {
 
 Box AddSecurityPage(Form& form, const platform::Machine& machine) {
     Box heading = controls::PageHeading(form, "lblMisc", "Sicherheit && Administratives");
-    Box various = VariousGroup(form);
+    Box various = VariousSecurity(form);
     Box message = toolkit::Stretch(LogonMessageGroup(form));
     Box data = DataGroup(form);
     Box buttons =

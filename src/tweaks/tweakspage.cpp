@@ -18,7 +18,7 @@ Box TimeOutOn(Form& form) {
 }
 
 // In the order of reading, line by line. The two long captions have a line of their own.
-Box VariousGroup(Form& form) {
+Box VariousTweaks(Form& form) {
     auto& group = form.Add<toolkit::Frame>("Frame1", "Verschiedenes");
     std::vector<Box> lines;
     const auto pair = [&](Named left, Named right) {
@@ -60,7 +60,7 @@ Box VariousGroup(Form& form) {
 
 Box AddTweaksPage(Form& form, const platform::Machine& machine) {
     Box heading = controls::PageHeading(form, "lblWindows2", "Windows Tuning #2");
-    Box group = VariousGroup(form);
+    Box group = VariousTweaks(form);
     Box buttons = ButtonsOfPage(
         form, machine.clock,
         {{"cmdNormalWindows2", "TX=Standard"}, {"cmdOptimalWindows2", "TX=Empfohlen"}});

@@ -32,7 +32,7 @@ using runtime::Skip;
 using toolkit::ListView;
 namespace message = platform::message;
 
-constexpr int Question = message::YesNo + message::Question;
+constexpr int DriveQuestion = message::YesNo + message::Question;
 
 // The dialog's own settings, apart from the program's.
 constexpr const char* StoreTitle = "dmVDriveC";
@@ -51,7 +51,7 @@ constexpr const char* OutputName = "tmpout.txt";
 constexpr const char* DriveSeparator = "=>";
 
 // The column with the volume's name.
-constexpr int NameColumn = 1;
+constexpr int VolumeColumn = 1;
 
 // "NUMBER: TEXT".
 std::string Described(const runtime::Failure& failure) {
@@ -227,7 +227,7 @@ void frmVirtualDrive::AddRow(int number, const std::string& drive, const std::st
                                  size(used),
                                  volume.fileSystem.value_or("")};
     const int row = lstDrives_.AddRow(drive, runtime::ToText(number) + 'A');
-    int column = NameColumn;
+    int column = VolumeColumn;
     for (const std::string& text : texts) lstDrives_.SetText(row, column++, text);
 }
 
@@ -318,7 +318,8 @@ void frmVirtualDrive::RunDelete() {
     const std::string drive = runtime::Left(lstDrives_.Text(lstDrives_.SelectedRow()), 2);
     const std::string question =
         "Sind Sie sicher das Sie das virtuelle Laufwerk '" + drive + "' löschen wollen?";
-    if (machine_.messages.Show(question, Question, "Virtuelles Laufwerk löschen") != message::Yes) {
+    if (machine_.messages.Show(question, DriveQuestion, "Virtuelles Laufwerk löschen") !=
+        message::Yes) {
         return;
     }
     machine_.folders.MakeCurrent(AppRoot_);
@@ -349,7 +350,7 @@ void frmVirtualDrive::StoreDrives() {
     };
     for (int row = 0; row < lstDrives_.Count(); ++row) {
         save("Drives" + runtime::ToText(row + 1),
-             lstDrives_.Text(row) + DriveSeparator + lstDrives_.Text(row, NameColumn));
+             lstDrives_.Text(row) + DriveSeparator + lstDrives_.Text(row, VolumeColumn));
     }
     save("Count", runtime::ToText(lstDrives_.Count()));
     save("Restore", "1");
@@ -377,7 +378,8 @@ void frmVirtualDrive::Exit() {
         const std::string question =
             "Wollen Sie die Einstellungen zum neuen virtuellen Laufwerk '" + cbodrives_.Text() +
             "' wirklich verwerfen?";
-        if (machine_.messages.Show(question, Question, "Einstellungen verwerfen") != message::Yes) {
+        if (machine_.messages.Show(question, DriveQuestion, "Einstellungen verwerfen") !=
+            message::Yes) {
             return;
         }
     }

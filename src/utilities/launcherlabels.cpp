@@ -80,7 +80,7 @@ void Highlight(Label& label) {
     label.SetTextColour(toolkit::Red);
 }
 
-Label& AddLabel(toolkit::Form& form, const Row& row, const Launchers& launchers) {
+Label& AddLauncherLabel(toolkit::Form& form, const Row& row, const Launchers& launchers) {
     auto& label = form.Add<Label>(row.name, row.caption, toolkit::LabelStyle::Link);
     label.onClick = [&row, &launchers] { Launch(launchers, row); };
     label.onMouseMove = [&label] { Highlight(label); };
@@ -95,7 +95,7 @@ Box AddLauncherLabels(toolkit::Form& form, const Launchers& launchers) {
     std::vector<Box> columns;
     std::vector<Box> column;
     for (const Row& row : Rows) {
-        column.push_back(toolkit::KeepSize(Leaf(AddLabel(form, row, launchers))));
+        column.push_back(toolkit::KeepSize(Leaf(AddLauncherLabel(form, row, launchers))));
         if (column.size() < LabelsInColumn) continue;
         columns.push_back(toolkit::Stretch(Gap(toolkit::Column(std::move(column)), 3)));
         column.clear();

@@ -31,7 +31,7 @@ constexpr std::array<Shortcut, 10> Shortcuts = {{
 }};
 
 // Descriptions come first in the group, then the keys in the same order.
-Box AddLabel(toolkit::Form& form, std::size_t index, const char* caption) {
+Box AddShortcutLabel(toolkit::Form& form, std::size_t index, const char* caption) {
     return Leaf(form.Add<toolkit::Label>("lblXPShortCuts(" + std::to_string(index) + ")", caption));
 }
 
@@ -41,8 +41,8 @@ Box AddShortcutsPage(toolkit::Form& form) {
     Box heading = controls::PageHeading(form, "lblShortcuts", "Windows XP Shortcuts");
     std::vector<Box> cells;
     for (std::size_t index = 0; index < Shortcuts.size(); ++index) {
-        cells.push_back(AddLabel(form, index, Shortcuts[index].description));
-        cells.push_back(AddLabel(form, Shortcuts.size() + index, Shortcuts[index].key));
+        cells.push_back(AddShortcutLabel(form, index, Shortcuts[index].description));
+        cells.push_back(AddShortcutLabel(form, Shortcuts.size() + index, Shortcuts[index].key));
     }
     Box table = toolkit::Margin(Gap(toolkit::Grid(2, std::move(cells)), 16), 8);
     return toolkit::Column({std::move(heading), std::move(table), toolkit::Filler()});

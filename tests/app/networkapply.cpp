@@ -9,8 +9,6 @@ using platform::simulated::DwordValue;
 
 namespace {
 
-constexpr char TcpKey[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-
 struct Applying : Program {
     Applying() {
         REQUIRE(Start());

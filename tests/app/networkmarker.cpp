@@ -10,7 +10,6 @@ using platform::simulated::TextValue;
 
 namespace {
 
-constexpr char TcpKey[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
 constexpr char Interface1[] =
     "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
     "\\{3BD4192A-BF2A-4EBA-B0E7-7C61AE30590E}";

@@ -16,6 +16,7 @@ namespace app_test {
 inline constexpr char MemoryKey[] =
     "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management";
 inline constexpr char SystemKey[] = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
+inline constexpr char TcpKey[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
 inline constexpr char LogPath[] = "C:\\Programme\\Quillmore\\Quillmore.log";
 
 // The whole program on a simulated machine whose user has accepted the warning.

@@ -11,7 +11,7 @@ constexpr char Title[] = "Einstellungen aktualisiert";
 // 2026-11-21 15:05:09 UTC.
 const std::string Answer = "\xEE\xAC\x31\xA5";
 
-const std::string& Label(const Program& program) {
+const std::string& LabelText(const Program& program) {
     return program.form->Find<toolkit::Label>("lblDateAndTime").Caption();
 }
 
@@ -20,9 +20,9 @@ const std::string& Label(const Program& program) {
 TEST_CASE("date and time run while the window is open, once a second") {
     Program program;
     REQUIRE(program.Start());
-    CHECK(Label(program) == "");
+    CHECK(LabelText(program) == "");
     program.machine.clock.Advance(1000);
-    CHECK(Label(program) == "Freitag, 05. März 2004, 14:07 Uhr");
+    CHECK(LabelText(program) == "Freitag, 05. März 2004, 14:07 Uhr");
 }
 
 TEST_CASE("the clock runs from the start on, also behind the first warning") {
@@ -31,7 +31,7 @@ TEST_CASE("the clock runs from the start on, also behind the first warning") {
     std::string behind;
     program.machine.forms.WhenModal("frmFirstInfo", [&](toolkit::Form& warning) {
         program.machine.clock.Advance(1000);
-        behind = Label(program);
+        behind = LabelText(program);
         warning.Find<controls::chameleonButton>("Command2").Press();
     });
     REQUIRE(program.Start());
@@ -43,7 +43,7 @@ TEST_CASE("a system without a timer to spare starts without the running clock") 
     program.machine.faults.FailAll("SetTimer", 7);
     REQUIRE(program.Start());
     program.machine.clock.Advance(5000);
-    CHECK(Label(program) == "");
+    CHECK(LabelText(program) == "");
     CHECK(program.machine.messages.Shown().empty());
 }
 
@@ -61,7 +61,7 @@ TEST_CASE("a fresh start asks the time server, and its answer sets the clock beh
     CHECK(program.machine.journal.Calls("Socket.Connect") ==
           Lines{"Socket.Connect time.nist.gov:37"});
     program.machine.clock.Advance(1000);
-    CHECK(Label(program) == "Samstag, 21. November 2026, 16:05 Uhr");
+    CHECK(LabelText(program) == "Samstag, 21. November 2026, 16:05 Uhr");
 }
 
 TEST_CASE("an answer that comes long after the message still sets the clock") {

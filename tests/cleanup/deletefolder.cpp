@@ -8,7 +8,7 @@ using cleanup_test::NumberOf;
 
 namespace {
 
-struct Fixture {
+struct DeleteFolderFixture {
     platform::simulated::Machine machine;
     platform::simulated::Disk& disk = machine.disk;
     platform::Folders& folders = machine.services.folders;
@@ -17,19 +17,19 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a file taken for a folder is failure 76 and stays") {
+TEST_CASE_FIXTURE(DeleteFolderFixture, "a file taken for a folder is failure 76 and stays") {
     disk.MakeFile("C:\\a.tmp");
     CHECK(NumberOf([&] { cleanup::DeleteFolder(folders, files, "C:\\a.tmp"); }) == 76);
     CHECK(NumberOf([&] { cleanup::DropLinks(folders, files, "C:\\a.tmp"); }) == 76);
     CHECK(folders.Find("C:\\a.tmp").has_value());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder that is not there is failure 76") {
+TEST_CASE_FIXTURE(DeleteFolderFixture, "a folder that is not there is failure 76") {
     CHECK(NumberOf([&] { cleanup::DeleteFolder(folders, files, "C:\\gone"); }) == 76);
     CHECK(NumberOf([&] { cleanup::DropLinks(folders, files, "C:\\gone"); }) == 76);
 }
 
-TEST_CASE_FIXTURE(Fixture, "only the links to folders are taken out of a folder") {
+TEST_CASE_FIXTURE(DeleteFolderFixture, "only the links to folders are taken out of a folder") {
     disk.MakeFile("D:\\data\\precious.txt");
     disk.MakeFile("C:\\x\\deep\\a.txt");
     disk.MakeLink("C:\\x\\deep\\link", "D:\\data");

@@ -13,13 +13,13 @@ namespace {
 using Lines = std::vector<std::string>;
 using platform::simulated::CacheEntry;
 
-struct Fixture {
+struct CacheFixture {
     platform::simulated::Machine machine;
     platform::simulated::InternetCache& cache = machine.internetCache;
     toolkit::Form form{machine.forms, "frmMain", "Quillmore", {}};
     toolkit::ListBox& list = form.Add<toolkit::ListBox>("List1");
 
-    Fixture() { list.AddItem("zuvor"); }
+    CacheFixture() { list.AddItem("zuvor"); }
 
     Lines Listed() {
         cleanup::FillCacheList(machine.services.internetCache, machine.services.locale, list);
@@ -36,7 +36,8 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "each entry is asked for its size and read into a block of its own") {
+TEST_CASE_FIXTURE(CacheFixture,
+                  "each entry is asked for its size and read into a block of its own") {
     cache.Add({.url = "http://a.example/"});
     cache.Add({.url = "b"});
     CHECK(Listed() == Lines{"http://a.example/", "b"});
@@ -62,7 +63,7 @@ TEST_CASE_FIXTURE(Fixture, "each entry is asked for its size and read into a blo
           "FindCloseUrlCache search 1\n");
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty cache empties the list and takes no block") {
+TEST_CASE_FIXTURE(CacheFixture, "an empty cache empties the list and takes no block") {
     CHECK(Listed().empty());
     CHECK(machine.journal.Text() ==
           "FindFirstUrlCacheEntryA \"0\" null 0 -> 259\n"
@@ -70,7 +71,7 @@ TEST_CASE_FIXTURE(Fixture, "an empty cache empties the list and takes no block")
           "FindCloseUrlCache no search\n");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a first question that fails with another error ends the listing") {
+TEST_CASE_FIXTURE(CacheFixture, "a first question that fails with another error ends the listing") {
     AddThree();
     machine.faults.FailAll("FindFirstUrlCacheEntryA", 5);
     CHECK(Listed().empty());
@@ -80,14 +81,15 @@ TEST_CASE_FIXTURE(Fixture, "a first question that fails with another error ends 
           "FindCloseUrlCache no search\n");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a first question that opens a search ends the listing and closes it") {
+TEST_CASE_FIXTURE(CacheFixture,
+                  "a first question that opens a search ends the listing and closes it") {
     AddThree();
     machine.faults.FailAll("FindFirstUrlCacheEntryA", 0);
     CHECK(Listed().empty());
     CHECK(machine.journal.Lines().back() == "FindCloseUrlCache search 1");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a first entry that cannot be read ends the listing") {
+TEST_CASE_FIXTURE(CacheFixture, "a first entry that cannot be read ends the listing") {
     AddThree();
     // Question, block, and then the reading.
     machine.faults.FailNth(3, 5);
@@ -95,7 +97,7 @@ TEST_CASE_FIXTURE(Fixture, "a first entry that cannot be read ends the listing")
     CHECK(machine.journal.Lines().back() == "FindCloseUrlCache no search");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFixture,
                   "a first entry that grows between question and reading ends the listing") {
     cache.Add({.url = "a", .growth = 1});
     cache.Add({.url = "b"});
@@ -104,7 +106,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(machine.journal.Calls("FindNextUrlCacheEntryA").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFixture,
                   "a later entry that grows between question and reading ends the list there") {
     cache.Add({.url = "a"});
     cache.Add({.url = "b", .growth = 1});
@@ -112,7 +114,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(Listed() == Lines{"a"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "no memory before the first entry ends the listing") {
+TEST_CASE_FIXTURE(CacheFixture, "no memory before the first entry ends the listing") {
     AddThree();
     machine.faults.FailAll("LocalAlloc", 8);
     CHECK(Listed().empty());
@@ -123,7 +125,7 @@ TEST_CASE_FIXTURE(Fixture, "no memory before the first entry ends the listing") 
           "FindCloseUrlCache no search\n");
 }
 
-TEST_CASE_FIXTURE(Fixture, "no memory before a later entry ends the list there") {
+TEST_CASE_FIXTURE(CacheFixture, "no memory before a later entry ends the list there") {
     AddThree();
     // The calls that may fail: two questions with a block and a reading each, then the third block.
     machine.faults.FailNth(8, 8);
@@ -134,7 +136,7 @@ TEST_CASE_FIXTURE(Fixture, "no memory before a later entry ends the list there")
           Lines{"LocalAlloc 0 82 -> null", "LocalFree null", "FindCloseUrlCache search 1"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "only entries with the lowest bit of their type are listed") {
+TEST_CASE_FIXTURE(CacheFixture, "only entries with the lowest bit of their type are listed") {
     cache.Add({.url = "none", .type = 0});
     cache.Add({.url = "normal"});
     cache.Add({.url = "history", .type = 0x200000});
@@ -145,7 +147,7 @@ TEST_CASE_FIXTURE(Fixture, "only entries with the lowest bit of their type are l
     CHECK(Listed() == Lines{"normal", "normal cookie", "all"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the block's size is asked anew for each entry") {
+TEST_CASE_FIXTURE(CacheFixture, "the block's size is asked anew for each entry") {
     cache.Add({.url = "a", .padding = 5000});
     cache.Add({.url = "b", .type = 0});
     cache.Add({.url = std::string(3000, 'c')});
@@ -155,28 +157,28 @@ TEST_CASE_FIXTURE(Fixture, "the block's size is asked anew for each entry") {
                           "LocalAlloc 0 3081 -> block 3", "LocalAlloc 0 0 -> block 4"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty URL is an empty line, and so is a missing one") {
+TEST_CASE_FIXTURE(CacheFixture, "an empty URL is an empty line, and so is a missing one") {
     cache.Add({.url = ""});
     cache.Add({.url = "unseen", .hasUrl = false});
     cache.Add({.url = "c"});
     CHECK(Listed() == Lines{"", "", "c"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a URL without its NUL ends with its block") {
+TEST_CASE_FIXTURE(CacheFixture, "a URL without its NUL ends with its block") {
     cache.Add({.url = "unterminated", .terminated = false});
     cache.Add({.url = "", .terminated = false});
     cache.Add({.url = "c"});
     CHECK(Listed() == Lines{"unterminated", "", "c"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a pointer that leads out of the block is an empty line") {
+TEST_CASE_FIXTURE(CacheFixture, "a pointer that leads out of the block is an empty line") {
     cache.Add({.url = "before", .strayPointer = 0x14FFFF});
     cache.Add({.url = "far", .strayPointer = 0xFFFFFFFF});
     cache.Add({.url = "low", .strayPointer = 1});
     CHECK(Listed() == Lines{"", "", ""});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a record shorter than its fixed part is taken as far as it goes") {
+TEST_CASE_FIXTURE(CacheFixture, "a record shorter than its fixed part is taken as far as it goes") {
     auto& service = machine.services.internetCache;
     const cleanup::CacheBlock block{service.Allocate(4), 4};
     service.Write(block.start, "abc", 4);
@@ -189,13 +191,13 @@ TEST_CASE_FIXTURE(Fixture, "a record shorter than its fixed part is taken as far
     CHECK(text(4) == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "URLs come from the ANSI code page") {
+TEST_CASE_FIXTURE(CacheFixture, "URLs come from the ANSI code page") {
     cache.Add({.url = "http://müller.example/Straße?\xE2\x82\xAC"});
     CHECK(Listed() == Lines{"http://müller.example/Straße?\xE2\x82\xAC"});
     CHECK(machine.journal.Calls("LocalAlloc").front() == "LocalAlloc 0 111 -> block 1");
 }
 
-TEST_CASE_FIXTURE(Fixture, "thousands of entries take two questions each") {
+TEST_CASE_FIXTURE(CacheFixture, "thousands of entries take two questions each") {
     constexpr int Many = 5000;
     for (int i = 0; i < Many; ++i) cache.Add({.url = "http://a.example/" + std::to_string(i)});
     const Lines lines = Listed();
@@ -207,7 +209,7 @@ TEST_CASE_FIXTURE(Fixture, "thousands of entries take two questions each") {
     CHECK(machine.journal.Calls("LocalAlloc").size() == Many + 1);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFixture,
                   "whichever call fails, the list holds the entries before, and nothing leaks") {
     for (int failing = 1; failing <= 12; ++failing) {
         CAPTURE(failing);
@@ -225,7 +227,7 @@ TEST_CASE_FIXTURE(Fixture,
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a listing that fails in the list leaves nothing open") {
+TEST_CASE_FIXTURE(CacheFixture, "a listing that fails in the list leaves nothing open") {
     struct Full final : toolkit::ControlView {
         explicit Full(toolkit::ListBox& on) : list(on) { list.SetView(this); }
         ~Full() override { list.SetView(nullptr); }

@@ -47,7 +47,7 @@ class Watch final : public toolkit::ControlView, public toolkit::FormView {
     toolkit::ProgressBar& bar_;
 };
 
-struct Fixture {
+struct CacheFrameFixture {
     platform::simulated::Machine machine;
     platform::simulated::InternetCache& cache = machine.internetCache;
     toolkit::Form form{machine.forms, "frmMain", "Quillmore", {}};
@@ -67,7 +67,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "the cache frame has its controls with their captions") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "the cache frame has its controls with their captions") {
     CHECK(form.Find<toolkit::Frame>("fraIECache").Caption() == "Internet Explorer Cache");
     CHECK(form.Find<toolkit::Label>("lblStatusIEClear").Caption() == "Status Löschvorgang:");
     CHECK(form.Find<toolkit::CheckBox>("chkDeleteCookies").Caption() == "inkl. Cookies löschen");
@@ -80,7 +80,7 @@ TEST_CASE_FIXTURE(Fixture, "the cache frame has its controls with their captions
     CHECK(machine.journal.Text() == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "each control of the cache frame stands in its layout once") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "each control of the cache frame stands in its layout once") {
     Lines names;
     const auto collect = [&](const auto& self, const toolkit::Box& box) -> void {
         if (box.control) names.push_back(box.control->Name());
@@ -92,7 +92,8 @@ TEST_CASE_FIXTURE(Fixture, "each control of the cache frame stands in its layout
     CHECK(names == made);
 }
 
-TEST_CASE_FIXTURE(Fixture, "at start-up the list is filled, and the button enabled later on") {
+TEST_CASE_FIXTURE(CacheFrameFixture,
+                  "at start-up the list is filled, and the button enabled later on") {
     Add({"a"});
     frame.Fill();
     CHECK(frame.List1.Items() == Lines{"a"});
@@ -101,7 +102,8 @@ TEST_CASE_FIXTURE(Fixture, "at start-up the list is filled, and the button enabl
     CHECK(frame.cmdClearIECache.Enabled());
 }
 
-TEST_CASE_FIXTURE(Fixture, "reading again shows what came and went, and the button follows") {
+TEST_CASE_FIXTURE(CacheFrameFixture,
+                  "reading again shows what came and went, and the button follows") {
     Add({"a"});
     frame.cmdUpdateIECache.Press();
     CHECK(frame.cmdClearIECache.Enabled());
@@ -113,7 +115,7 @@ TEST_CASE_FIXTURE(Fixture, "reading again shows what came and went, and the butt
     CHECK(Deletions().empty());
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFrameFixture,
                   "clearing deletes each line in the list's order and reads the cache again") {
     Add({"http://a.example/ü", "b", "c"});
     CHECK(Clear().empty());
@@ -128,7 +130,7 @@ TEST_CASE_FIXTURE(Fixture,
           "FindCloseUrlCache no search\n");
 }
 
-TEST_CASE_FIXTURE(Fixture, "clearing deletes what is listed, not what came since") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "clearing deletes what is listed, not what came since") {
     Add({"a"});
     frame.cmdUpdateIECache.Press();
     Add({"b"});
@@ -138,7 +140,8 @@ TEST_CASE_FIXTURE(Fixture, "clearing deletes what is listed, not what came since
     CHECK(frame.cmdClearIECache.Enabled());
 }
 
-TEST_CASE_FIXTURE(Fixture, "an entry that cannot be deleted is listed again, in silence") {
+TEST_CASE_FIXTURE(CacheFrameFixture,
+                  "an entry that cannot be deleted is listed again, in silence") {
     cache.Add({.url = "a"});
     cache.Add({.url = "b", .locked = true});
     cache.Add({.url = "c"});
@@ -147,14 +150,15 @@ TEST_CASE_FIXTURE(Fixture, "an entry that cannot be deleted is listed again, in 
     CHECK(Deletions().size() == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "deletions that fail one and all leave the list as it was") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "deletions that fail one and all leave the list as it was") {
     Add({"a", "b"});
     machine.faults.FailAll("DeleteUrlCacheEntryA", 5);
     CHECK(Clear() == Lines{"a", "b"});
     CHECK(frame.cmdClearIECache.Enabled());
 }
 
-TEST_CASE_FIXTURE(Fixture, "clearing spares URLs with \"Cookie\" anywhere, in just these letters") {
+TEST_CASE_FIXTURE(CacheFrameFixture,
+                  "clearing spares URLs with \"Cookie\" anywhere, in just these letters") {
     Add({"Cookie:ich@a.example/", "http://b.example/Cookies/x", "xCookie", "cookie:ich@c.example/",
          "COOKIE", "Cooki"});
     CHECK(Clear() == Lines{"Cookie:ich@a.example/", "http://b.example/Cookies/x", "xCookie"});
@@ -164,14 +168,14 @@ TEST_CASE_FIXTURE(Fixture, "clearing spares URLs with \"Cookie\" anywhere, in ju
     CHECK(frame.cmdClearIECache.Enabled());
 }
 
-TEST_CASE_FIXTURE(Fixture, "with the box ticked, clearing deletes cookies, too") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "with the box ticked, clearing deletes cookies, too") {
     Add({"Cookie:ich@a.example/", "b"});
     frame.chkDeleteCookies.SetValue(1);
     CHECK(Clear().empty());
     CHECK(Deletions().size() == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "entries that are not listed are not deleted") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "entries that are not listed are not deleted") {
     Add({"a"});
     cache.Add({.url = "Cookie:ich@a.example/", .type = 0x100000});
     frame.chkDeleteCookies.SetValue(1);
@@ -179,13 +183,13 @@ TEST_CASE_FIXTURE(Fixture, "entries that are not listed are not deleted") {
     CHECK(cache.entries.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty line is deleted like any other") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "an empty line is deleted like any other") {
     Add({""});
     CHECK(Clear().empty());
     CHECK(Deletions() == Lines{"DeleteUrlCacheEntryA \"\" -> deleted"});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFrameFixture,
                   "the bar runs through the lines under the hourglass and goes back to 0") {
     Add({"a", "Cookie", "c"});
     frame.cmdUpdateIECache.Press();
@@ -200,7 +204,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(frame.prgbarIE1.Maximum() == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "one line has the maximum 1, and the bar stays at 0") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "one line has the maximum 1, and the bar stays at 0") {
     Add({"a"});
     frame.cmdUpdateIECache.Press();
     Watch watch(form, frame.prgbarIE1);
@@ -210,13 +214,13 @@ TEST_CASE_FIXTURE(Fixture, "one line has the maximum 1, and the bar stays at 0")
     CHECK(frame.prgbarIE1.Maximum() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "two lines have the maximum 1") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "two lines have the maximum 1") {
     Add({"a", "b"});
     Clear();
     CHECK(frame.prgbarIE1.Maximum() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFrameFixture,
                   "clearing an empty list only reads the cache, and leaves the bar alone") {
     Add({"a"});
     Watch watch(form, frame.prgbarIE1);
@@ -230,13 +234,14 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(watch.pointers == std::vector<int>{toolkit::Hourglass, toolkit::DefaultPointer});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the pointer is the usual one after clearing, whatever it was before") {
+TEST_CASE_FIXTURE(CacheFrameFixture,
+                  "the pointer is the usual one after clearing, whatever it was before") {
     form.SetPointer(toolkit::Hourglass);
     frame.cmdClearIECache.onClick();
     CHECK(form.Pointer() == toolkit::DefaultPointer);
 }
 
-TEST_CASE_FIXTURE(Fixture, "thousands of lines are deleted one by one") {
+TEST_CASE_FIXTURE(CacheFrameFixture, "thousands of lines are deleted one by one") {
     for (int i = 0; i < 3000; ++i) cache.Add({.url = std::to_string(i)});
     CHECK(Clear().empty());
     CHECK(Deletions().size() == 3000);

@@ -6,7 +6,7 @@
 
 namespace {
 
-struct Fixture {
+struct KnownLinksFixture {
     platform::simulated::Machine machine;
     platform::simulated::Disk& disk = machine.disk;
     platform::Folders& folders = machine.services.folders;
@@ -15,7 +15,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(KnownLinksFixture,
                   "a link that the search came through leads on, one that came later not") {
     disk.MakeFolder("D:\\data");
     disk.MakeLink("C:\\x\\known", "D:\\data");
@@ -25,16 +25,16 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK_FALSE(links.LeadTo(folders, "C:\\x\\later\\a.tmp"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a link itself need not be known, only those above it") {
+TEST_CASE_FIXTURE(KnownLinksFixture, "a link itself need not be known, only those above it") {
     disk.MakeLink("C:\\x\\link", "D:\\data");
     CHECK(links.LeadTo(folders, "C:\\x\\link"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a path below a folder that is gone leads nowhere") {
+TEST_CASE_FIXTURE(KnownLinksFixture, "a path below a folder that is gone leads nowhere") {
     CHECK_FALSE(links.LeadTo(folders, "C:\\gone\\a.tmp"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "on a server folders begin behind the share") {
+TEST_CASE_FIXTURE(KnownLinksFixture, "on a server folders begin behind the share") {
     disk.MakeFolder("\\\\server\\share\\temp");
     disk.MakeFolder("D:\\data");
     disk.MakeLink("\\\\server\\share\\temp\\link", "D:\\data");

@@ -8,14 +8,14 @@ namespace {
 
 using contract::Title;
 
-struct Fixture {
+struct AutoStartFixture {
     contract::TestMachine machine;
     platform::AutoStart& autostart = machine.Services().autostart;
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "an entry exists from its adding to its removal") {
+TEST_CASE_FIXTURE(AutoStartFixture, "an entry exists from its adding to its removal") {
     CHECK_FALSE(autostart.AutoStartExists(Title));
     CHECK(autostart.AutoStartAdd("C:\\Programme\\Quillmore", Title, "Quillmore"));
     CHECK(autostart.AutoStartExists(Title));
@@ -23,7 +23,8 @@ TEST_CASE_FIXTURE(Fixture, "an entry exists from its adding to its removal") {
     CHECK_FALSE(autostart.AutoStartExists(Title));
 }
 
-TEST_CASE_FIXTURE(Fixture, "adding twice is one entry, removing what is not there says so") {
+TEST_CASE_FIXTURE(AutoStartFixture,
+                  "adding twice is one entry, removing what is not there says so") {
     CHECK(autostart.AutoStartAdd("C:\\Programme", Title, "Quillmore"));
     CHECK(autostart.AutoStartAdd("C:\\Programme", Title, "Quillmore"));
     CHECK(autostart.AutoStartRemove(Title));

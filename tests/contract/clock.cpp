@@ -8,7 +8,7 @@
 
 namespace {
 
-struct Fixture {
+struct ClockFixture {
     contract::TestMachine machine;
     platform::Clock& clock = machine.Services().clock;
 
@@ -19,7 +19,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "now is a moment of our days") {
+TEST_CASE_FIXTURE(ClockFixture, "now is a moment of our days") {
     const platform::LocalTime now = clock.Now();
     CHECK(now.year >= 2004);
     CHECK(now.month >= 1);
@@ -32,7 +32,7 @@ TEST_CASE_FIXTURE(Fixture, "now is a moment of our days") {
     CHECK(now.second <= 59);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the seconds since midnight are those of the time of day") {
+TEST_CASE_FIXTURE(ClockFixture, "the seconds since midnight are those of the time of day") {
     const platform::LocalTime now = clock.Now();
     const float seconds = clock.SecondsSinceMidnight();
     const float whole = static_cast<float>((now.hour * 60 + now.minute) * 60 + now.second);
@@ -44,7 +44,7 @@ TEST_CASE_FIXTURE(Fixture, "the seconds since midnight are those of the time of 
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a timer ticks again and again until it is stopped") {
+TEST_CASE_FIXTURE(ClockFixture, "a timer ticks again and again until it is stopped") {
     int ticks = 0;
     const auto timer = clock.StartTimer(20, [&] { ++ticks; });
     CHECK(timer != 0);
@@ -55,7 +55,7 @@ TEST_CASE_FIXTURE(Fixture, "a timer ticks again and again until it is stopped") 
     CHECK(ticks == before);
 }
 
-TEST_CASE_FIXTURE(Fixture, "no tick comes from inside the call that starts the timer") {
+TEST_CASE_FIXTURE(ClockFixture, "no tick comes from inside the call that starts the timer") {
     int ticks = 0;
     const auto timer = clock.StartTimer(1, [&] { ++ticks; });
     CHECK(ticks == 0);
@@ -64,7 +64,7 @@ TEST_CASE_FIXTURE(Fixture, "no tick comes from inside the call that starts the t
     CHECK(ticks == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a timer that stops itself in its tick ticks once") {
+TEST_CASE_FIXTURE(ClockFixture, "a timer that stops itself in its tick ticks once") {
     int ticks = 0;
     platform::Clock::Timer timer = 0;
     // What the tick holds stays alive until it returns.
@@ -80,7 +80,7 @@ TEST_CASE_FIXTURE(Fixture, "a timer that stops itself in its tick ticks once") {
     CHECK(seen == word);
 }
 
-TEST_CASE_FIXTURE(Fixture, "timers run side by side and have numbers of their own") {
+TEST_CASE_FIXTURE(ClockFixture, "timers run side by side and have numbers of their own") {
     int fast = 0;
     int slow = 0;
     const auto first = clock.StartTimer(20, [&] { ++fast; });
@@ -96,7 +96,7 @@ TEST_CASE_FIXTURE(Fixture, "timers run side by side and have numbers of their ow
     clock.StopTimer(first);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tick may start another timer and stop a third") {
+TEST_CASE_FIXTURE(ClockFixture, "a tick may start another timer and stop a third") {
     int started = 0;
     int third = 0;
     platform::Clock::Timer starter = 0;
@@ -113,7 +113,7 @@ TEST_CASE_FIXTURE(Fixture, "a tick may start another timer and stop a third") {
     clock.StopTimer(other);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a timer does not tick anew while its tick still runs") {
+TEST_CASE_FIXTURE(ClockFixture, "a timer does not tick anew while its tick still runs") {
     int depth = 0;
     int deepest = 0;
     int ticks = 0;
@@ -128,7 +128,7 @@ TEST_CASE_FIXTURE(Fixture, "a timer does not tick anew while its tick still runs
     CHECK(deepest == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "stopping a timer that does not run is passed over") {
+TEST_CASE_FIXTURE(ClockFixture, "stopping a timer that does not run is passed over") {
     clock.StopTimer(0);
     clock.StopTimer(4711);
     const auto timer = clock.StartTimer(10, [] {});

@@ -26,12 +26,12 @@ using Bytes = std::vector<std::uint8_t>;
 
 const std::string Key(Scratch);
 
-struct Fixture {
+struct RegistryObjectFixture {
     contract::TestMachine machine;
     Registry& service = machine.Services().registry;
     registry::cRegistry object{machine.Services()};
 
-    Fixture() { Point(object); }
+    RegistryObjectFixture() { Point(object); }
 
     static void Point(registry::cRegistry& at) {
         at.ClassKey = Registry::CurrentUser;
@@ -77,7 +77,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a text written by the object carries its terminator") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "a text written by the object carries its terminator") {
     Write(Registry::String, "Größe €"s);
     CHECK((StoredValue() == Stored{Registry::String,
                                    "Gr\xF6\xDF"
@@ -89,14 +89,15 @@ TEST_CASE_FIXTURE(Fixture, "a text written by the object carries its terminator"
     CHECK(object.Value() == Data(""s));
 }
 
-TEST_CASE_FIXTURE(Fixture, "two percent signs make a text expandable, one does not") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "two percent signs make a text expandable, one does not") {
     Write(Registry::String, "50% of 100%"s);
     CHECK((StoredValue() == Stored{Registry::ExpandString, "50% of 100%\0"s}));
     Write(Registry::ExpandString, "100%"s);
     CHECK((StoredValue() == Stored{Registry::String, "100%\0"s}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "numbers and bytes are stored as they are, type 5 as type 4") {
+TEST_CASE_FIXTURE(RegistryObjectFixture,
+                  "numbers and bytes are stored as they are, type 5 as type 4") {
     Write(Registry::Dword, -2);
     CHECK((StoredValue() == Stored{Registry::Dword, "\xFE\xFF\xFF\xFF"s}));
     CHECK(object.Value() == Data(-2));
@@ -111,14 +112,14 @@ TEST_CASE_FIXTURE(Fixture, "numbers and bytes are stored as they are, type 5 as 
     CHECK(object.Value() == Data(Bytes{}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "writing makes the path, all its levels") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "writing makes the path, all its levels") {
     object.SectionKey = Key + "\\a\\b";
     Write(Registry::Dword, 1);
     CHECK((machine.StoredAt(Registry::CurrentUser, Key + "\\a\\b", "value") ==
            Stored{Registry::Dword, "\1\0\0\0"s}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a stored text is read up to the byte before its last") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "a stored text is read up to the byte before its last") {
     CHECK(ReadBack(Registry::String, "abc\0"s) == Data("abc"s));
     CHECK(ReadBack(Registry::String, "abc") == Data("ab"s));
     CHECK(ReadBack(Registry::String, "\0"s) == Data(""s));
@@ -129,7 +130,7 @@ TEST_CASE_FIXTURE(Fixture, "a stored text is read up to the byte before its last
     CHECK(ReadBack(Registry::String, longText + '\0') == Data(longText));
 }
 
-TEST_CASE_FIXTURE(Fixture, "numbers are read in both orders, other types as bytes") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "numbers are read in both orders, other types as bytes") {
     CHECK(ReadBack(Registry::Dword, "\1\2\3\x84"s) == Data(static_cast<std::int32_t>(0x84030201)));
     CHECK(ReadBack(Registry::BigEndianDword, "\x84\3\2\1"s) ==
           Data(static_cast<std::int32_t>(0x84030201)));
@@ -143,7 +144,8 @@ TEST_CASE_FIXTURE(Fixture, "numbers are read in both orders, other types as byte
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "references to the environment are expanded in type 2 alone") {
+TEST_CASE_FIXTURE(RegistryObjectFixture,
+                  "references to the environment are expanded in type 2 alone") {
     const auto isExpanded = [](const Data& data, const std::string& wanted) {
         return runtime::EqualsIgnoringCase(std::get<std::string>(data), wanted);
     };
@@ -155,7 +157,7 @@ TEST_CASE_FIXTURE(Fixture, "references to the environment are expanded in type 2
     CHECK(ReadBack(Registry::String, "%SystemRoot%\0"s) == Data("%SystemRoot%"s));
 }
 
-TEST_CASE_FIXTURE(Fixture, "what cannot be read is the default and leaves the type") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "what cannot be read is the default and leaves the type") {
     object.ValueType = 77;
     CHECK(object.Value() == Data("default"s));
     MakeClosed(Key);
@@ -165,7 +167,7 @@ TEST_CASE_FIXTURE(Fixture, "what cannot be read is the default and leaves the ty
     CHECK(object.ValueType == 77);
 }
 
-TEST_CASE_FIXTURE(Fixture, "keys and values are made, found and deleted") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "keys and values are made, found and deleted") {
     CHECK_FALSE(object.KeyExists());
     CHECK(object.CreateKey());
     CHECK(object.KeyExists());
@@ -178,7 +180,7 @@ TEST_CASE_FIXTURE(Fixture, "keys and values are made, found and deleted") {
     CHECK_THROWS_AS(object.DeleteKey(), runtime::Failure);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a root that is a plain number is refused by everything") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "a root that is a plain number is refused by everything") {
     for (const Registry::Key root : {0u, 1u, 2u, 3u}) {
         CAPTURE(root);
         Registry::Key key = 0;
@@ -191,7 +193,8 @@ TEST_CASE_FIXTURE(Fixture, "a root that is a plain number is refused by everythi
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "no sub-keys, and no key, are a count of 0 and an untouched list") {
+TEST_CASE_FIXTURE(RegistryObjectFixture,
+                  "no sub-keys, and no key, are a count of 0 and an untouched list") {
     const Names before{"x", "y"};
     CHECK(Sections(before) == before);
     CHECK(lastCount == 0);
@@ -200,13 +203,13 @@ TEST_CASE_FIXTURE(Fixture, "no sub-keys, and no key, are a count of 0 and an unt
     CHECK(lastCount == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "one sub-key replaces what was in the list") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "one sub-key replaces what was in the list") {
     MakeClosed(Key + "\\Größe");
     CHECK(Sections({"x", "y"}) == Names{"Größe"});
     CHECK(lastCount == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand sub-keys are enumerated once each") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "a thousand sub-keys are enumerated once each") {
     Names wanted;
     for (int number = 1000; number < 2000; ++number) {
         wanted.push_back("Sub" + std::to_string(number));
@@ -218,7 +221,8 @@ TEST_CASE_FIXTURE(Fixture, "a thousand sub-keys are enumerated once each") {
     CHECK(lastCount == 1000);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a name of 254 characters is enumerated, one of 255 ends it") {
+TEST_CASE_FIXTURE(RegistryObjectFixture,
+                  "a name of 254 characters is enumerated, one of 255 ends it") {
     const std::string almost(254, 'b');
     const std::string longest(255, 'm');
     // Such names fit into no path, only by themselves.
@@ -240,7 +244,7 @@ TEST_CASE_FIXTURE(Fixture, "a name of 254 characters is enumerated, one of 255 e
     service.Close(parent);
 }
 
-TEST_CASE_FIXTURE(Fixture, "values are enumerated with the longest of their names") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "values are enumerated with the longest of their names") {
     int count = -1;
     Names names{"x"};
     object.EnumerateValues(names, count);
@@ -259,7 +263,8 @@ TEST_CASE_FIXTURE(Fixture, "values are enumerated with the longest of their name
     CHECK(names == Names{"", "Größe", longName});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the enumeration needs the right to enumerate and tells its end") {
+TEST_CASE_FIXTURE(RegistryObjectFixture,
+                  "the enumeration needs the right to enumerate and tells its end") {
     MakeClosed(Key + "\\Below");
     std::string name;
     Registry::Key key = 0;
@@ -280,7 +285,7 @@ TEST_CASE_FIXTURE(Fixture, "the enumeration needs the right to enumerate and tel
     CHECK(service.EnumerateValue(key, 0, 20, name) == Registry::InvalidHandle);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a value's name needs room for its NUL") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "a value's name needs room for its NUL") {
     Put("abc", Registry::Dword, "1234");
     std::string name;
     const Registry::Key key = Make(Key);
@@ -293,7 +298,8 @@ TEST_CASE_FIXTURE(Fixture, "a value's name needs room for its NUL") {
     service.Close(key);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a sub-key deleted during the enumeration takes another one's turn") {
+TEST_CASE_FIXTURE(RegistryObjectFixture,
+                  "a sub-key deleted during the enumeration takes another one's turn") {
     for (const char* name : {"\\a", "\\b", "\\c", "\\d"}) MakeClosed(Key + name);
     registry_tests::Restless restless(service);
     const platform::Machine disturbed =
@@ -309,7 +315,7 @@ TEST_CASE_FIXTURE(Fixture, "a sub-key deleted during the enumeration takes anoth
     CHECK(names == Names{"a", "b", "d"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the key itself deleted during the enumeration ends it") {
+TEST_CASE_FIXTURE(RegistryObjectFixture, "the key itself deleted during the enumeration ends it") {
     for (const char* name : {"\\Inner\\a", "\\Inner\\b"}) MakeClosed(Key + name);
     registry_tests::Restless restless(service);
     const platform::Machine disturbed =

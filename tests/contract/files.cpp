@@ -7,7 +7,7 @@
 
 namespace {
 
-struct Fixture {
+struct FilesFixture {
     contract::TestMachine machine;
     platform::Files& files = machine.Services().files;
 
@@ -29,14 +29,14 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a file that is not there is made, empty") {
+TEST_CASE_FIXTURE(FilesFixture, "a file that is not there is made, empty") {
     const std::string path = machine.FilePath("new.log");
     CHECK(machine.FileContent(path) == std::nullopt);
     files.Close(files.OpenForAppend(path));
     CHECK(machine.FileContent(path) == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is there stays and what is written goes behind it") {
+TEST_CASE_FIXTURE(FilesFixture, "what is there stays and what is written goes behind it") {
     const std::string path = machine.FilePath("grow.log");
     Append(path, "one\r\n");
     Append(path, "two\r\n");
@@ -48,7 +48,7 @@ TEST_CASE_FIXTURE(Fixture, "what is there stays and what is written goes behind 
     CHECK(machine.FileContent(path) == "one\r\ntwo\r\nthreefour");
 }
 
-TEST_CASE_FIXTURE(Fixture, "bytes are written as they are") {
+TEST_CASE_FIXTURE(FilesFixture, "bytes are written as they are") {
     const std::string path = machine.FilePath("bytes.log");
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
@@ -56,13 +56,13 @@ TEST_CASE_FIXTURE(Fixture, "bytes are written as they are") {
     CHECK((machine.FileContent(path) == bytes));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a path may hold umlauts and is found in any case") {
+TEST_CASE_FIXTURE(FilesFixture, "a path may hold umlauts and is found in any case") {
     Append(machine.FilePath("Größe.log"), "a");
     Append(machine.FilePath("GRÖßE.LOG"), "b");
     CHECK(machine.FileContent(machine.FilePath("Größe.log")) == "ab");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that is open for appending can be read") {
+TEST_CASE_FIXTURE(FilesFixture, "a file that is open for appending can be read") {
     const std::string path = machine.FilePath("open.log");
     const auto file = files.OpenForAppend(path);
     files.Write(file, "so far");
@@ -70,7 +70,7 @@ TEST_CASE_FIXTURE(Fixture, "a file that is open for appending can be read") {
     files.Close(file);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that is open cannot be opened for appending once more") {
+TEST_CASE_FIXTURE(FilesFixture, "a file that is open cannot be opened for appending once more") {
     const std::string path = machine.FilePath("held.log");
     const auto file = files.OpenForAppend(path);
     CHECK(NumberOf([&] { files.OpenForAppend(path); }) == runtime::PermissionDenied);
@@ -78,7 +78,7 @@ TEST_CASE_FIXTURE(Fixture, "a file that is open cannot be opened for appending o
     CHECK(NumberOf([&] { Append(path, "x"); }) == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "two files are open side by side") {
+TEST_CASE_FIXTURE(FilesFixture, "two files are open side by side") {
     const auto first = files.OpenForAppend(machine.FilePath("first.log"));
     const auto second = files.OpenForAppend(machine.FilePath("second.log"));
     CHECK(first != second);
@@ -90,7 +90,7 @@ TEST_CASE_FIXTURE(Fixture, "two files are open side by side") {
     CHECK(machine.FileContent(machine.FilePath("second.log")) == "2");
 }
 
-TEST_CASE_FIXTURE(Fixture, "writing to a handle that is closed or none is a bad file number") {
+TEST_CASE_FIXTURE(FilesFixture, "writing to a handle that is closed or none is a bad file number") {
     const auto file = files.OpenForAppend(machine.FilePath("closed.log"));
     files.Close(file);
     files.Close(file);
@@ -99,11 +99,12 @@ TEST_CASE_FIXTURE(Fixture, "writing to a handle that is closed or none is a bad 
     CHECK(NumberOf([&] { files.Write(4711, "x"); }) == runtime::BadFileNumber);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the empty path is not found") {
+TEST_CASE_FIXTURE(FilesFixture, "the empty path is not found") {
     CHECK(NumberOf([&] { files.OpenForAppend(""); }) == runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file can be opened for reading and is free again after closing") {
+TEST_CASE_FIXTURE(FilesFixture,
+                  "a file can be opened for reading and is free again after closing") {
     const std::string path = machine.FilePath("read.tmp");
     Append(path, "x");
     for (int i = 0; i < 2; ++i) {
@@ -112,7 +113,7 @@ TEST_CASE_FIXTURE(Fixture, "a file can be opened for reading and is free again a
     CHECK(machine.FileContent(path) == "x");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(FilesFixture,
                   "a file that is open for reading cannot be opened for reading once more") {
     const std::string path = machine.FilePath("read.tmp");
     Append(path, "x");
@@ -122,14 +123,14 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that is open for appending can be opened for reading") {
+TEST_CASE_FIXTURE(FilesFixture, "a file that is open for appending can be opened for reading") {
     const std::string path = machine.FilePath("append.tmp");
     const auto file = files.OpenForAppend(path);
     CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
     files.Close(file);
 }
 
-TEST_CASE_FIXTURE(Fixture, "writing to a file opened for reading is denied") {
+TEST_CASE_FIXTURE(FilesFixture, "writing to a file opened for reading is denied") {
     const std::string path = machine.FilePath("read.tmp");
     Append(path, "x");
     const auto file = files.OpenForReading(path);
@@ -138,7 +139,8 @@ TEST_CASE_FIXTURE(Fixture, "writing to a file opened for reading is denied") {
     CHECK(machine.FileContent(path) == "x");
 }
 
-TEST_CASE_FIXTURE(Fixture, "opening for reading makes no file: absent, no directory, a directory") {
+TEST_CASE_FIXTURE(FilesFixture,
+                  "opening for reading makes no file: absent, no directory, a directory") {
     Append(machine.FilePath("neighbour.tmp"), "x");
     const std::string absent = machine.FilePath("absent.tmp");
     CHECK(NumberOf([&] { files.OpenForReading(absent); }) == runtime::FileNotFound);
@@ -151,7 +153,7 @@ TEST_CASE_FIXTURE(Fixture, "opening for reading makes no file: absent, no direct
     CHECK(NumberOf([&] { files.OpenForReading(directory); }) == runtime::PathFileAccess);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file is read whole, whatever its bytes and its size") {
+TEST_CASE_FIXTURE(FilesFixture, "a file is read whole, whatever its bytes and its size") {
     const std::string path = machine.FilePath("whole.inf");
     std::string bytes;
     for (int i = 0; i < 100000; ++i) bytes += static_cast<char>(i);
@@ -161,7 +163,7 @@ TEST_CASE_FIXTURE(Fixture, "a file is read whole, whatever its bytes and its siz
     CHECK(files.Read(machine.FilePath("empty.inf")) == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "reading a whole file refuses as opening it for reading does") {
+TEST_CASE_FIXTURE(FilesFixture, "reading a whole file refuses as opening it for reading does") {
     const std::string path = machine.FilePath("held.inf");
     Append(path, "x");
     CHECK(NumberOf([&] { files.Read(machine.FilePath("absent.inf")); }) == runtime::FileNotFound);
@@ -173,7 +175,8 @@ TEST_CASE_FIXTURE(Fixture, "reading a whole file refuses as opening it for readi
     CHECK(files.Read(path) == "x");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that others use and share is read whole, but not for itself") {
+TEST_CASE_FIXTURE(FilesFixture,
+                  "a file that others use and share is read whole, but not for itself") {
     const std::string path = machine.FilePath("shared.inf");
     Append(path, "x");
     machine.WithShared(path, [&] {
@@ -183,7 +186,7 @@ TEST_CASE_FIXTURE(Fixture, "a file that others use and share is read whole, but 
     CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that others use and share is not removed, now or later") {
+TEST_CASE_FIXTURE(FilesFixture, "a file that others use and share is not removed, now or later") {
     const std::string path = machine.FilePath("shared.inf");
     Append(path, "x");
     machine.WithShared(path, [&] {
@@ -194,7 +197,7 @@ TEST_CASE_FIXTURE(Fixture, "a file that others use and share is not removed, now
     CHECK(machine.FileContent(path) == std::nullopt);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(FilesFixture,
                   "a read-only file that is not removed with force either stays read-only") {
     const std::string path = machine.FilePath("shared.inf");
     Append(path, "x");
@@ -207,7 +210,7 @@ TEST_CASE_FIXTURE(Fixture,
     files.Remove(path, true);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file is removed, a read-only one with force only") {
+TEST_CASE_FIXTURE(FilesFixture, "a file is removed, a read-only one with force only") {
     const std::string path = machine.FilePath("gone.inf");
     Append(path, "x");
     files.Remove(path, false);
@@ -220,7 +223,7 @@ TEST_CASE_FIXTURE(Fixture, "a file is removed, a read-only one with force only")
     CHECK(machine.FileContent(path) == std::nullopt);
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is not there or is open here is not removed") {
+TEST_CASE_FIXTURE(FilesFixture, "what is not there or is open here is not removed") {
     const std::string path = machine.FilePath("open.inf");
     const auto file = files.OpenForAppend(path);
     CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
@@ -232,7 +235,8 @@ TEST_CASE_FIXTURE(Fixture, "what is not there or is open here is not removed") {
           runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text is written into a new file and in the place of an old one") {
+TEST_CASE_FIXTURE(FilesFixture,
+                  "a text is written into a new file and in the place of an old one") {
     const std::string path = machine.FilePath("text.inf");
     files.WriteText(path, "what was there is longer");
     files.WriteText(path, std::string("a\0\xFF\r\n", 5));
@@ -242,7 +246,7 @@ TEST_CASE_FIXTURE(Fixture, "a text is written into a new file and in the place o
     CHECK(NumberOf([&] { files.WriteText("", "x"); }) == runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text does not go into a file that is open") {
+TEST_CASE_FIXTURE(FilesFixture, "a text does not go into a file that is open") {
     const std::string path = machine.FilePath("text.inf");
     const auto file = files.OpenForAppend(path);
     CHECK(NumberOf([&] { files.WriteText(path, "x"); }) == runtime::PermissionDenied);

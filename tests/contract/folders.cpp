@@ -13,12 +13,12 @@ namespace {
 
 using platform::FolderEntry;
 
-struct Fixture {
+struct FoldersFixture {
     contract::TestMachine machine;
     platform::Folders& folders = machine.Services().folders;
     const std::string top = machine.FilePath("top");
 
-    Fixture() { machine.MakeFolder(top); }
+    FoldersFixture() { machine.MakeFolder(top); }
 
     std::string In(std::string_view name) const { return top + '\\' + std::string(name); }
     void Put(std::string_view path, std::string_view bytes) {
@@ -44,11 +44,12 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "an empty folder lists nothing, not even the dots") {
+TEST_CASE_FIXTURE(FoldersFixture, "an empty folder lists nothing, not even the dots") {
     CHECK(folders.List(top).empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "files and folders are listed as they are spelled, with their sizes") {
+TEST_CASE_FIXTURE(FoldersFixture,
+                  "files and folders are listed as they are spelled, with their sizes") {
     Put(In("Größe.TMP"), "12345");
     Put(In("empty"), "");
     machine.MakeFolder(In("Ünter"));
@@ -64,12 +65,13 @@ TEST_CASE_FIXTURE(Fixture, "files and folders are listed as they are spelled, wi
     CHECK_FALSE(Listed("Ünter")->IsLink());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a backslash behind the path changes nothing") {
+TEST_CASE_FIXTURE(FoldersFixture, "a backslash behind the path changes nothing") {
     Put(In("a"), "1");
     CHECK(folders.List(top + '\\').size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "attributes are told by the listing and by the look at one, all alike") {
+TEST_CASE_FIXTURE(FoldersFixture,
+                  "attributes are told by the listing and by the look at one, all alike") {
     for (const std::uint32_t attributes : {32u, 33u, 34u, 35u, 36u, 37u, 38u, 39u}) {
         const std::string name = "f" + std::to_string(attributes);
         Put(In(name), "x");
@@ -83,14 +85,15 @@ TEST_CASE_FIXTURE(Fixture, "attributes are told by the listing and by the look a
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a hidden system folder is told as 22") {
+TEST_CASE_FIXTURE(FoldersFixture, "a hidden system folder is told as 22") {
     machine.MakeFolder(In("h"));
     machine.SetAttributes(In("h"), 16 | 2 | 4);
     CHECK(Listed("h")->attributes == 22);
     CHECK(folders.List(In("h")).empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a look at one tells what the listing tells, by the path asked for") {
+TEST_CASE_FIXTURE(FoldersFixture,
+                  "a look at one tells what the listing tells, by the path asked for") {
     Put(In("a.dat"), "123");
     const auto found = folders.Find(In("A.DAT"));
     REQUIRE(found);
@@ -104,7 +107,7 @@ TEST_CASE_FIXTURE(Fixture, "a look at one tells what the listing tells, by the p
     CHECK(folders.Find("") == std::nullopt);
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is no folder cannot be listed: absent, a file, nothing") {
+TEST_CASE_FIXTURE(FoldersFixture, "what is no folder cannot be listed: absent, a file, nothing") {
     Put(In("file"), "x");
     CHECK(NumberOf([&] { folders.List(In("absent")); }) == runtime::PathNotFound);
     CHECK(NumberOf([&] { folders.List(In("absent\\deeper")); }) == runtime::PathNotFound);
@@ -113,7 +116,7 @@ TEST_CASE_FIXTURE(Fixture, "what is no folder cannot be listed: absent, a file, 
     CHECK(NumberOf([&] { folders.List(""); }) == runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a path that leaves no room for a search is not found") {
+TEST_CASE_FIXTURE(FoldersFixture, "a path that leaves no room for a search is not found") {
     std::string path = top;
     while (path.size() < 246) {
         path += "\\" + std::string(std::min<std::size_t>(10, 250 - path.size()), 'x');
@@ -126,7 +129,7 @@ TEST_CASE_FIXTURE(Fixture, "a path that leaves no room for a search is not found
     CHECK(folders.Find(path + "zz") == std::nullopt);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder that is in other hands may not be read") {
+TEST_CASE_FIXTURE(FoldersFixture, "a folder that is in other hands may not be read") {
     machine.MakeFolder(In("held"));
     Put(In("held\\a"), "x");
     machine.WithUnreadable(In("held"), [&] {
@@ -136,14 +139,14 @@ TEST_CASE_FIXTURE(Fixture, "a folder that is in other hands may not be read") {
     CHECK(folders.List(In("held")).size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a full path has no dots and starts at a drive") {
+TEST_CASE_FIXTURE(FoldersFixture, "a full path has no dots and starts at a drive") {
     CHECK(folders.FullPath(top) == top);
     CHECK(folders.FullPath("") == "");
     CHECK(folders.FullPath("\\").substr(1) == ":\\");
     CHECK(folders.FullPath("\\Temp").substr(1) == ":\\Temp");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(FoldersFixture,
                   "the short path of a folder has no blanks and leads to the same folder") {
     machine.MakeFolder(In("Größe und Öl"));
     Put(In("Größe und Öl\\file"), "x");
@@ -157,14 +160,15 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(folders.ShortPath(In("Größe und Öl"), length + 1) == path);
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is not there has no short path, and its long one is itself") {
+TEST_CASE_FIXTURE(FoldersFixture,
+                  "what is not there has no short path, and its long one is itself") {
     CHECK(folders.ShortPath(In("absent"), 164) == "");
     CHECK(folders.ShortPath("", 164) == "");
     CHECK(folders.LongPath(In("ABSENT~1")) == In("ABSENT~1"));
     CHECK(folders.LongPath("") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a drive alone is its current directory") {
+TEST_CASE_FIXTURE(FoldersFixture, "a drive alone is its current directory") {
     const std::string drive = top.substr(0, 2);
     const std::string before = folders.FullPath(drive);
     folders.MakeCurrent(top);
@@ -178,7 +182,8 @@ TEST_CASE_FIXTURE(Fixture, "a drive alone is its current directory") {
     folders.MakeCurrent(before);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty folder is removed, a full one, a file and an absent one not") {
+TEST_CASE_FIXTURE(FoldersFixture,
+                  "an empty folder is removed, a full one, a file and an absent one not") {
     machine.MakeFolder(In("a"));
     Put(In("a\\file"), "x");
     CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
@@ -190,14 +195,14 @@ TEST_CASE_FIXTURE(Fixture, "an empty folder is removed, a full one, a file and a
     CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a read-only folder is removed with force") {
+TEST_CASE_FIXTURE(FoldersFixture, "a read-only folder is removed with force") {
     machine.MakeFolder(In("a"));
     machine.SetAttributes(In("a"), 16 | 1);
     folders.Remove(In("a"), true);
     CHECK_FALSE(folders.Find(In("a")));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a read-only folder that does not go keeps its attribute") {
+TEST_CASE_FIXTURE(FoldersFixture, "a read-only folder that does not go keeps its attribute") {
     machine.MakeFolder(In("a"));
     Put(In("a\\file"), "x");
     machine.SetAttributes(In("a"), 16 | 1);
@@ -210,7 +215,7 @@ TEST_CASE_FIXTURE(Fixture, "a read-only folder that does not go keeps its attrib
     machine.SetAttributes(In("a"), 16);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a read-only file that does not go keeps its attribute") {
+TEST_CASE_FIXTURE(FoldersFixture, "a read-only file that does not go keeps its attribute") {
     Put(In("a"), "x");
     machine.SetAttributes(In("a"), 33);
     const auto file = machine.Services().files.OpenForReading(In("a"));
@@ -221,7 +226,7 @@ TEST_CASE_FIXTURE(Fixture, "a read-only file that does not go keeps its attribut
     machine.SetAttributes(In("a"), 32);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a link to a folder is told as one and lists what it leads to") {
+TEST_CASE_FIXTURE(FoldersFixture, "a link to a folder is told as one and lists what it leads to") {
     machine.MakeFolder(In("target"));
     Put(In("target\\a"), "x");
     machine.MakeLink(In("link"), In("target"));
@@ -234,7 +239,7 @@ TEST_CASE_FIXTURE(Fixture, "a link to a folder is told as one and lists what it 
     CHECK_FALSE(folders.Find(In("link\\a"))->IsLink());
 }
 
-TEST_CASE_FIXTURE(Fixture, "what a link leads to is not removed with it") {
+TEST_CASE_FIXTURE(FoldersFixture, "what a link leads to is not removed with it") {
     machine.MakeFolder(In("target"));
     Put(In("target\\a"), "x");
     machine.MakeLink(In("link"), In("target"));

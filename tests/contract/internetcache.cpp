@@ -46,13 +46,13 @@ class AnyPattern final : public InternetCache {
     InternetCache& cache_;
 };
 
-struct Fixture {
+struct CacheFixture {
     contract::TestMachine machine;
     InternetCache& cache = machine.Services().internetCache;
     InternetCache::Handle search = 77;
     std::uint32_t size = 0;
 
-    ~Fixture() {
+    ~CacheFixture() {
         if (search != 77) cache.CloseSearch(search);
     }
 
@@ -95,7 +95,7 @@ struct Fixture {
 };
 
 // The frame on a form without a window, and a cache that knows every pattern.
-struct FrameFixture : Fixture {
+struct FrameFixture : CacheFixture {
     AnyPattern anyPattern{cache};
     toolkit::Form form{machine.Services().forms, "frmMain", "Quillmore", {}};
     cleanup::InternetCacheFrame frame{form, anyPattern, machine.Services().locale,
@@ -110,7 +110,7 @@ struct FrameFixture : Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "an empty cache has no first entry, whatever room there is") {
+TEST_CASE_FIXTURE(CacheFixture, "an empty cache has no first entry, whatever room there is") {
     machine.AddCacheEntry("http://a.example/", Normal);
     cache.Remove("http://a.example/");
     CHECK(First(0) == NoMoreItems);
@@ -123,7 +123,7 @@ TEST_CASE_FIXTURE(Fixture, "an empty cache has no first entry, whatever room the
     cache.Free(block);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFixture,
                   "a question for the size opens no search and tells what an entry needs") {
     machine.AddCacheEntry("http://a.example/x", Normal);
     CHECK(First(0) == InternetCache::InsufficientBuffer);
@@ -131,7 +131,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(size >= sizeof(CacheEntryInfo) + sizeof "http://a.example/x");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block of just that size holds the entry with its URL") {
+TEST_CASE_FIXTURE(CacheFixture, "a block of just that size holds the entry with its URL") {
     machine.AddCacheEntry("http://a.example/x", Normal);
     First(0);
     const InternetCache::Address block = cache.Allocate(size);
@@ -143,7 +143,8 @@ TEST_CASE_FIXTURE(Fixture, "a block of just that size holds the entry with its U
     cache.Free(block);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block that is a byte short is refused with the size that is needed") {
+TEST_CASE_FIXTURE(CacheFixture,
+                  "a block that is a byte short is refused with the size that is needed") {
     machine.AddCacheEntry("http://a.example/x", Normal);
     First(0);
     const std::uint32_t needed = size;
@@ -155,7 +156,7 @@ TEST_CASE_FIXTURE(Fixture, "a block that is a byte short is refused with the siz
     cache.Free(block);
 }
 
-TEST_CASE_FIXTURE(Fixture, "asking for the next size does not move the search, reading does") {
+TEST_CASE_FIXTURE(CacheFixture, "asking for the next size does not move the search, reading does") {
     for (const char* url : {"http://a.example/", "http://b.example/"}) {
         machine.AddCacheEntry(url, Normal);
     }
@@ -180,14 +181,14 @@ TEST_CASE_FIXTURE(Fixture, "asking for the next size does not move the search, r
     CHECK(size == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "entries of all types are found, each with its own") {
+TEST_CASE_FIXTURE(CacheFixture, "entries of all types are found, each with its own") {
     machine.AddCacheEntry("http://a.example/", Normal);
     machine.AddCacheEntry("Cookie:ich@b.example/", Cookie | Normal);
     machine.AddCacheEntry("Cookie:ich@c.example/", Cookie);
     CHECK(Urls() == Lines{"Cookie:ich@b.example/", "Cookie:ich@c.example/", "http://a.example/"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "umlauts stand in the block in the ANSI code page") {
+TEST_CASE_FIXTURE(CacheFixture, "umlauts stand in the block in the ANSI code page") {
     machine.AddCacheEntry("http://a.example/Grüße", Normal);
     size = 4096;
     const InternetCache::Address block = cache.Allocate(size);
@@ -198,7 +199,7 @@ TEST_CASE_FIXTURE(Fixture, "umlauts stand in the block in the ANSI code page") {
     cache.Free(block);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CacheFixture,
                   "a removed entry is gone, one that is in use stays, others are passed over") {
     for (const char* url : {"http://a.example/ä", "http://b.example/", "http://c.example/"}) {
         machine.AddCacheEntry(url, Normal);
@@ -210,12 +211,12 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(Urls() == Lines{"http://b.example/", "http://c.example/"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "no search and no block are passed over at their end") {
+TEST_CASE_FIXTURE(CacheFixture, "no search and no block are passed over at their end") {
     cache.CloseSearch(0);
     cache.Free(0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block keeps what is written into it") {
+TEST_CASE_FIXTURE(CacheFixture, "a block keeps what is written into it") {
     const InternetCache::Address block = cache.Allocate(8);
     cache.Write(block, "12345678", 8);
     cache.Write(block + 2, "ab", 2);
@@ -225,7 +226,8 @@ TEST_CASE_FIXTURE(Fixture, "a block keeps what is written into it") {
     cache.Free(block);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block of no bytes is one, a block larger than the memory is none") {
+TEST_CASE_FIXTURE(CacheFixture,
+                  "a block of no bytes is one, a block larger than the memory is none") {
     const InternetCache::Address block = cache.Allocate(0);
     CHECK(block != 0);
     cache.Free(block);

@@ -6,7 +6,7 @@
 
 namespace {
 
-struct Fixture {
+struct LocaleFixture {
     contract::TestMachine machine;
     const platform::Locale& locale = machine.Services().locale;
 };
@@ -27,7 +27,7 @@ std::string CharacterOf(int byte) {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "all 256 bytes of the code page convert both ways") {
+TEST_CASE_FIXTURE(LocaleFixture, "all 256 bytes of the code page convert both ways") {
     for (int byte = 0; byte < 256; ++byte) {
         CAPTURE(byte);
         const std::string single(1, static_cast<char>(byte));
@@ -36,7 +36,8 @@ TEST_CASE_FIXTURE(Fixture, "all 256 bytes of the code page convert both ways") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text of many characters converts as a whole, an empty one too") {
+TEST_CASE_FIXTURE(LocaleFixture,
+                  "a text of many characters converts as a whole, an empty one too") {
     CHECK(locale.ToAnsi("") == "");
     CHECK(locale.FromAnsi("") == "");
     CHECK(locale.ToAnsi("Größe €") ==
@@ -49,23 +50,24 @@ TEST_CASE_FIXTURE(Fixture, "a text of many characters converts as a whole, an em
     CHECK(locale.FromAnsi(nul) == nul);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a character that the code page lacks becomes a question mark") {
+TEST_CASE_FIXTURE(LocaleFixture, "a character that the code page lacks becomes a question mark") {
     CHECK(locale.ToAnsi("a漢b") == "a?b");
     CHECK(locale.ToAnsi("я") == "?");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a character outside the 16-bit plane becomes two question marks") {
+TEST_CASE_FIXTURE(LocaleFixture,
+                  "a character outside the 16-bit plane becomes two question marks") {
     CHECK(locale.ToAnsi("a😀b") == "a??b");
 }
 
-TEST_CASE_FIXTURE(Fixture, "the signs of numbers are one character each and not the same") {
+TEST_CASE_FIXTURE(LocaleFixture, "the signs of numbers are one character each and not the same") {
     const auto signs = locale.Signs();
     CHECK_FALSE(signs.decimal.empty());
     CHECK_FALSE(signs.grouping.empty());
     CHECK(signs.decimal != signs.grouping);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the date in words has the German names of all days and months") {
+TEST_CASE_FIXTURE(LocaleFixture, "the date in words has the German names of all days and months") {
     constexpr const char* Days[] = {"Sonntag",    "Montag",  "Dienstag", "Mittwoch",
                                     "Donnerstag", "Freitag", "Samstag"};
     constexpr const char* Months[] = {"Januar",    "Februar", "März",     "April",
@@ -90,13 +92,13 @@ TEST_CASE_FIXTURE(Fixture, "the date in words has the German names of all days a
     CHECK(locale.GermanDate({2004, 2, 29}) == "Sonntag, 29. Februar 2004");
 }
 
-TEST_CASE_FIXTURE(Fixture, "the short time is hours and minutes") {
+TEST_CASE_FIXTURE(LocaleFixture, "the short time is hours and minutes") {
     const std::string time = locale.ShortTime({2004, 3, 5, 14, 7, 9});
     CHECK(time.find("07") != std::string::npos);
     CHECK(time.find("09") == std::string::npos);
 }
 
-TEST_CASE_FIXTURE(Fixture, "date and time hold the digits of their moment") {
+TEST_CASE_FIXTURE(LocaleFixture, "date and time hold the digits of their moment") {
     const platform::LocalTime moment{2026, 11, 21, 16, 5, 9};
     const std::string date = locale.ShortDate(moment);
     CHECK(date.find("21") != std::string::npos);

@@ -21,6 +21,9 @@
 // native build, machine_win32.cpp in the Windows one.
 namespace contract {
 
+// A class of windows that nothing else on the machine has.
+inline constexpr char StandInClass[] = "QuillmoreStandIn";
+
 // All that the suite leaves behind lies under this name and is taken away with the machine: in the
 // registry below Scratch under each root, in the settings store and in the autostart as title.
 inline constexpr std::string_view Title = "QuillmoreContract";

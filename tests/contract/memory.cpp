@@ -14,19 +14,20 @@ namespace {
 
 // 40 MB, as the program's smallest block.
 constexpr std::size_t Characters = 20000000;
-constexpr double Bytes = 2.0 * Characters;
+constexpr double BlockBytes = 2.0 * Characters;
 
-struct Fixture {
+struct MemoryFixture {
     contract::TestMachine machine;
     platform::Memory& memory = machine.Services().memory;
 
     // What the process holds in memory, in parts of the block.
-    double Resident() { return static_cast<double>(machine.ResidentBytes()) / Bytes; }
+    double Resident() { return static_cast<double>(machine.ResidentBytes()) / BlockBytes; }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a block is really written, and goes back to the system at its end") {
+TEST_CASE_FIXTURE(MemoryFixture,
+                  "a block is really written, and goes back to the system at its end") {
     const double before = Resident();
     auto block = memory.Blanks(Characters);
     CHECK(Resident() - before > 0.98);
@@ -35,7 +36,7 @@ TEST_CASE_FIXTURE(Fixture, "a block is really written, and goes back to the syst
     CHECK(Resident() - before < 0.02);
 }
 
-TEST_CASE_FIXTURE(Fixture, "two blocks are held side by side") {
+TEST_CASE_FIXTURE(MemoryFixture, "two blocks are held side by side") {
     const double before = Resident();
     auto first = memory.Blanks(Characters / 2);
     auto second = memory.Blanks(Characters / 2);
@@ -44,11 +45,11 @@ TEST_CASE_FIXTURE(Fixture, "two blocks are held side by side") {
     CHECK(Resident() - before < 0.6);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block of no characters is one all the same") {
+TEST_CASE_FIXTURE(MemoryFixture, "a block of no characters is one all the same") {
     CHECK(memory.Blanks(0) != nullptr);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block that no program has room for is refused") {
+TEST_CASE_FIXTURE(MemoryFixture, "a block that no program has room for is refused") {
     // The last one is more characters than a text can count, the first more than fit beside it.
     for (const std::size_t characters : {0x3FFFFF00u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
         CAPTURE(characters);
@@ -64,7 +65,7 @@ TEST_CASE_FIXTURE(Fixture, "a block that no program has room for is refused") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(MemoryFixture,
                   "the memory's bytes are the whole of it, or the most that 31 bits tell") {
     constexpr std::uint64_t Most = std::numeric_limits<std::int32_t>::max();
     const std::uint64_t total = std::stoull(memory.TotalPhysical());
@@ -77,7 +78,7 @@ TEST_CASE_FIXTURE(Fixture,
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "the screen is no smaller than 640 by 480") {
+TEST_CASE_FIXTURE(MemoryFixture, "the screen is no smaller than 640 by 480") {
     const toolkit::Size size = machine.Services().display.Size();
     CHECK(size.width >= 640);
     CHECK(size.height >= 480);

@@ -10,14 +10,14 @@ namespace {
 constexpr platform::Processes::StartupInfo Hidden{66, 1, 0};
 constexpr std::uint32_t NormalPriority = 32;
 
-struct Fixture {
+struct ProcessesFixture {
     contract::TestMachine machine;
     platform::Processes& processes = machine.Services().processes;
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a process is started, waited for and closed once") {
+TEST_CASE_FIXTURE(ProcessesFixture, "a process is started, waited for and closed once") {
     const auto process = processes.Create(machine.EndingCommand(), NormalPriority, Hidden);
     REQUIRE(process != 0);
     processes.WaitForEnd(process);
@@ -25,16 +25,16 @@ TEST_CASE_FIXTURE(Fixture, "a process is started, waited for and closed once") {
     CHECK_FALSE(processes.Close(process));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a program that is not there gives no process") {
+TEST_CASE_FIXTURE(ProcessesFixture, "a program that is not there gives no process") {
     CHECK(processes.Create(machine.MissingCommand(), NormalPriority, Hidden) == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "no process is waited for without delay and cannot be closed") {
+TEST_CASE_FIXTURE(ProcessesFixture, "no process is waited for without delay and cannot be closed") {
     processes.WaitForEnd(0);
     CHECK_FALSE(processes.Close(0));
 }
 
-TEST_CASE_FIXTURE(Fixture, "two processes have handles of their own") {
+TEST_CASE_FIXTURE(ProcessesFixture, "two processes have handles of their own") {
     const auto first = processes.Create(machine.EndingCommand(), NormalPriority, Hidden);
     const auto second = processes.Create(machine.EndingCommand(), NormalPriority, Hidden);
     REQUIRE(first != 0);
@@ -45,11 +45,11 @@ TEST_CASE_FIXTURE(Fixture, "two processes have handles of their own") {
     CHECK(processes.Close(second));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a process is started by command line alone") {
+TEST_CASE_FIXTURE(ProcessesFixture, "a process is started by command line alone") {
     CHECK_NOTHROW(processes.Start(machine.EndingCommand(), 0));
 }
 
-TEST_CASE_FIXTURE(Fixture, "starting a program that is not there is a file not found") {
+TEST_CASE_FIXTURE(ProcessesFixture, "starting a program that is not there is a file not found") {
     try {
         processes.Start(machine.MissingCommand(), 1);
         FAIL("it was started");
@@ -58,7 +58,8 @@ TEST_CASE_FIXTURE(Fixture, "starting a program that is not there is a file not f
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a process that was started is opened by its id until it has ended") {
+TEST_CASE_FIXTURE(ProcessesFixture,
+                  "a process that was started is opened by its id until it has ended") {
     using platform::Processes;
     const std::uint32_t id = processes.Start(machine.EndingCommand(), 0);
     REQUIRE(id != 0);
@@ -78,7 +79,8 @@ TEST_CASE_FIXTURE(Fixture, "a process that was started is opened by its id until
     processes.Close(later);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an id that is none opens no process, and no handle has an exit code") {
+TEST_CASE_FIXTURE(ProcessesFixture,
+                  "an id that is none opens no process, and no handle has an exit code") {
     CHECK(processes.Open(platform::Processes::AllAccess, 0) == 0);
     CHECK(processes.Open(platform::Processes::AllAccess, 0x7FFFFFF0) == 0);
     CHECK_FALSE(processes.ExitCode(0));

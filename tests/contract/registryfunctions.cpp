@@ -17,9 +17,9 @@ using contract::Scratch;
 using contract::Stored;
 using platform::Registry;
 
-const std::string Key(Scratch);
+const std::string ScratchKey(Scratch);
 
-struct Fixture {
+struct RegistryFunctionsFixture {
     contract::TestMachine machine;
     Registry& service = machine.Services().registry;
     registry::Registry functions{service, machine.Services().locale};
@@ -29,68 +29,74 @@ struct Fixture {
     }
     void Put(std::string_view name, std::uint32_t type, const std::string& bytes) {
         Registry::Key key = 0;
-        REQUIRE(service.Create(Registry::CurrentUser, Key, Registry::MayDoAll, key) ==
+        REQUIRE(service.Create(Registry::CurrentUser, ScratchKey, Registry::MayDoAll, key) ==
                 Registry::Success);
         REQUIRE(service.Set(key, name, type, reinterpret_cast<const std::uint8_t*>(bytes.data()),
                             static_cast<std::uint32_t>(bytes.size())) == Registry::Success);
         service.Close(key);
     }
     std::string Read(std::string_view name) {
-        return functions.RegReadValue(registry::HKCU, Key, name);
+        return functions.RegReadValue(registry::HKCU, ScratchKey, name);
     }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a text is stored with one byte a character and no terminator") {
-    functions.RegWriteString(registry::HKCU, Key, "text", "Größe €");
-    CHECK((StoredUnder(Key, "text") == Stored{Registry::String,
-                                              "Gr\xF6\xDF"
-                                              "e \x80"}));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "a text is stored with one byte a character and no terminator") {
+    functions.RegWriteString(registry::HKCU, ScratchKey, "text", "Größe €");
+    CHECK((StoredUnder(ScratchKey, "text") == Stored{Registry::String,
+                                                     "Gr\xF6\xDF"
+                                                     "e \x80"}));
     CHECK(Read("text") == "Größe €");
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty text is stored as no bytes at all") {
-    functions.RegWriteString(registry::HKCU, Key, "text", "");
-    CHECK((StoredUnder(Key, "text") == Stored{Registry::String, ""}));
-    CHECK(functions.RegValuePresent(registry::HKCU, Key, "text"));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture, "an empty text is stored as no bytes at all") {
+    functions.RegWriteString(registry::HKCU, ScratchKey, "text", "");
+    CHECK((StoredUnder(ScratchKey, "text") == Stored{Registry::String, ""}));
+    CHECK(functions.RegValuePresent(registry::HKCU, ScratchKey, "text"));
     CHECK(Read("text") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text of any length is stored with exactly its bytes") {
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "a text of any length is stored with exactly its bytes") {
     for (std::size_t length : {1u, 2u, 3u, 7u, 8u, 15u, 16u, 255u, 4096u, 65535u}) {
         CAPTURE(length);
         const std::string text(length, 'x');
-        functions.RegWriteString(registry::HKCU, Key, "text", text);
-        CHECK((StoredUnder(Key, "text") == Stored{Registry::String, text}));
+        functions.RegWriteString(registry::HKCU, ScratchKey, "text", text);
+        CHECK((StoredUnder(ScratchKey, "text") == Stored{Registry::String, text}));
         CHECK((Read("text") == text));
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a number is stored in four bytes, the least first") {
-    functions.RegWriteDword(registry::HKCU, Key, "number", 16384);
-    CHECK((StoredUnder(Key, "number") == Stored{Registry::Dword, "\x00\x40\x00\x00"s}));
-    functions.RegWriteDword(registry::HKCU, Key, "number", 0x12345678);
-    CHECK((StoredUnder(Key, "number") == Stored{Registry::Dword, "\x78\x56\x34\x12"s}));
-    functions.RegWriteDword(registry::HKCU, Key, "number", 2147483647);
-    CHECK((StoredUnder(Key, "number") == Stored{Registry::Dword, "\xFF\xFF\xFF\x7F"s}));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture, "a number is stored in four bytes, the least first") {
+    functions.RegWriteDword(registry::HKCU, ScratchKey, "number", 16384);
+    CHECK((StoredUnder(ScratchKey, "number") == Stored{Registry::Dword, "\x00\x40\x00\x00"s}));
+    functions.RegWriteDword(registry::HKCU, ScratchKey, "number", 0x12345678);
+    CHECK((StoredUnder(ScratchKey, "number") == Stored{Registry::Dword, "\x78\x56\x34\x12"s}));
+    functions.RegWriteDword(registry::HKCU, ScratchKey, "number", 2147483647);
+    CHECK((StoredUnder(ScratchKey, "number") == Stored{Registry::Dword, "\xFF\xFF\xFF\x7F"s}));
     CHECK(Read("number") == "2147483647");
-    functions.RegWriteDword(registry::HKCU, Key, "number", 0);
+    functions.RegWriteDword(registry::HKCU, ScratchKey, "number", 0);
     CHECK(Read("number") == "0");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a negative number fails with its key made and nothing stored") {
-    CHECK_THROWS_AS(functions.RegWriteDword(registry::HKCU, Key, "number", -1), runtime::Failure);
-    CHECK(functions.RegKeyPresent(registry::HKCU, Key));
-    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, Key, "number"));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "a negative number fails with its key made and nothing stored") {
+    CHECK_THROWS_AS(functions.RegWriteDword(registry::HKCU, ScratchKey, "number", -1),
+                    runtime::Failure);
+    CHECK(functions.RegKeyPresent(registry::HKCU, ScratchKey));
+    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, ScratchKey, "number"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "binary data are the characters of the text themselves") {
-    functions.RegWriteBinary(registry::HKCU, Key, "binary", "ff,ff,00,00");
-    CHECK((StoredUnder(Key, "binary") == Stored{Registry::Binary, "ff,ff,00,00"}));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "binary data are the characters of the text themselves") {
+    functions.RegWriteBinary(registry::HKCU, ScratchKey, "binary", "ff,ff,00,00");
+    CHECK((StoredUnder(ScratchKey, "binary") == Stored{Registry::Binary, "ff,ff,00,00"}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "texts read up to their first NUL, whatever their end is like") {
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "texts read up to their first NUL, whatever their end is like") {
     struct Case {
         std::uint32_t type;
         std::string bytes;
@@ -117,7 +123,8 @@ TEST_CASE_FIXTURE(Fixture, "texts read up to their first NUL, whatever their end
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "numbers read as signed, shorter ones too, longer ones not at all") {
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "numbers read as signed, shorter ones too, longer ones not at all") {
     Put("number", Registry::Dword, "\xFF\xFF\xFF\xFF");
     CHECK(Read("number") == "-1");
     Put("number", Registry::Dword, "\x00\x00\x00\x80"s);
@@ -130,7 +137,8 @@ TEST_CASE_FIXTURE(Fixture, "numbers read as signed, shorter ones too, longer one
     CHECK(Read("number") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "binary data read as hexadecimal bytes with a blank behind each") {
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "binary data read as hexadecimal bytes with a blank behind each") {
     Put("binary", Registry::Binary, "\x1A\x2B\x00"s);
     CHECK(Read("binary") == "1A 2B 00 ");
     Put("binary", Registry::Binary, "\x0A\x07\x10\xFF\xC3\x9A"s);
@@ -139,54 +147,58 @@ TEST_CASE_FIXTURE(Fixture, "binary data read as hexadecimal bytes with a blank b
     CHECK(Read("binary") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "other types are present and read as nothing") {
+TEST_CASE_FIXTURE(RegistryFunctionsFixture, "other types are present and read as nothing") {
     for (std::uint32_t type : {0u, 5u, 6u, 8u, 11u}) {
         CAPTURE(type);
         Put("other", type, "abcdefgh");
-        CHECK(functions.RegValuePresent(registry::HKCU, Key, "other"));
+        CHECK(functions.RegValuePresent(registry::HKCU, ScratchKey, "other"));
         CHECK(Read("other") == "");
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "absent keys and values are absent and read as nothing") {
-    CHECK_FALSE(functions.RegKeyPresent(registry::HKCU, Key));
-    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, Key, "x"));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "absent keys and values are absent and read as nothing") {
+    CHECK_FALSE(functions.RegKeyPresent(registry::HKCU, ScratchKey));
+    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, ScratchKey, "x"));
     CHECK(Read("x") == "");
-    functions.RegCreateKeyAt(registry::HKCU, Key);
-    CHECK(functions.RegKeyPresent(registry::HKCU, Key));
-    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, Key, "x"));
+    functions.RegCreateKeyAt(registry::HKCU, ScratchKey);
+    CHECK(functions.RegKeyPresent(registry::HKCU, ScratchKey));
+    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, ScratchKey, "x"));
     CHECK(Read("x") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a path is made level by level, a backslash behind it adds none") {
-    functions.RegCreateKeyAt(registry::HKCU, Key + "\\a\\b\\");
-    CHECK(functions.RegKeyPresent(registry::HKCU, Key + "\\a\\b"));
-    functions.RegWriteString(registry::HKCU, Key + "\\c\\d", "text", "x");
-    CHECK((StoredUnder(Key + "\\c\\d", "text") == Stored{Registry::String, "x"}));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "a path is made level by level, a backslash behind it adds none") {
+    functions.RegCreateKeyAt(registry::HKCU, ScratchKey + "\\a\\b\\");
+    CHECK(functions.RegKeyPresent(registry::HKCU, ScratchKey + "\\a\\b"));
+    functions.RegWriteString(registry::HKCU, ScratchKey + "\\c\\d", "text", "x");
+    CHECK((StoredUnder(ScratchKey + "\\c\\d", "text") == Stored{Registry::String, "x"}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "raw data are written into a key that is there and make none") {
-    functions.RegWriteRaw(registry::HKCU, Key, "raw", Registry::Binary, "abc", 3);
-    CHECK_FALSE(functions.RegKeyPresent(registry::HKCU, Key));
-    functions.RegCreateKeyAt(registry::HKCU, Key);
-    functions.RegWriteRaw(registry::HKCU, Key, "raw", Registry::Binary, "abc", 2);
-    CHECK((StoredUnder(Key, "raw") == Stored{Registry::Binary, "ab"}));
-    functions.RegWriteRaw(registry::HKCU, Key, "raw", Registry::MultiString, "a\0\0"s, 3);
-    CHECK((StoredUnder(Key, "raw") == Stored{Registry::MultiString, "a\0\0"s}));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "raw data are written into a key that is there and make none") {
+    functions.RegWriteRaw(registry::HKCU, ScratchKey, "raw", Registry::Binary, "abc", 3);
+    CHECK_FALSE(functions.RegKeyPresent(registry::HKCU, ScratchKey));
+    functions.RegCreateKeyAt(registry::HKCU, ScratchKey);
+    functions.RegWriteRaw(registry::HKCU, ScratchKey, "raw", Registry::Binary, "abc", 2);
+    CHECK((StoredUnder(ScratchKey, "raw") == Stored{Registry::Binary, "ab"}));
+    functions.RegWriteRaw(registry::HKCU, ScratchKey, "raw", Registry::MultiString, "a\0\0"s, 3);
+    CHECK((StoredUnder(ScratchKey, "raw") == Stored{Registry::MultiString, "a\0\0"s}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a value goes, a key goes only when it has no sub-keys") {
-    functions.RegWriteString(registry::HKCU, Key + "\\a", "text", "x");
-    functions.RegDeleteKeyAt(registry::HKCU, Key);
-    CHECK(functions.RegKeyPresent(registry::HKCU, Key));
-    functions.RegDeleteValueAt(registry::HKCU, Key + "\\a", "text");
-    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, Key + "\\a", "text"));
-    functions.RegDeleteKeyAt(registry::HKCU, Key + "\\a");
-    CHECK_FALSE(functions.RegKeyPresent(registry::HKCU, Key + "\\a"));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture,
+                  "a value goes, a key goes only when it has no sub-keys") {
+    functions.RegWriteString(registry::HKCU, ScratchKey + "\\a", "text", "x");
+    functions.RegDeleteKeyAt(registry::HKCU, ScratchKey);
+    CHECK(functions.RegKeyPresent(registry::HKCU, ScratchKey));
+    functions.RegDeleteValueAt(registry::HKCU, ScratchKey + "\\a", "text");
+    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, ScratchKey + "\\a", "text"));
+    functions.RegDeleteKeyAt(registry::HKCU, ScratchKey + "\\a");
+    CHECK_FALSE(functions.RegKeyPresent(registry::HKCU, ScratchKey + "\\a"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "the name (Standard) is not the default value") {
-    functions.RegWriteString(registry::HKCU, Key, "(Standard)", "named");
-    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, Key, ""));
+TEST_CASE_FIXTURE(RegistryFunctionsFixture, "the name (Standard) is not the default value") {
+    functions.RegWriteString(registry::HKCU, ScratchKey, "(Standard)", "named");
+    CHECK_FALSE(functions.RegValuePresent(registry::HKCU, ScratchKey, ""));
     CHECK(Read("(Standard)") == "named");
 }

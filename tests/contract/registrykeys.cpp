@@ -10,7 +10,7 @@ using platform::Registry;
 
 constexpr Registry::Key NoHandle = 0x7FFFFFF0;
 
-struct Fixture {
+struct RegistryKeysFixture {
     contract::TestMachine machine;
     Registry& registry = machine.Services().registry;
 
@@ -44,14 +44,15 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a key that was made can be opened, one that was not is not found") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "a key that was made can be opened, one that was not is not found") {
     CHECK(Open(Registry::CurrentUser, Scratch) == Registry::FileNotFound);
     registry.Close(MakeScratch());
     CHECK(Open(Registry::CurrentUser, Scratch) == Registry::Success);
     CHECK(Open(Registry::CurrentUser, std::string(Scratch) + "\\Absent") == Registry::FileNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "each of the three roots takes keys") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "each of the three roots takes keys") {
     for (Registry::Key root :
          {Registry::ClassesRoot, Registry::CurrentUser, Registry::LocalMachine}) {
         CAPTURE(root);
@@ -62,7 +63,8 @@ TEST_CASE_FIXTURE(Fixture, "each of the three roots takes keys") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "making a key makes the levels above it and opens what is there") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "making a key makes the levels above it and opens what is there") {
     const Registry::Key first = Make(Registry::CurrentUser, std::string(Scratch) + "\\a\\b\\c");
     CHECK(Open(Registry::CurrentUser, std::string(Scratch) + "\\a\\b") == Registry::Success);
     REQUIRE(SetNumber(first) == Registry::Success);
@@ -73,7 +75,8 @@ TEST_CASE_FIXTURE(Fixture, "making a key makes the levels above it and opens wha
     registry.Close(again);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty path opens the key itself through a fresh handle") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "an empty path opens the key itself through a fresh handle") {
     const Registry::Key key = MakeScratch();
     REQUIRE(SetNumber(key) == Registry::Success);
     Registry::Key same = 0;
@@ -84,7 +87,8 @@ TEST_CASE_FIXTURE(Fixture, "an empty path opens the key itself through a fresh h
     CHECK(registry.Close(same) == Registry::Success);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an empty path below a root opens the root, to make keys there") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "an empty path below a root opens the root, to make keys there") {
     Registry::Key root = 0;
     REQUIRE(registry.Open(Registry::CurrentUser, "", Registry::MayCreateSubKey, root) ==
             Registry::Success);
@@ -93,7 +97,7 @@ TEST_CASE_FIXTURE(Fixture, "an empty path below a root opens the root, to make k
     CHECK(Open(Registry::CurrentUser, Scratch) == Registry::Success);
 }
 
-TEST_CASE_FIXTURE(Fixture, "making the empty name opens the parent") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "making the empty name opens the parent") {
     const Registry::Key key = MakeScratch();
     REQUIRE(SetNumber(key) == Registry::Success);
     const Registry::Key same = Make(key, "");
@@ -102,7 +106,8 @@ TEST_CASE_FIXTURE(Fixture, "making the empty name opens the parent") {
     registry.Close(same);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a leading backslash is refused, a trailing one is passed over") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "a leading backslash is refused, a trailing one is passed over") {
     registry.Close(MakeScratch());
     const std::string scratch(Scratch);
     CHECK(Open(Registry::CurrentUser, "\\" + scratch) != Registry::Success);
@@ -111,7 +116,7 @@ TEST_CASE_FIXTURE(Fixture, "a leading backslash is refused, a trailing one is pa
     CHECK(Open(Registry::CurrentUser, scratch + "\\Below") == Registry::Success);
 }
 
-TEST_CASE_FIXTURE(Fixture, "key names are found in any case, umlauts included") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "key names are found in any case, umlauts included") {
     const Registry::Key key = MakeScratch();
     registry.Close(Make(key, "Größe und Öl"));
     CHECK(Open(key, "gRÖßE UND öL") == Registry::Success);
@@ -119,7 +124,7 @@ TEST_CASE_FIXTURE(Fixture, "key names are found in any case, umlauts included") 
     registry.Close(key);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a handle allows what it was opened for") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "a handle allows what it was opened for") {
     registry.Close(MakeScratch());
     Registry::Key writing = 0;
     Registry::Key making = 0;
@@ -137,7 +142,7 @@ TEST_CASE_FIXTURE(Fixture, "a handle allows what it was opened for") {
     registry.Close(making);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a key with sub-keys is not removed, one with values is") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "a key with sub-keys is not removed, one with values is") {
     const Registry::Key key = MakeScratch();
     REQUIRE(SetNumber(key) == Registry::Success);
     registry.Close(Make(key, "Below"));
@@ -150,7 +155,8 @@ TEST_CASE_FIXTURE(Fixture, "a key with sub-keys is not removed, one with values 
     CHECK(registry.RemoveKey(Registry::CurrentUser, Scratch) == Registry::FileNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a key is removed by a path with a backslash behind it, and no other") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "a key is removed by a path with a backslash behind it, and no other") {
     const std::string below = std::string(Scratch) + "\\Below";
     registry.Close(Make(Registry::CurrentUser, below));
     CHECK(registry.RemoveKey(Registry::CurrentUser, below + "\\") == Registry::Success);
@@ -159,7 +165,8 @@ TEST_CASE_FIXTURE(Fixture, "a key is removed by a path with a backslash behind i
     CHECK(Open(Registry::CurrentUser, Scratch) == Registry::Success);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the handle of a key that was removed serves no call but closing") {
+TEST_CASE_FIXTURE(RegistryKeysFixture,
+                  "the handle of a key that was removed serves no call but closing") {
     const Registry::Key key = MakeScratch();
     REQUIRE(SetNumber(key) == Registry::Success);
     REQUIRE(registry.RemoveKey(Registry::CurrentUser, Scratch) == Registry::Success);
@@ -172,7 +179,7 @@ TEST_CASE_FIXTURE(Fixture, "the handle of a key that was removed serves no call 
     CHECK(registry.Close(key) == Registry::Success);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a handle that is none is refused by every call") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "a handle that is none is refused by every call") {
     Registry::Key out = 0;
     CHECK(registry.Open(NoHandle, "a", Registry::MayDoAll, out) == Registry::InvalidHandle);
     CHECK(registry.Open(NoHandle, "", Registry::MayDoAll, out) == Registry::InvalidHandle);
@@ -184,7 +191,7 @@ TEST_CASE_FIXTURE(Fixture, "a handle that is none is refused by every call") {
     CHECK(registry.Close(NoHandle) == Registry::InvalidHandle);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a handle is closed once, a root as often as one likes") {
+TEST_CASE_FIXTURE(RegistryKeysFixture, "a handle is closed once, a root as often as one likes") {
     const Registry::Key key = MakeScratch();
     CHECK(registry.Close(key) == Registry::Success);
     CHECK(registry.Close(key) == Registry::InvalidHandle);

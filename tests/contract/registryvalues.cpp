@@ -22,16 +22,16 @@ std::string Pattern(std::size_t size) {
     return bytes;
 }
 
-struct Fixture {
+struct RegistryValuesFixture {
     contract::TestMachine machine;
     Registry& registry = machine.Services().registry;
     Registry::Key key = 0;
 
-    Fixture() {
+    RegistryValuesFixture() {
         REQUIRE(registry.Create(Registry::CurrentUser, Scratch, Registry::MayDoAll, key) ==
                 Registry::Success);
     }
-    ~Fixture() { registry.Close(key); }
+    ~RegistryValuesFixture() { registry.Close(key); }
 
     Registry::Result Set(std::string_view name, std::uint32_t type, std::string_view bytes) {
         return registry.Set(key, name, type, reinterpret_cast<const std::uint8_t*>(bytes.data()),
@@ -64,7 +64,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "every type and size comes back byte by byte") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "every type and size comes back byte by byte") {
     for (std::uint32_t type : AllTypes) {
         for (std::size_t size : AllSizes) {
             CAPTURE(type);
@@ -82,7 +82,7 @@ TEST_CASE_FIXTURE(Fixture, "every type and size comes back byte by byte") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "without a buffer only type and size are told") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "without a buffer only type and size are told") {
     for (std::uint32_t type : AllTypes) {
         for (std::size_t size : AllSizes) {
             CAPTURE(type);
@@ -97,7 +97,8 @@ TEST_CASE_FIXTURE(Fixture, "without a buffer only type and size are told") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a buffer that is too small gets the size that is needed") {
+TEST_CASE_FIXTURE(RegistryValuesFixture,
+                  "a buffer that is too small gets the size that is needed") {
     for (std::uint32_t type : AllTypes) {
         REQUIRE(Set("value", type, Pattern(20)) == Registry::Success);
         for (std::size_t room = 0; room < 20; ++room) {
@@ -112,7 +113,8 @@ TEST_CASE_FIXTURE(Fixture, "a buffer that is too small gets the size that is nee
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "room behind an unterminated text may get a NUL, never more") {
+TEST_CASE_FIXTURE(RegistryValuesFixture,
+                  "room behind an unterminated text may get a NUL, never more") {
     for (std::uint32_t type : AllTypes) {
         CAPTURE(type);
         REQUIRE(Set("value", type, "abc") == Registry::Success);
@@ -127,7 +129,8 @@ TEST_CASE_FIXTURE(Fixture, "room behind an unterminated text may get a NUL, neve
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a NUL that happens to stand behind the data is not stored") {
+TEST_CASE_FIXTURE(RegistryValuesFixture,
+                  "a NUL that happens to stand behind the data is not stored") {
     const char text[] = "Wert";
     for (std::uint32_t type : {Registry::String, Registry::ExpandString, Registry::MultiString}) {
         CAPTURE(type);
@@ -136,7 +139,8 @@ TEST_CASE_FIXTURE(Fixture, "a NUL that happens to stand behind the data is not s
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "NULs within and at the end of a text are stored as they come") {
+TEST_CASE_FIXTURE(RegistryValuesFixture,
+                  "NULs within and at the end of a text are stored as they come") {
     using namespace std::string_literals;
     for (const std::string& bytes : {"\0"s, "\0\0"s, "a\0"s, "a\0b"s, "a\0b\0\0"s, "\0a"s}) {
         for (std::uint32_t type :
@@ -153,19 +157,19 @@ TEST_CASE_FIXTURE(Fixture, "NULs within and at the end of a text are stored as t
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "every byte of the code page survives in a text") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "every byte of the code page survives in a text") {
     std::string all;
     for (int byte = 1; byte < 256; ++byte) all += static_cast<char>(byte);
     REQUIRE(Set("value", Registry::String, all) == Registry::Success);
     CHECK((Ask("value", all.size()).buffer == all));
 }
 
-TEST_CASE_FIXTURE(Fixture, "an absent value is not found") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "an absent value is not found") {
     CHECK(Ask("absent", 16).result == Registry::FileNotFound);
     CHECK(registry.RemoveValue(key, "absent") == Registry::FileNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the empty name is the default value, no other name is") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "the empty name is the default value, no other name is") {
     REQUIRE(Set("", Registry::String, "default") == Registry::Success);
     CHECK(Ask("(Standard)", 16).result == Registry::FileNotFound);
     REQUIRE(Set("(Standard)", Registry::String, "named") == Registry::Success);
@@ -176,7 +180,7 @@ TEST_CASE_FIXTURE(Fixture, "the empty name is the default value, no other name i
     CHECK(Ask("(Standard)", 5).result == Registry::Success);
 }
 
-TEST_CASE_FIXTURE(Fixture, "value names are found in any case, umlauts included") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "value names are found in any case, umlauts included") {
     REQUIRE(Set("Größe", Registry::String, "one") == Registry::Success);
     CHECK(Ask("GRÖßE", 3).buffer == "one");
     REQUIRE(Set("grÖßE", Registry::String, "two") == Registry::Success);
@@ -185,19 +189,20 @@ TEST_CASE_FIXTURE(Fixture, "value names are found in any case, umlauts included"
     CHECK(Ask("Größe", 3).result == Registry::FileNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a name with a backslash is an ordinary value name") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "a name with a backslash is an ordinary value name") {
     REQUIRE(Set("a\\b", Registry::String, "one") == Registry::Success);
     CHECK(Ask("a\\b", 3).buffer == "one");
 }
 
-TEST_CASE_FIXTURE(Fixture, "setting a value anew replaces its type and all its data") {
+TEST_CASE_FIXTURE(RegistryValuesFixture,
+                  "setting a value anew replaces its type and all its data") {
     REQUIRE(Set("value", Registry::String, "a long text") == Registry::Success);
     REQUIRE(Set("value", Registry::Dword, std::string_view("\1\0\0\0", 4)) == Registry::Success);
     using namespace std::string_literals;
     CHECK((StoredUnder("value") == Stored{Registry::Dword, "\1\0\0\0"s}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "data of size zero are stored as none") {
+TEST_CASE_FIXTURE(RegistryValuesFixture, "data of size zero are stored as none") {
     CHECK(registry.Set(key, "value", Registry::Binary, nullptr, 0) == Registry::Success);
     CHECK((StoredUnder("value") == Stored{Registry::Binary, ""}));
 }

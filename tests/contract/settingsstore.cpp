@@ -8,14 +8,14 @@ namespace {
 
 using contract::Title;
 
-struct Fixture {
+struct SettingsStoreFixture {
     contract::TestMachine machine;
     platform::SettingsStore& store = machine.Services().settings;
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "an absent title, section or key gives the fallback") {
+TEST_CASE_FIXTURE(SettingsStoreFixture, "an absent title, section or key gives the fallback") {
     CHECK(store.Get(Title, "Options", "Tab", "0") == "0");
     CHECK(store.Get(Title, "Options", "Tab", "") == "");
     store.Save(Title, "Options", "Other", "1");
@@ -23,7 +23,7 @@ TEST_CASE_FIXTURE(Fixture, "an absent title, section or key gives the fallback")
     CHECK(store.Get(Title, "Desktop", "Other", "7") == "7");
 }
 
-TEST_CASE_FIXTURE(Fixture, "what was saved is read again and the last text wins") {
+TEST_CASE_FIXTURE(SettingsStoreFixture, "what was saved is read again and the last text wins") {
     store.Save(Title, "Options", "Tab", "3");
     CHECK(store.Get(Title, "Options", "Tab", "0") == "3");
     store.Save(Title, "Options", "Tab", "");
@@ -32,7 +32,7 @@ TEST_CASE_FIXTURE(Fixture, "what was saved is read again and the last text wins"
     CHECK(store.Get(Title, "Options", "Tab", "0") == "a much longer text than before");
 }
 
-TEST_CASE_FIXTURE(Fixture, "texts keep their umlauts, blanks and length") {
+TEST_CASE_FIXTURE(SettingsStoreFixture, "texts keep their umlauts, blanks and length") {
     const std::string longText(5000, 'x');
     for (const std::string& text :
          {std::string("Größe: äöüß €"), std::string("  blanks  "), longText}) {
@@ -41,7 +41,7 @@ TEST_CASE_FIXTURE(Fixture, "texts keep their umlauts, blanks and length") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "sections and titles are apart, letters' case is not") {
+TEST_CASE_FIXTURE(SettingsStoreFixture, "sections and titles are apart, letters' case is not") {
     store.Save(Title, "Options", "Tab", "1");
     store.Save(Title, "Desktop", "Tab", "2");
     CHECK(store.Get(Title, "Options", "Tab", "") == "1");
@@ -50,7 +50,7 @@ TEST_CASE_FIXTURE(Fixture, "sections and titles are apart, letters' case is not"
     CHECK(store.Get(std::string(Title) + "2", "Options", "Tab", "none") == "none");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(SettingsStoreFixture,
                   "a section is deleted with all its keys, and an absent one passed over") {
     store.Save(Title, "Config", "Count", "1");
     store.Save(Title, "Config", "Drives1", "E:=>");

@@ -19,7 +19,7 @@ constexpr std::uint32_t SelectionChanged = 2;
 constexpr std::uint32_t SetSelection = 0x466;
 constexpr std::uint32_t FoldersOnly = 1;
 
-struct Fixture {
+struct ShellFixture {
     contract::TestMachine machine;
     platform::Shell& shell = machine.Services().shell;
 
@@ -34,7 +34,7 @@ struct Fixture {
 };
 
 // A folder dialog that is opened on the Windows directory and used once.
-struct Picker : Fixture {
+struct Picker : ShellFixture {
     toolkit::Form owner{machine.Services().forms, "frmOwner", "Fenster", {}};
     const std::string windows = machine.Services().facts.WindowsDirectory();
     std::vector<std::uint32_t> messages;
@@ -56,22 +56,24 @@ struct Picker : Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "executing a file that is not there is passed over") {
+TEST_CASE_FIXTURE(ShellFixture, "executing a file that is not there is passed over") {
     const std::string absent = machine.FilePath("absent.msc");
     CHECK_NOTHROW(shell.Execute("Open", absent, "/s", machine.FilePath(""), 1));
 }
 
-TEST_CASE_FIXTURE(Fixture, "the shell has a sheet of properties by number alone") {
+TEST_CASE_FIXTURE(ShellFixture, "the shell has a sheet of properties by number alone") {
     CHECK_NOTHROW(shell.ObjectProperties(2));
 }
 
-TEST_CASE_FIXTURE(Fixture, "the special folder 0x24 is the Windows directory, 0x25 the system's") {
+TEST_CASE_FIXTURE(ShellFixture,
+                  "the special folder 0x24 is the Windows directory, 0x25 the system's") {
     const auto& facts = machine.Services().facts;
     CHECK(shell.SpecialFolder(0x24) == facts.WindowsDirectory());
     CHECK(shell.SpecialFolder(0x25) == facts.SystemDirectory());
 }
 
-TEST_CASE_FIXTURE(Fixture, "the folders of the user are full paths without a backslash behind") {
+TEST_CASE_FIXTURE(ShellFixture,
+                  "the folders of the user are full paths without a backslash behind") {
     for (int csidl : {0x08, 0x09, 0x1A}) {
         const std::string path = shell.SpecialFolder(csidl);
         REQUIRE(path.size() > 3);
@@ -80,17 +82,17 @@ TEST_CASE_FIXTURE(Fixture, "the folders of the user are full paths without a bac
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "an unknown number is no special folder") {
+TEST_CASE_FIXTURE(ShellFixture, "an unknown number is no special folder") {
     CHECK(shell.SpecialFolder(4711) == "");
     CHECK(shell.SpecialFolder(-1) == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a special folder outside the file system has no path") {
+TEST_CASE_FIXTURE(ShellFixture, "a special folder outside the file system has no path") {
     constexpr int controlPanel = 3;
     CHECK(shell.SpecialFolder(controlPanel) == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a deleted file is gone, and its neighbour is not") {
+TEST_CASE_FIXTURE(ShellFixture, "a deleted file is gone, and its neighbour is not") {
     const std::string path = NewFile("Größe eins.tmp");
     const std::string other = NewFile("other.tmp");
     CHECK(shell.OperateOnFiles(Delete, path, Quiet) == 0);
@@ -98,11 +100,11 @@ TEST_CASE_FIXTURE(Fixture, "a deleted file is gone, and its neighbour is not") {
     CHECK(machine.FileContent(other) == "x");
 }
 
-TEST_CASE_FIXTURE(Fixture, "deleting a file that is not there is refused with a code") {
+TEST_CASE_FIXTURE(ShellFixture, "deleting a file that is not there is refused with a code") {
     CHECK(shell.OperateOnFiles(Delete, machine.FilePath("absent.tmp"), Quiet) != 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an unknown operation on files is refused and leaves them") {
+TEST_CASE_FIXTURE(ShellFixture, "an unknown operation on files is refused and leaves them") {
     const std::string path = NewFile("kept.tmp");
     CHECK(shell.OperateOnFiles(99, path, Quiet) != 0);
     CHECK(machine.FileContent(path) == "x");

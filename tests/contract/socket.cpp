@@ -11,7 +11,7 @@ using contract::ServerAnswer;
 using platform::Socket;
 using End = ServerAnswer::End;
 
-struct Fixture {
+struct SocketFixture {
     contract::TestMachine machine;
     Socket& socket = machine.Services().socket;
     // One letter an event: c connected, d data, x closed, e error.
@@ -19,7 +19,7 @@ struct Fixture {
     std::string data;
     int error = 0;
 
-    Fixture() {
+    SocketFixture() {
         socket.onConnect = [this] { events += 'c'; };
         socket.onDataArrival = [this] {
             // How many pieces arrive together is the network's affair.
@@ -32,7 +32,7 @@ struct Fixture {
             error = number;
         };
     }
-    ~Fixture() {
+    ~SocketFixture() {
         // What is kept here is gone before the machine is.
         socket.onConnect = socket.onDataArrival = socket.onClose = nullptr;
         socket.onError = nullptr;
@@ -53,7 +53,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(SocketFixture,
                   "a connection's events come in their order and none before Connect is over") {
     const std::string bytes("\0\x01 \xFF\r\n\x80", 7);
     ConnectTo(machine.Serve({{{bytes}}}));
@@ -67,20 +67,21 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(socket.State() == Socket::Closed);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a closed socket stays closed and has no data") {
+TEST_CASE_FIXTURE(SocketFixture, "a closed socket stays closed and has no data") {
     CHECK(socket.State() == Socket::Closed);
     socket.Close();
     CHECK(socket.State() == Socket::Closed);
     CHECK(socket.GetData() == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "pieces arrive as they come and are joined by whoever takes them") {
+TEST_CASE_FIXTURE(SocketFixture,
+                  "pieces arrive as they come and are joined by whoever takes them") {
     ConnectTo(machine.Serve({{{"a", "b", "c"}, End::Closes, 60}}));
     CHECK(Comes('x'));
     CHECK(data == "abc");
 }
 
-TEST_CASE_FIXTURE(Fixture, "data that nobody takes waits") {
+TEST_CASE_FIXTURE(SocketFixture, "data that nobody takes waits") {
     socket.onDataArrival = [this] { events += 'd'; };
     ConnectTo(machine.Serve({{{"ab", "cd"}, End::Stays, 60}}));
     CHECK(machine.PassTime(20000, [&] { return events == "cdd"; }));
@@ -88,7 +89,8 @@ TEST_CASE_FIXTURE(Fixture, "data that nobody takes waits") {
     CHECK(socket.GetData() == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a great lot of data arrives to its last byte before the end is told") {
+TEST_CASE_FIXTURE(SocketFixture,
+                  "a great lot of data arrives to its last byte before the end is told") {
     std::string lot(200'000, 'x');
     for (std::size_t i = 0; i < lot.size(); ++i) lot[i] = static_cast<char>(i * 7 % 251);
     ConnectTo(machine.Serve({{{lot}}}));
@@ -96,13 +98,13 @@ TEST_CASE_FIXTURE(Fixture, "a great lot of data arrives to its last byte before 
     CHECK((data == lot));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a server that sends nothing closes all the same") {
+TEST_CASE_FIXTURE(SocketFixture, "a server that sends nothing closes all the same") {
     ConnectTo(machine.Serve({{}}));
     CHECK(Comes('x'));
     CHECK(events == "cx");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a server that stays silent leaves the connection as it is") {
+TEST_CASE_FIXTURE(SocketFixture, "a server that stays silent leaves the connection as it is") {
     ConnectTo(machine.Serve({{{}, End::Stays}}));
     CHECK(Comes('c'));
     Pass(300);
@@ -110,7 +112,7 @@ TEST_CASE_FIXTURE(Fixture, "a server that stays silent leaves the connection as 
     CHECK(socket.State() == Socket::Connected);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a connection that breaks off is an error and no close") {
+TEST_CASE_FIXTURE(SocketFixture, "a connection that breaks off is an error and no close") {
     const bool hidden = machine.HidesBreaks();
     ConnectTo(machine.Serve({{{"ab"}, End::Resets, 100}}));
     CHECK(Comes(hidden ? 'x' : 'e'));
@@ -122,7 +124,7 @@ TEST_CASE_FIXTURE(Fixture, "a connection that breaks off is an error and no clos
     CHECK(socket.State() == Socket::Closed);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a server that is not there refuses, which is an error") {
+TEST_CASE_FIXTURE(SocketFixture, "a server that is not there refuses, which is an error") {
     ConnectTo(machine.RefusingPort());
     CHECK(events == "");
     CHECK(Comes('e'));
@@ -132,7 +134,7 @@ TEST_CASE_FIXTURE(Fixture, "a server that is not there refuses, which is an erro
     CHECK(socket.State() == Socket::Failed);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a name is looked up") {
+TEST_CASE_FIXTURE(SocketFixture, "a name is looked up") {
     ConnectTo(machine.Serve({{{"ab"}}}), "localhost");
     CHECK(events == "");
     CHECK(socket.State() != Socket::Closed);
@@ -140,7 +142,7 @@ TEST_CASE_FIXTURE(Fixture, "a name is looked up") {
     CHECK(data == "ab");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a name that no computer can have is an error") {
+TEST_CASE_FIXTURE(SocketFixture, "a name that no computer can have is an error") {
     ConnectTo(37, std::string(70, 'x').c_str());
     CHECK(socket.State() == Socket::Resolving);
     CHECK(events == "");
@@ -154,7 +156,7 @@ TEST_CASE_FIXTURE(Fixture, "a name that no computer can have is an error") {
     CHECK(data == "ab");
 }
 
-TEST_CASE_FIXTURE(Fixture, "closing while a name is looked up drops the look-up") {
+TEST_CASE_FIXTURE(SocketFixture, "closing while a name is looked up drops the look-up") {
     const std::string unknown(70, 'x');
     ConnectTo(37, unknown.c_str());
     socket.Close();
@@ -168,7 +170,7 @@ TEST_CASE_FIXTURE(Fixture, "closing while a name is looked up drops the look-up"
     CHECK(data == "ab");
 }
 
-TEST_CASE_FIXTURE(Fixture, "closing drops what is under way, also bytes that have arrived") {
+TEST_CASE_FIXTURE(SocketFixture, "closing drops what is under way, also bytes that have arrived") {
     const std::uint16_t port = machine.Serve({{{"ab"}}, {{"cd"}}});
     socket.onDataArrival = [this] { events += 'd'; };
     ConnectTo(port);
@@ -183,7 +185,7 @@ TEST_CASE_FIXTURE(Fixture, "closing drops what is under way, also bytes that hav
     CHECK(events == "cd");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(SocketFixture,
                   "a connection made at once after closing hears nothing of the one before") {
     const std::uint16_t port = machine.Serve({{{"alt"}}, {{"neu"}}});
     ConnectTo(port);
@@ -196,7 +198,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(data == "neu");
 }
 
-TEST_CASE_FIXTURE(Fixture, "an event may close the socket, and none comes after it") {
+TEST_CASE_FIXTURE(SocketFixture, "an event may close the socket, and none comes after it") {
     socket.onDataArrival = [this] {
         events += 'd';
         socket.Close();
@@ -208,7 +210,7 @@ TEST_CASE_FIXTURE(Fixture, "an event may close the socket, and none comes after 
     CHECK(socket.State() == Socket::Closed);
 }
 
-TEST_CASE_FIXTURE(Fixture, "only a closed socket connects") {
+TEST_CASE_FIXTURE(SocketFixture, "only a closed socket connects") {
     ConnectTo(machine.Serve({{{}, End::Stays}}));
     int number = 0;
     try {
@@ -220,7 +222,7 @@ TEST_CASE_FIXTURE(Fixture, "only a closed socket connects") {
     CHECK(Comes('c'));
 }
 
-TEST_CASE_FIXTURE(Fixture, "events without a listener are passed over") {
+TEST_CASE_FIXTURE(SocketFixture, "events without a listener are passed over") {
     socket.onConnect = socket.onDataArrival = nullptr;
     ConnectTo(machine.Serve({{{"ab"}}}));
     CHECK(Comes('x'));

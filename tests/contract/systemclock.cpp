@@ -13,7 +13,7 @@ using platform::LocalTime;
 
 constexpr LocalTime Moment{2026, 11, 21, 16, 5, 9};
 
-struct Fixture {
+struct SystemClockFixture {
     contract::TestMachine machine;
     platform::SystemClock& clock = machine.NotingClock();
 
@@ -43,12 +43,12 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a moment in UTC is set as a whole") {
+TEST_CASE_FIXTURE(SystemClockFixture, "a moment in UTC is set as a whole") {
     clock.SetSystemTime(Moment);
     CHECK(machine.ClockSettings() == std::vector<contract::ClockSetting>{{true, Moment}});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the local date is set with the time of day that it is") {
+TEST_CASE_FIXTURE(SystemClockFixture, "the local date is set with the time of day that it is") {
     const LocalTime before = machine.Services().clock.Now();
     clock.SetLocalDate(Moment);
     CHECK_FALSE(machine.ClockSettings().front().system);
@@ -58,7 +58,7 @@ TEST_CASE_FIXTURE(Fixture, "the local date is set with the time of day that it i
     CHECK(DialDistance(Told(), before) < 30);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the local time is set with the date that it is") {
+TEST_CASE_FIXTURE(SystemClockFixture, "the local time is set with the date that it is") {
     const LocalTime before = machine.Services().clock.Now();
     clock.SetLocalTime(Moment);
     CHECK_FALSE(machine.ClockSettings().front().system);
@@ -70,7 +70,8 @@ TEST_CASE_FIXTURE(Fixture, "the local time is set with the date that it is") {
     CHECK((isDayOf(before) || isDayOf(after)));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a refused date or time is a failure, a refused moment in UTC is not") {
+TEST_CASE_FIXTURE(SystemClockFixture,
+                  "a refused date or time is a failure, a refused moment in UTC is not") {
     machine.RefuseClock();
     CHECK(FailureOf([&] { clock.SetLocalDate(Moment); }) == 70);
     CHECK(FailureOf([&] { clock.SetLocalTime(Moment); }) == 70);

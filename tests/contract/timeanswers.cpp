@@ -14,7 +14,7 @@ using platform::Socket;
 using End = ServerAnswer::End;
 using Settings = std::vector<contract::ClockSetting>;
 
-struct Fixture {
+struct TimeAnswersFixture {
     contract::TestMachine machine;
     Socket& socket = machine.Services().socket;
 
@@ -111,7 +111,7 @@ const Kind Kinds[] = {
 TEST_CASE("of all kinds of answers only those of four bytes set the clock") {
     for (const Kind& kind : Kinds) {
         CAPTURE(kind.name);
-        Fixture fixture;
+        TimeAnswersFixture fixture;
         const Settings settings = fixture.Ask(fixture.machine.Serve({kind.answer}));
         CHECK(settings == (kind.sets ? Settings{{true, kind.set}} : Settings{}));
         CHECK(fixture.connections == 1);
@@ -121,35 +121,36 @@ TEST_CASE("of all kinds of answers only those of four bytes set the clock") {
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "four bytes of a connection that breaks off set nothing") {
+TEST_CASE_FIXTURE(TimeAnswersFixture, "four bytes of a connection that breaks off set nothing") {
     const auto port = machine.Serve({{{"\xC3\xF2\xF9\xFD"}, End::Resets, 100}});
     CHECK(Ask(port) == (machine.HidesBreaks() ? Settings{{true, Friday}} : Settings{}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a server that refuses sets nothing") {
+TEST_CASE_FIXTURE(TimeAnswersFixture, "a server that refuses sets nothing") {
     CHECK(Ask(machine.RefusingPort()).empty());
     CHECK(connections == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a server that stays silent sets nothing and is not closed") {
+TEST_CASE_FIXTURE(TimeAnswersFixture, "a server that stays silent sets nothing and is not closed") {
     staysOpen = true;
     CHECK(Ask(machine.Serve({{{}, End::Stays}})).empty());
     CHECK(connections == 1);
     CHECK_FALSE(bytesCame);
 }
 
-TEST_CASE_FIXTURE(Fixture, "four bytes without an end set nothing") {
+TEST_CASE_FIXTURE(TimeAnswersFixture, "four bytes without an end set nothing") {
     staysOpen = true;
     CHECK(Ask(machine.Serve({{{"\xC3\xF2\xF9\xFD"}, End::Stays}})).empty());
     CHECK(bytesCame);
     CHECK(closes == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a host that nobody knows sets nothing") {
+TEST_CASE_FIXTURE(TimeAnswersFixture, "a host that nobody knows sets nothing") {
     CHECK(Ask(37, 1, std::string(70, 'x').c_str()).empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a second request drops the first, whose half answer plays no part") {
+TEST_CASE_FIXTURE(TimeAnswersFixture,
+                  "a second request drops the first, whose half answer plays no part") {
     const auto port =
         machine.Serve({{{"\xC3\xF2"}, End::Stays}, {{"\xC3\xF2\xF9\xFD"}, End::Closes, 100}});
     CHECK(Ask(port, 2) == Settings{{true, Friday}});

@@ -10,7 +10,6 @@ namespace {
 using platform::TipTool;
 using Handle = platform::ToolTips::Handle;
 
-constexpr char Class[] = "QuillmoreStandIn";
 constexpr std::uint32_t Topmost = 8;
 constexpr std::uint32_t OwnBits = 0xFF;
 constexpr std::uint32_t Balloons = 0x40;
@@ -21,7 +20,7 @@ struct ToolTips {
     contract::TestMachine machine;
     platform::ToolTips& tips = machine.Services().toolTips;
     Handle window = Open();
-    Handle control = machine.OpenWindow(Class, "control");
+    Handle control = machine.OpenWindow(contract::StandInClass, "control");
 
     ~ToolTips() { tips.Destroy(window); }
 

@@ -43,7 +43,7 @@ Calls Drawn(std::int16_t look, const State& state) {
     return test.Painted();
 }
 
-std::string Lines(const Calls& calls) {
+std::string LinesOf(const Calls& calls) {
     std::string lines;
     for (const std::string& call : calls) lines += call + '\n';
     return lines;
@@ -63,7 +63,7 @@ TEST_CASE("the looks' drawing calls are those of the golden file") {
     for (std::int16_t look = 1; look <= Looks; ++look) {
         for (const State& state : States) {
             all += "look " + std::to_string(look) + ", " + state.name + '\n' +
-                   Lines(Drawn(look, state)) + '\n';
+                   LinesOf(Drawn(look, state)) + '\n';
         }
     }
     const std::string path = QUILLMORE_SOURCE_DIR "/tests/golden/buttonlooks.txt";

@@ -27,7 +27,7 @@ ButtonProperties Read(const char* lines) {
     return controls::ReadButtonProperties(PropertyStore(lines));
 }
 
-toolkit::SharedPicture Picture() {
+toolkit::SharedPicture TestIcon() {
     return std::make_shared<TestPicture>(toolkit::Picture::Kind::Icon, toolkit::Size{16, 16}, "i");
 }
 
@@ -96,9 +96,9 @@ TEST_CASE("a default is written too, in its own way") {
 }
 
 TEST_CASE("what a button writes, another one reads") {
-    const auto over = Picture();
-    const auto normal = Picture();
-    const auto icon = Picture();
+    const auto over = TestIcon();
+    const auto normal = TestIcon();
+    const auto icon = TestIcon();
     ButtonProperties given{.buttonType = 14,
                            .caption = "&Größe",
                            .enabled = false,
@@ -183,7 +183,7 @@ TEST_CASE("without FCOLO the text under the mouse has the ForeColor just read") 
 }
 
 TEST_CASE("PICH gives PictureOver, and PICO is never read") {
-    const auto first = Picture();
+    const auto first = TestIcon();
     PropertyStore store;
     store.Write("PICO", "", first);
     CHECK_FALSE(controls::ReadButtonProperties(store).pictureOver);
@@ -225,9 +225,9 @@ TEST_CASE("each setter stores, and announces its property under the key's name")
     test.button.SetForeOver(4);
     test.button.SetMaskColor(5);
     test.button.SetMousePointer(6);
-    test.button.SetMouseIcon(Picture());
-    test.button.SetPictureNormal(Picture());
-    test.button.SetPictureOver(Picture());
+    test.button.SetMouseIcon(TestIcon());
+    test.button.SetPictureNormal(TestIcon());
+    test.button.SetPictureOver(TestIcon());
     test.button.SetUseMaskColor(false);
     test.button.SetSoftBevel(true);
     test.button.SetPicturePosition(1);
@@ -298,7 +298,7 @@ TEST_CASE("what only the mouse's picture depends on is not drawn anew") {
     WatchedButton test;
     const int repaints = test.view.repaints;
     test.button.SetMousePointer(2);
-    test.button.SetMouseIcon(Picture());
+    test.button.SetMouseIcon(TestIcon());
     test.button.SetHandPointer(true);
     CHECK(test.view.repaints == repaints);
 }
@@ -333,7 +333,7 @@ TEST_CASE("every other property is drawn anew") {
 TEST_CASE("the mouse shows a hand, the pointer code, or the button's own picture") {
     WatchedButton test;
     CHECK(test.button.MousePicture().code == 0);
-    const auto icon = Picture();
+    const auto icon = TestIcon();
     test.button.SetMousePointer(toolkit::Pointer::Own);
     test.button.SetMouseIcon(icon);
     CHECK(test.button.MousePicture().code == 99);

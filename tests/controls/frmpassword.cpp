@@ -27,7 +27,7 @@ struct Asked {
     }
 };
 
-std::function<void(toolkit::Form&)> Press(const char* name) {
+std::function<void(toolkit::Form&)> Pressing(const char* name) {
     return [=](toolkit::Form& form) { form.Find<controls::chameleonButton>(name).Press(); };
 }
 
@@ -35,7 +35,7 @@ std::function<void(toolkit::Form&)> Press(const char* name) {
 
 TEST_CASE("OK hides the password dialog, which stays loaded with what was typed") {
     Asked test;
-    test.To("Geheim", Press("cmdOK"));
+    test.To("Geheim", Pressing("cmdOK"));
     CHECK_FALSE(test.form.Visible());
     CHECK(test.form.Loaded());
     CHECK(test.password.Text() == "Geheim");
@@ -43,7 +43,7 @@ TEST_CASE("OK hides the password dialog, which stays loaded with what was typed"
 
 TEST_CASE("Cancel empties the password and hides the dialog, which stays loaded") {
     Asked test;
-    test.To("Geheim", Press("cmdCancel"));
+    test.To("Geheim", Pressing("cmdCancel"));
     CHECK_FALSE(test.form.Visible());
     CHECK(test.form.Loaded());
     CHECK(test.password.Text().empty());
@@ -55,7 +55,7 @@ TEST_CASE("Cancel empties the password before it hides the dialog") {
     test.password.onChange = [&] {
         if (test.password.Text().empty()) visible = test.form.Visible();
     };
-    test.To("Geheim", Press("cmdCancel"));
+    test.To("Geheim", Pressing("cmdCancel"));
     CHECK(visible);
 }
 
@@ -69,9 +69,9 @@ TEST_CASE("the close box empties the password and unloads the dialog") {
 
 TEST_CASE("the password dialog can be shown again after each way out") {
     Asked test;
-    test.To("eins", Press("cmdCancel"));
+    test.To("eins", Pressing("cmdCancel"));
     test.To("zwei", [](toolkit::Form& form) { form.Unload(); });
-    test.To("drei", Press("cmdOK"));
+    test.To("drei", Pressing("cmdOK"));
     CHECK(test.password.Text() == "drei");
     CHECK(test.form.Loaded());
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-struct Windows {
+struct FormsFixture {
     platform::simulated::Machine machine;
     platform::simulated::Forms& forms = machine.forms;
     toolkit::Form main{forms, "frmMain", "Quillmore", {0, 0, 9990, 7920}};
@@ -19,7 +19,8 @@ struct Windows {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Windows, "forms are open from their loading to their unloading, in that order") {
+TEST_CASE_FIXTURE(FormsFixture,
+                  "forms are open from their loading to their unloading, in that order") {
     CHECK(forms.OpenForms().empty());
     main.Show();
     dialog.Load();
@@ -32,7 +33,7 @@ TEST_CASE_FIXTURE(Windows, "forms are open from their loading to their unloading
           "OpenForm frmMain\nOpenForm frmPassword\nCloseForm frmMain\nCloseForm frmPassword\n");
 }
 
-TEST_CASE_FIXTURE(Windows, "a form that dies loaded is open no longer") {
+TEST_CASE_FIXTURE(FormsFixture, "a form that dies loaded is open no longer") {
     {
         toolkit::Form brief(forms, "frmAbout", "", {});
         brief.Load();
@@ -41,13 +42,13 @@ TEST_CASE_FIXTURE(Windows, "a form that dies loaded is open no longer") {
     CHECK(forms.OpenForms().empty());
 }
 
-TEST_CASE_FIXTURE(Windows, "a hidden form stays open") {
+TEST_CASE_FIXTURE(FormsFixture, "a hidden form stays open") {
     main.Show();
     main.Hide();
     CHECK(forms.OpenForms().size() == 1);
 }
 
-TEST_CASE_FIXTURE(Windows, "a modal form is handed to its script, which hides or unloads it") {
+TEST_CASE_FIXTURE(FormsFixture, "a modal form is handed to its script, which hides or unloads it") {
     std::string seen;
     forms.WhenModal("frmPassword", [&](toolkit::Form& form) {
         CHECK(form.Visible());
@@ -66,28 +67,29 @@ TEST_CASE_FIXTURE(Windows, "a modal form is handed to its script, which hides or
     CHECK(machine.journal.Calls("ShowModal").size() == 2);
 }
 
-TEST_CASE_FIXTURE(Windows, "a script waits for the form of its name") {
+TEST_CASE_FIXTURE(FormsFixture, "a script waits for the form of its name") {
     forms.WhenModal("frmAbout", [](toolkit::Form&) { FAIL("the wrong form"); });
     forms.WhenModal("frmPassword", [](toolkit::Form& form) { form.Hide(); });
     CHECK_NOTHROW(dialog.ShowModal());
 }
 
-TEST_CASE_FIXTURE(Windows, "a modal form without a script is a mistake in the test") {
+TEST_CASE_FIXTURE(FormsFixture, "a modal form without a script is a mistake in the test") {
     CHECK_THROWS_AS(dialog.ShowModal(), std::logic_error);
 }
 
-TEST_CASE_FIXTURE(Windows, "a modal form left open by its script is a mistake in the test") {
+TEST_CASE_FIXTURE(FormsFixture, "a modal form left open by its script is a mistake in the test") {
     forms.WhenModal("frmPassword", [](toolkit::Form&) {});
     CHECK_THROWS_AS(dialog.ShowModal(), std::logic_error);
 }
 
-TEST_CASE_FIXTURE(Windows, "controls have no views on a machine without a screen") {
+TEST_CASE_FIXTURE(FormsFixture, "controls have no views on a machine without a screen") {
     auto& box = main.Add<toolkit::CheckBox>("chkAutoLogin", "Auto-Login");
     main.Show();
     CHECK(box.View() == nullptr);
 }
 
-TEST_CASE_FIXTURE(Windows, "a control's window has a number of its own while its form is open") {
+TEST_CASE_FIXTURE(FormsFixture,
+                  "a control's window has a number of its own while its form is open") {
     const auto& box = main.Add<toolkit::CheckBox>("chkAutoLogin", "Auto-Login");
     const auto& label = main.Add<toolkit::Label>("lblSP", "3");
     const auto& button = dialog.Add<toolkit::CheckBox>("chkOther", "");
@@ -102,6 +104,6 @@ TEST_CASE_FIXTURE(Windows, "a control's window has a number of its own while its
     CHECK(forms.HandleOf(button) == 3);
 }
 
-TEST_CASE_FIXTURE(Windows, "the work area is that of a screen of 1024 by 740 pixels") {
+TEST_CASE_FIXTURE(FormsFixture, "the work area is that of a screen of 1024 by 740 pixels") {
     CHECK(forms.WorkArea() == toolkit::Bounds{0, 0, 15360, 11100});
 }

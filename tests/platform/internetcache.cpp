@@ -9,7 +9,7 @@ using runtime::Mistake;
 
 namespace {
 
-struct Fixture {
+struct CacheFixture {
     platform::simulated::Machine machine;
     platform::InternetCache& cache = machine.services.internetCache;
     char byte = 'x';
@@ -17,7 +17,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "memory outside of a block is a mistake, to its byte") {
+TEST_CASE_FIXTURE(CacheFixture, "memory outside of a block is a mistake, to its byte") {
     const auto block = cache.Allocate(4);
     cache.Write(block + 3, &byte, 1);
     cache.Read(&byte, block, 1);
@@ -27,7 +27,7 @@ TEST_CASE_FIXTURE(Fixture, "memory outside of a block is a mistake, to its byte"
     CHECK_THROWS_AS(cache.Read(&byte, 0, 1), Mistake);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a block cannot be touched or freed again after its end") {
+TEST_CASE_FIXTURE(CacheFixture, "a block cannot be touched or freed again after its end") {
     const auto block = cache.Allocate(4);
     cache.Free(block);
     CHECK(cache.Allocate(4) != block);
@@ -35,7 +35,7 @@ TEST_CASE_FIXTURE(Fixture, "a block cannot be touched or freed again after its e
     CHECK_THROWS_AS(cache.Free(block), Mistake);
 }
 
-TEST_CASE_FIXTURE(Fixture, "blocks do not touch each other") {
+TEST_CASE_FIXTURE(CacheFixture, "blocks do not touch each other") {
     const auto first = cache.Allocate(16);
     const auto second = cache.Allocate(16);
     CHECK(second > first + 16);
@@ -43,7 +43,7 @@ TEST_CASE_FIXTURE(Fixture, "blocks do not touch each other") {
     CHECK(machine.internetCache.HeldBlocks() == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a cache that fills a block beyond its bytes is a mistake") {
+TEST_CASE_FIXTURE(CacheFixture, "a cache that fills a block beyond its bytes is a mistake") {
     machine.internetCache.Add({.url = "a"});
     platform::InternetCache::Handle search = 0;
     std::uint32_t size = 1000;
@@ -51,7 +51,7 @@ TEST_CASE_FIXTURE(Fixture, "a cache that fills a block beyond its bytes is a mis
     CHECK_THROWS_AS(cache.FindFirst(nullptr, block, size, search), Mistake);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a search that is closed cannot go on or be closed again") {
+TEST_CASE_FIXTURE(CacheFixture, "a search that is closed cannot go on or be closed again") {
     machine.internetCache.Add({.url = "a"});
     platform::InternetCache::Handle search = 0;
     std::uint32_t size = 1000;

@@ -8,14 +8,14 @@ using Lines = std::vector<std::string>;
 
 namespace {
 
-struct Windows {
+struct OtherWindowsFixture {
     platform::simulated::Machine machine;
     platform::simulated::OtherWindows& windows = machine.windows;
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Windows, "closing a window closes all below it and nothing else") {
+TEST_CASE_FIXTURE(OtherWindowsFixture, "closing a window closes all below it and nothing else") {
     const auto parent = windows.Open("A");
     const auto child = windows.Open("B", "", parent);
     const auto grandchild = windows.Open("C", "", child);
@@ -26,7 +26,8 @@ TEST_CASE_FIXTURE(Windows, "closing a window closes all below it and nothing els
     CHECK(windows.Find("A", nullptr) == other);
 }
 
-TEST_CASE_FIXTURE(Windows, "every call leaves a line, also one on a window that is not there") {
+TEST_CASE_FIXTURE(OtherWindowsFixture,
+                  "every call leaves a line, also one on a window that is not there") {
     windows.SetExtendedStyle(7, 0x80000);
     windows.Redraw(7);
     CHECK(windows.ExtendedStyle(7) == 0);
@@ -36,7 +37,7 @@ TEST_CASE_FIXTURE(Windows, "every call leaves a line, also one on a window that 
                 "GetWindowLongA #7 GWL_EXSTYLE -> 0x00", "GetSystemMetrics -> 1024x768"});
 }
 
-TEST_CASE_FIXTURE(Windows, "calls that must fail find nothing and change nothing") {
+TEST_CASE_FIXTURE(OtherWindowsFixture, "calls that must fail find nothing and change nothing") {
     const auto parent = windows.Open("Bar");
     const auto child = windows.Open("Child", "", parent);
     machine.faults.FailOn("Bar", 5);
@@ -57,7 +58,7 @@ TEST_CASE_FIXTURE(Windows, "calls that must fail find nothing and change nothing
     CHECK(windows.At(child).redraws == 0);
 }
 
-TEST_CASE_FIXTURE(Windows, "place and size that are to stay do so") {
+TEST_CASE_FIXTURE(OtherWindowsFixture, "place and size that are to stay do so") {
     const auto window = windows.Open("A");
     windows.SetPosition(window, 0, {1, 2, 3, 4}, 0);
     windows.SetPosition(window, 0, {5, 6, 7, 8}, 0x01);

@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 
 namespace {
 
-struct Fixture {
+struct ShellFixture {
     platform::simulated::Machine machine;
     platform::Shell& shell = machine.services.shell;
     toolkit::Form owner{machine.forms, "frmOwner", "Fenster", {}};
@@ -31,7 +31,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "what is executed is noted with all its arguments") {
+TEST_CASE_FIXTURE(ShellFixture, "what is executed is noted with all its arguments") {
     shell.Execute("Open", "services.msc", "/s", "C:\\WINDOWS\\System32", 1);
     CHECK(machine.shell.executed ==
           std::vector<platform::simulated::Shell::Executed>{
@@ -40,14 +40,14 @@ TEST_CASE_FIXTURE(Fixture, "what is executed is noted with all its arguments") {
           Lines{"ShellExecuteA \"Open\" \"services.msc\" \"/s\" \"C:\\WINDOWS\\System32\" 1"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "an execution that fails is passed over and nothing has run") {
+TEST_CASE_FIXTURE(ShellFixture, "an execution that fails is passed over and nothing has run") {
     machine.faults.FailOn("services.msc", 2);
     CHECK(FailureOf([&] { shell.Execute("Open", "services.msc", "", "", 1); }) == 0);
     CHECK(machine.shell.executed.empty());
     CHECK(machine.journal.Lines().size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the properties sheet is noted, and missing when a test says so") {
+TEST_CASE_FIXTURE(ShellFixture, "the properties sheet is noted, and missing when a test says so") {
     shell.ObjectProperties(2);
     CHECK(machine.shell.propertySheets == std::vector<std::int32_t>{2});
     machine.faults.FailAll("shell32#178", runtime::DllFunctionNotFound);
@@ -56,18 +56,18 @@ TEST_CASE_FIXTURE(Fixture, "the properties sheet is noted, and missing when a te
     CHECK(machine.journal.Lines() == Lines{"shell32#178 2", "shell32#178 2 -> failure 453"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is deleted without undo does not come into the recycle bin") {
+TEST_CASE_FIXTURE(ShellFixture, "what is deleted without undo does not come into the recycle bin") {
     machine.files.Put("C:\\a.tmp", "x");
     CHECK(shell.OperateOnFiles(3, "C:\\A.TMP", 0x14) == 0);
     CHECK(machine.files.Content("C:\\a.tmp") == std::nullopt);
     CHECK(machine.shell.recycleBin.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder dialog without a script is a mistake in the test") {
+TEST_CASE_FIXTURE(ShellFixture, "a folder dialog without a script is a mistake in the test") {
     CHECK_THROWS_AS(shell.BrowseForFolder(owner, "", 7, [](auto&, auto) {}), std::logic_error);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text sent to the folder dialog ends before its first NUL") {
+TEST_CASE_FIXTURE(ShellFixture, "a text sent to the folder dialog ends before its first NUL") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         dialog.Send(0x466, std::string_view("C:\\Temp\0rest", 12));
         return true;
@@ -75,7 +75,7 @@ TEST_CASE_FIXTURE(Fixture, "a text sent to the folder dialog ends before its fir
     CHECK(shell.BrowseForFolder(owner, "", 7, [](auto&, auto) {}) == "C:\\Temp");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a started program is noted, and missing when a test says so") {
+TEST_CASE_FIXTURE(ShellFixture, "a started program is noted, and missing when a test says so") {
     auto& processes = machine.services.processes;
     processes.Start("C:\\WINDOWS\\regedit.exe /m", 1);
     machine.faults.FailOn("C:\\WINDOWS\\absent.exe", runtime::FileNotFound);
@@ -87,7 +87,7 @@ TEST_CASE_FIXTURE(Fixture, "a started program is noted, and missing when a test 
                                            "Start \"C:\\WINDOWS\\absent.exe\" 1 -> failure 53"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a directory with a held file in it cannot be deleted") {
+TEST_CASE_FIXTURE(ShellFixture, "a directory with a held file in it cannot be deleted") {
     machine.files.Put("C:\\Temp\\a.tmp", "x");
     machine.files.Put("C:\\Temp\\sub\\b.tmp", "y");
     machine.files.Hold("C:\\Temp\\sub\\b.tmp");

@@ -6,13 +6,12 @@
 
 #include "runtime/failurenumber.h"
 #include "runtime/number.h"
+#include "runtime/signs.h"
 #include "runtime/text.h"
 
 using namespace runtime;
 
 namespace {
-
-const NumberSigns German;
 
 // A copy with nothing around it, so that the sanitizers see a look behind its end.
 class Alone {

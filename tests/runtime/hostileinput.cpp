@@ -8,13 +8,13 @@
 
 #include "runtime/failurenumber.h"
 #include "runtime/number.h"
+#include "runtime/signs.h"
 #include "runtime/text.h"
 
 using namespace runtime;
 
 namespace {
 
-const NumberSigns German;
 constexpr std::size_t Huge = 65536;
 
 // What each function promises of any text, whatever stands in it.

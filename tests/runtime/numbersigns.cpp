@@ -3,13 +3,12 @@
 
 #include "runtime/failurenumber.h"
 #include "runtime/number.h"
+#include "runtime/signs.h"
 
 using namespace runtime;
 
 namespace {
 
-const NumberSigns German{.decimal = ",", .grouping = "."};
-const NumberSigns English{.decimal = ".", .grouping = ","};
 // A hard blank and a middle dot: each is one character and two bytes.
 const NumberSigns TwoBytes{.decimal = "\u00B7", .grouping = "\u00A0"};
 

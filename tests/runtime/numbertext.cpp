@@ -4,15 +4,12 @@
 
 #include "runtime/failurenumber.h"
 #include "runtime/number.h"
+#include "runtime/signs.h"
 
 using runtime::NumberSigns;
 using runtime::ToText;
 
-namespace {
-
-const NumberSigns German;
-
-}  // namespace
+namespace {}  // namespace
 
 TEST_CASE("a whole number becomes its decimal digits without a leading blank") {
     CHECK(ToText(0) == "0");

@@ -3,15 +3,13 @@
 #include <optional>
 
 #include "runtime/number.h"
+#include "runtime/signs.h"
 
 using runtime::IsNumeric;
 using runtime::NumberSigns;
 using runtime::ParseNumber;
 
 namespace {
-
-const NumberSigns German;
-const NumberSigns English{.decimal = ".", .grouping = ","};
 
 bool Reads(const char* text, double number, const NumberSigns& signs = German) {
     CAPTURE(text);

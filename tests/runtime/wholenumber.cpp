@@ -2,6 +2,7 @@
 
 #include "runtime/failurenumber.h"
 #include "runtime/number.h"
+#include "runtime/signs.h"
 
 using runtime::NumberSigns;
 using runtime::ToShortNumber;
@@ -10,9 +11,8 @@ using runtime::ToWholeNumber;
 
 namespace {
 
-constexpr int Overflow = 6;
-constexpr int TypeMismatch = 13;
-const NumberSigns German;
+constexpr int OverflowNumber = 6;
+constexpr int MismatchNumber = 13;
 
 int FailureOfWhole(std::string_view text) {
     return FailureNumberOf([&] { ToWholeNumber(text, German); });
@@ -58,33 +58,33 @@ TEST_CASE("a whole number reaches to the ends of 32 bits and no further") {
     CHECK(ToWholeNumber("2147483647", German) == 2147483647);
     CHECK(ToWholeNumber("2147483647,4", German) == 2147483647);
     CHECK(ToWholeNumber("-2147483648", German) == -2147483647 - 1);
-    CHECK(FailureOfWhole("2147483647,5") == Overflow);
-    CHECK(FailureOfWhole("2147483648") == Overflow);
-    CHECK(FailureOfWhole("-2147483649") == Overflow);
+    CHECK(FailureOfWhole("2147483647,5") == OverflowNumber);
+    CHECK(FailureOfWhole("2147483648") == OverflowNumber);
+    CHECK(FailureOfWhole("-2147483649") == OverflowNumber);
 }
 
 TEST_CASE("a well-formed number beyond all ranges is an overflow, not a wrong type") {
-    CHECK(FailureOfWhole("1e400") == Overflow);
-    CHECK(FailureOfWhole("-1e400") == Overflow);
-    CHECK(FailureOfWhole("&H100000000") == Overflow);
-    CHECK(FailureOfWhole(std::string(400, '9')) == Overflow);
+    CHECK(FailureOfWhole("1e400") == OverflowNumber);
+    CHECK(FailureOfWhole("-1e400") == OverflowNumber);
+    CHECK(FailureOfWhole("&H100000000") == OverflowNumber);
+    CHECK(FailureOfWhole(std::string(400, '9')) == OverflowNumber);
 }
 
 TEST_CASE("a text that is no number is a wrong type") {
-    CHECK(FailureOfWhole("") == TypeMismatch);
-    CHECK(FailureOfWhole("abc") == TypeMismatch);
-    CHECK(FailureOfWhole("12abc") == TypeMismatch);
-    CHECK(FailureOfWhole("1e400x") == TypeMismatch);
+    CHECK(FailureOfWhole("") == MismatchNumber);
+    CHECK(FailureOfWhole("abc") == MismatchNumber);
+    CHECK(FailureOfWhole("12abc") == MismatchNumber);
+    CHECK(FailureOfWhole("1e400x") == MismatchNumber);
 }
 
 TEST_CASE("a short number reaches to the ends of 16 bits and no further") {
     CHECK(ToShortNumber("32767,4", German) == 32767);
     CHECK(ToShortNumber("-32768", German) == -32768);
     CHECK(ToShortNumber("2", German) == 2);
-    CHECK(FailureOfShort("32767,5") == Overflow);
-    CHECK(FailureOfShort("32768") == Overflow);
-    CHECK(FailureOfShort("-32769") == Overflow);
-    CHECK(FailureOfShort("x") == TypeMismatch);
+    CHECK(FailureOfShort("32767,5") == OverflowNumber);
+    CHECK(FailureOfShort("32768") == OverflowNumber);
+    CHECK(FailureOfShort("-32769") == OverflowNumber);
+    CHECK(FailureOfShort("x") == MismatchNumber);
 }
 
 TEST_CASE("a single-precision number keeps its fraction") {
@@ -95,9 +95,9 @@ TEST_CASE("a single-precision number keeps its fraction") {
 
 TEST_CASE("a single-precision number ends at 3,402823E+38") {
     CHECK(ToSingle("3,402823E+38", German) == 3.402823e38f);
-    CHECK(FailureOfSingle("3,5E+38") == Overflow);
-    CHECK(FailureOfSingle("-3,5E+38") == Overflow);
-    CHECK(FailureOfSingle("1e400") == Overflow);
-    CHECK(FailureOfSingle("links") == TypeMismatch);
-    CHECK(FailureOfSingle("") == TypeMismatch);
+    CHECK(FailureOfSingle("3,5E+38") == OverflowNumber);
+    CHECK(FailureOfSingle("-3,5E+38") == OverflowNumber);
+    CHECK(FailureOfSingle("1e400") == OverflowNumber);
+    CHECK(FailureOfSingle("links") == MismatchNumber);
+    CHECK(FailureOfSingle("") == MismatchNumber);
 }

@@ -15,7 +15,7 @@ constexpr char SuccessLine[] =
     "synchronisiert!\" -> 1";
 
 // 2026-11-21 15:05:09 UTC.
-const std::string Answer = "\xEE\xAC\x31\xA5";
+const std::string ServerBytes = "\xEE\xAC\x31\xA5";
 const platform::TimeOfDay Evening{
     .hours = 15, .minutes = 5, .seconds = 9, .timezone = -60, .day = 21, .month = 11, .year = 2026};
 
@@ -74,7 +74,7 @@ TEST_CASE("the clock stands still when its owner goes") {
 }
 
 TEST_CASE_FIXTURE(Frame, "success is told before the server was even reached") {
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{ServerBytes}});
     Press();
     CHECK(lines == Lines{"Pointer 11", "KillTimer #1", "Label \"" + std::string(Waiting) + '"',
                          "Socket.Close", "Socket.Connect time.nist.gov:37", "Label \"\"",
@@ -88,7 +88,7 @@ TEST_CASE_FIXTURE(Frame, "success is told before the server was even reached") {
 }
 
 TEST_CASE_FIXTURE(Frame, "the answer may set the clock behind the open box") {
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{ServerBytes}});
     bool setBehindTheBox = false;
     bool runs = true;
     machine.messages.WhileOpen(Title, [&] {
@@ -115,7 +115,7 @@ TEST_CASE_FIXTURE(Frame, "a server that refuses has been told a success all the 
 
 TEST_CASE_FIXTURE(Frame, "pressing again while the answer is pending asks anew") {
     machine.socket.Serve(37, {{"\xC3\xF2\xF9\xFD"}});
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{ServerBytes}});
     Press();
     machine.socket.RaiseNext();
     Press();
@@ -138,7 +138,7 @@ TEST_CASE_FIXTURE(Frame,
 }
 
 TEST_CASE_FIXTURE(Frame, "neither source, nor an answer, takes a form's own hourglass away") {
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{ServerBytes}});
     form.SetPointer(toolkit::Hourglass);
     Press();
     machine.socket.RaiseAll();

@@ -11,7 +11,7 @@ using End = ServerAnswer::End;
 namespace {
 
 // 2004-03-05 13:07:09.
-const std::string Answer = "\xC3\xF2\xF9\xFD";
+const std::string AnswerBytes = "\xC3\xF2\xF9\xFD";
 
 struct Client {
     platform::simulated::Machine machine;
@@ -39,7 +39,7 @@ TEST_CASE_FIXTURE(Client, "the public server is asked at the port of the Time Pr
 
 TEST_CASE_FIXTURE(Client,
                   "an answer counts when the server has closed the connection, not before") {
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{AnswerBytes}});
     client.Request();
     CHECK(machine.socket.RaiseNext());
     CHECK(machine.socket.RaiseNext());
@@ -51,7 +51,7 @@ TEST_CASE_FIXTURE(Client,
 }
 
 TEST_CASE_FIXTURE(Client, "the socket is closed before the clock is set") {
-    Whole({{Answer}});
+    Whole({{AnswerBytes}});
     CHECK(machine.journal.Lines() == Lines{"Socket.Close", "Socket.Connect time.nist.gov:37",
                                            "GetLocalTime", "Socket.GetData -> \"Ãòùý\"",
                                            "Socket.Close", "SetSystemTime 2004-03-05 13:07:09"});
@@ -67,7 +67,7 @@ TEST_CASE("an answer in pieces is joined, however it is cut") {
 
 TEST_CASE("an answer that is not of four bytes does nothing and says nothing") {
     for (const auto& pieces : {Lines{}, Lines{"\xC3"}, Lines{"\xC3\xF2"}, Lines{"\xC3\xF2\xF9"},
-                               Lines{"\xC3\xF2\xF9\xFD\x01"}, Lines{Answer, Answer}}) {
+                               Lines{"\xC3\xF2\xF9\xFD\x01"}, Lines{AnswerBytes, AnswerBytes}}) {
         Client client;
         CHECK(client.Whole({pieces}).empty());
         CHECK(client.machine.messages.Shown().empty());
@@ -78,7 +78,7 @@ TEST_CASE("an answer that is not of four bytes does nothing and says nothing") {
 TEST_CASE("an answer whose first or last byte is a blank is dropped, one with a fifth is not") {
     CHECK(Client().Whole({{"\xC3\xF2\xF9 "}}).empty());
     CHECK(Client().Whole({{" \xF2\xF9\xFD"}}).empty());
-    CHECK(Client().Whole({{Answer + ' '}}) == IsSet);
+    CHECK(Client().Whole({{AnswerBytes + ' '}}) == IsSet);
 }
 
 TEST_CASE("a blank at the end of a piece stays where it is") {
@@ -95,7 +95,7 @@ TEST_CASE("an answer of a moment out of reach leaves the clock, in silence") {
 
 TEST_CASE_FIXTURE(Client, "a refused clock on this road is not seen at all") {
     machine.faults.FailAll("SetSystemTime", 5);
-    CHECK(Whole({{Answer}}) == Lines{"SetSystemTime 2004-03-05 13:07:09 -> refused"});
+    CHECK(Whole({{AnswerBytes}}) == Lines{"SetSystemTime 2004-03-05 13:07:09 -> refused"});
     CHECK(machine.messages.Shown().empty());
 }
 
@@ -105,11 +105,11 @@ TEST_CASE_FIXTURE(Client, "a server that stays silent changes nothing") {
 }
 
 TEST_CASE_FIXTURE(Client, "an answer that the server does not end is none") {
-    CHECK(Whole({{Answer}, End::Stays}).empty());
+    CHECK(Whole({{AnswerBytes}, End::Stays}).empty());
 }
 
 TEST_CASE_FIXTURE(Client, "a connection that breaks off takes its answer along and closes") {
-    CHECK(Whole({{Answer}, End::Resets}).empty());
+    CHECK(Whole({{AnswerBytes}, End::Resets}).empty());
     CHECK(machine.socket.State() == Socket::Closed);
     CHECK(machine.messages.Shown().empty());
 }
@@ -149,7 +149,7 @@ TEST_CASE_FIXTURE(Client, "a second request drops the first with what has come o
 }
 
 TEST_CASE_FIXTURE(Client, "arriving bytes bring the default pointer back") {
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{AnswerBytes}});
     client.Request();
     machine.forms.SetScreenPointer(toolkit::Hourglass);
     machine.socket.RaiseNext();
@@ -160,7 +160,7 @@ TEST_CASE_FIXTURE(Client, "arriving bytes bring the default pointer back") {
 
 TEST_CASE_FIXTURE(Client, "the moment of connecting is kept, in seconds since midnight") {
     CHECK_FALSE(client.answerExpected);
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{AnswerBytes}});
     client.Request();
     CHECK(client.answerExpected);
     CHECK(client.connectTime == 0);
@@ -172,7 +172,7 @@ TEST_CASE_FIXTURE(Client, "the moment of connecting is kept, in seconds since mi
 TEST_CASE_FIXTURE(Client, "bytes that cannot be taken are the failure of their arrival") {
     machine.faults.FailAll("Socket.GetData", 10053);
     machine.forms.SetScreenPointer(toolkit::Hourglass);
-    machine.socket.Serve(37, {{Answer}});
+    machine.socket.Serve(37, {{AnswerBytes}});
     client.Request();
     CHECK(machine.socket.RaiseNext());
     CHECK(FailureOf([&] { machine.socket.RaiseNext(); }) == 10053);

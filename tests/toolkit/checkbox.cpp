@@ -10,31 +10,31 @@ using toolkit::CheckBox;
 
 namespace {
 
-struct Fixture {
+struct CheckBoxFixture {
     NotingHost host;
     TestForm form{host};
     CheckBox& box = form.Add<CheckBox>("chkAutoLogin", "Auto-Login aktivieren");
     int clicks = 0;
 
-    Fixture() {
+    CheckBoxFixture() {
         box.onClick = [this] { ++clicks; };
     }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a new check box is off") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "a new check box is off") {
     CHECK(box.Value() == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a check box raises Click when its value changes") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "a check box raises Click when its value changes") {
     box.SetValue(1);
     CHECK(clicks == 1);
     box.SetValue(0);
     CHECK(clicks == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CheckBoxFixture,
                   "a check box that keeps its value raises nothing and shows nothing new") {
     NotingView view;
     box.SetView(&view);
@@ -43,7 +43,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(view.shown.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "the user's click turns the value over") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "the user's click turns the value over") {
     box.Toggle();
     CHECK(box.Value() == 1);
     box.Toggle();
@@ -51,7 +51,7 @@ TEST_CASE_FIXTURE(Fixture, "the user's click turns the value over") {
     CHECK(clicks == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the handler meets the new value, already shown") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "the handler meets the new value, already shown") {
     NotingView view;
     box.SetView(&view);
     std::vector<Aspect> shownBefore;
@@ -65,14 +65,14 @@ TEST_CASE_FIXTURE(Fixture, "the handler meets the new value, already shown") {
     CHECK(shownBefore == std::vector{Aspect::Value});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(CheckBoxFixture,
                   "a failure in the handler passes to whoever set the value, which stays") {
     box.onClick = [] { throw Failure(runtime::PermissionDenied); };
     CHECK_THROWS_AS(box.SetValue(1), Failure);
     CHECK(box.Value() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a check box may be grey, which the user's click turns on") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "a check box may be grey, which the user's click turns on") {
     box.SetValue(2);
     CHECK(box.Value() == 2);
     box.Toggle();
@@ -80,7 +80,7 @@ TEST_CASE_FIXTURE(Fixture, "a check box may be grey, which the user's click turn
     CHECK(clicks == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a check box refuses a value that is none of 0, 1 and 2") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "a check box refuses a value that is none of 0, 1 and 2") {
     for (int value : {-1, 3, 255}) {
         CAPTURE(value);
         CHECK_THROWS_AS(box.SetValue(value), Failure);
@@ -89,7 +89,7 @@ TEST_CASE_FIXTURE(Fixture, "a check box refuses a value that is none of 0, 1 and
     CHECK(clicks == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a check box to which nobody listens changes all the same") {
+TEST_CASE_FIXTURE(CheckBoxFixture, "a check box to which nobody listens changes all the same") {
     box.onClick = nullptr;
     box.SetValue(1);
     CHECK(box.Value() == 1);

@@ -12,7 +12,7 @@ using toolkit::ComboBoxStyle;
 
 namespace {
 
-struct Fixture {
+struct ComboBoxFixture {
     NotingHost host;
     TestForm form{host};
     ComboBox& box = Make("cboMTU", {});
@@ -29,21 +29,24 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a combo box starts with its items, no text and nothing selected") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "a combo box starts with its items, no text and nothing selected") {
     CHECK(box.Items() == std::vector<std::string>{"552", "576", "1500"});
     CHECK(box.Text() == "");
     CHECK(box.ListIndex() == ComboBox::NoSelection);
     CHECK(events.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "selecting an item gives the box its text and raises Click alone") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "selecting an item gives the box its text and raises Click alone") {
     box.SetListIndex(2);
     CHECK(box.Text() == "1500");
     CHECK(box.ListIndex() == 2);
     CHECK(events == Journal{"click 1500"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the selected item selected again raises nothing and shows nothing") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "the selected item selected again raises nothing and shows nothing") {
     box.SetListIndex(2);
     NotingView view;
     box.SetView(&view);
@@ -52,7 +55,8 @@ TEST_CASE_FIXTURE(Fixture, "the selected item selected again raises nothing and 
     CHECK(view.shown.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text beside the list raises Change alone and ends the selection") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "a text beside the list raises Change alone and ends the selection") {
     box.SetListIndex(2);
     events.clear();
     box.SetText("1492");
@@ -60,14 +64,15 @@ TEST_CASE_FIXTURE(Fixture, "a text beside the list raises Change alone and ends 
     CHECK(events == Journal{"change 1492"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text that equals an item stands beside the list all the same") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "a text that equals an item stands beside the list all the same") {
     box.SetText("576");
     CHECK(box.ListIndex() == ComboBox::NoSelection);
     box.SetListIndex(1);
     CHECK(events == Journal{"change 576", "click 576"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the text that the box has already raises nothing") {
+TEST_CASE_FIXTURE(ComboBoxFixture, "the text that the box has already raises nothing") {
     box.SetText("");
     box.SetListIndex(1);
     events.clear();
@@ -76,21 +81,22 @@ TEST_CASE_FIXTURE(Fixture, "the text that the box has already raises nothing") {
     CHECK(box.ListIndex() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "taking the selection away takes its text along and raises Click") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "taking the selection away takes its text along and raises Click") {
     box.SetListIndex(1);
     box.SetListIndex(ComboBox::NoSelection);
     CHECK(box.Text() == "");
     CHECK(events == Journal{"click 576", "click "});
 }
 
-TEST_CASE_FIXTURE(Fixture, "where nothing is selected there is nothing to take away") {
+TEST_CASE_FIXTURE(ComboBoxFixture, "where nothing is selected there is nothing to take away") {
     box.SetText("frei");
     box.SetListIndex(ComboBox::NoSelection);
     CHECK(box.Text() == "frei");
     CHECK(events == Journal{"change frei"});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(ComboBoxFixture,
                   "an index that is no item is an invalid property value; all stays as it was") {
     box.SetListIndex(1);
     for (int index : {3, -2, 2147483647, -2147483647}) {
@@ -101,7 +107,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(events.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a new item stands behind the others and raises nothing") {
+TEST_CASE_FIXTURE(ComboBoxFixture, "a new item stands behind the others and raises nothing") {
     box.SetListIndex(2);
     box.AddItem("1500");
     CHECK(box.Items().size() == 4);
@@ -109,7 +115,8 @@ TEST_CASE_FIXTURE(Fixture, "a new item stands behind the others and raises nothi
     CHECK(events == Journal{"click 1500"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "clearing takes list, selection and text, and tells of the text alone") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "clearing takes list, selection and text, and tells of the text alone") {
     SUBCASE("with an item selected") {
         box.SetListIndex(2);
     }
@@ -126,7 +133,8 @@ TEST_CASE_FIXTURE(Fixture, "clearing takes list, selection and text, and tells o
     CHECK(events.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a box that only lists selects the item of the text that it is given") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "a box that only lists selects the item of the text that it is given") {
     auto& drives = Make("drvSelect", {.listOnly = true});
     drives.SetText("1500");
     CHECK(drives.ListIndex() == 2);
@@ -135,7 +143,7 @@ TEST_CASE_FIXTURE(Fixture, "a box that only lists selects the item of the text t
     CHECK(events.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(ComboBoxFixture,
                   "a box that only lists refuses a text that is no item, and clears in silence") {
     auto& drives = Make("drvSelect", {.listOnly = true});
     drives.SetListIndex(0);
@@ -147,7 +155,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(events.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text is cut to the box's length, an item is not") {
+TEST_CASE_FIXTURE(ComboBoxFixture, "a text is cut to the box's length, an item is not") {
     auto& any = Make("cbo", {.maxLength = 3});
     any.SetText("ÄÖÜß");
     CHECK(any.Text() == "ÄÖÜ");
@@ -155,7 +163,8 @@ TEST_CASE_FIXTURE(Fixture, "a text is cut to the box's length, an item is not") 
     CHECK(any.Text() == "1500");
 }
 
-TEST_CASE_FIXTURE(Fixture, "the view is told of the items and of the text before the event runs") {
+TEST_CASE_FIXTURE(ComboBoxFixture,
+                  "the view is told of the items and of the text before the event runs") {
     NotingView view;
     box.SetView(&view);
     box.AddItem("3000");
@@ -168,7 +177,7 @@ TEST_CASE_FIXTURE(Fixture, "the view is told of the items and of the text before
     CHECK(view.shown == std::vector{Aspect::Items, Aspect::Value, Aspect::Items, Aspect::Value});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(ComboBoxFixture,
                   "a failure in a handler passes on, and the box keeps what it was given") {
     box.onChange = [] { throw runtime::Failure(runtime::Overflow); };
     box.onClick = [] { throw runtime::Failure(runtime::TypeMismatch); };

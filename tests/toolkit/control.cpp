@@ -9,18 +9,18 @@ using namespace toolkit;
 
 namespace {
 
-struct Fixture {
+struct ControlFixture {
     NotingHost host;
     TestForm form{host};
     Label& label = form.Add<Label>("lblSP", "n/A");
     NotingView view;
 
-    Fixture() { label.SetView(&view); }
+    ControlFixture() { label.SetView(&view); }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a new control is enabled, visible and knows its form") {
+TEST_CASE_FIXTURE(ControlFixture, "a new control is enabled, visible and knows its form") {
     CHECK(label.Enabled());
     CHECK(label.Visible());
     CHECK(&label.Owner() == &form);
@@ -28,7 +28,7 @@ TEST_CASE_FIXTURE(Fixture, "a new control is enabled, visible and knows its form
     CHECK(label.Caption() == "n/A");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a change of caption, enabling, visibility or tip is shown") {
+TEST_CASE_FIXTURE(ControlFixture, "a change of caption, enabling, visibility or tip is shown") {
     label.SetCaption("Service Pack 3");
     label.SetEnabled(false);
     label.SetVisible(false);
@@ -41,7 +41,7 @@ TEST_CASE_FIXTURE(Fixture, "a change of caption, enabling, visibility or tip is 
     CHECK_FALSE(label.Visible());
 }
 
-TEST_CASE_FIXTURE(Fixture, "setting what is there already shows nothing new") {
+TEST_CASE_FIXTURE(ControlFixture, "setting what is there already shows nothing new") {
     label.SetCaption("n/A");
     label.SetEnabled(true);
     label.SetVisible(true);
@@ -49,7 +49,7 @@ TEST_CASE_FIXTURE(Fixture, "setting what is there already shows nothing new") {
     CHECK(view.shown.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a control without a view keeps what it is given") {
+TEST_CASE_FIXTURE(ControlFixture, "a control without a view keeps what it is given") {
     label.SetView(nullptr);
     label.SetCaption("neu");
     CHECK(label.Caption() == "neu");

@@ -9,13 +9,13 @@ using toolkit::DriveListBox;
 
 namespace {
 
-struct Fixture {
+struct DriveListBoxFixture {
     NotingHost host;
     TestForm form{host};
     DriveListBox& drives = form.Add<DriveListBox>("drvSelect");
     Journal events;
 
-    Fixture() {
+    DriveListBoxFixture() {
         drives.SetDrives({"a:", "c: [SYSTEM]", "d:"});
         drives.onChange = [this] { events.push_back("change " + drives.Drive()); };
         drives.onScroll = [this] { events.push_back("scroll"); };
@@ -24,12 +24,13 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a fresh list of drives has none selected") {
+TEST_CASE_FIXTURE(DriveListBoxFixture, "a fresh list of drives has none selected") {
     CHECK(drives.Drive().empty());
     CHECK(drives.Items().size() == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the first character of a path selects its drive, whatever its case") {
+TEST_CASE_FIXTURE(DriveListBoxFixture,
+                  "the first character of a path selects its drive, whatever its case") {
     drives.SetDrive("C:\\");
     CHECK(drives.Drive() == "c: [SYSTEM]");
     drives.SetDrive("d");
@@ -37,13 +38,14 @@ TEST_CASE_FIXTURE(Fixture, "the first character of a path selects its drive, wha
     CHECK(events == Journal{"change c: [SYSTEM]", "change d:"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the drive that is selected already raises nothing") {
+TEST_CASE_FIXTURE(DriveListBoxFixture, "the drive that is selected already raises nothing") {
     drives.SetDrive("C:\\");
     drives.SetDrive("c:");
     CHECK(events.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a drive that is not there is failure 68, and the old one stays") {
+TEST_CASE_FIXTURE(DriveListBoxFixture,
+                  "a drive that is not there is failure 68, and the old one stays") {
     drives.SetDrive("C:\\");
     CHECK(FailureOf([&] { drives.SetDrive("Q:\\"); }) == runtime::DeviceUnavailable);
     CHECK(FailureOf([&] { drives.SetDrive(""); }) == runtime::DeviceUnavailable);
@@ -51,18 +53,18 @@ TEST_CASE_FIXTURE(Fixture, "a drive that is not there is failure 68, and the old
     CHECK(events.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the user's choice raises Change") {
+TEST_CASE_FIXTURE(DriveListBoxFixture, "the user's choice raises Change") {
     drives.SetListIndex(2);
     CHECK(events == Journal{"change d:"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "one step past the last entry is empty text") {
+TEST_CASE_FIXTURE(DriveListBoxFixture, "one step past the last entry is empty text") {
     CHECK(drives.Entry(1) == "c: [SYSTEM]");
     CHECK(drives.Entry(3).empty());
     CHECK(drives.Entry(-1).empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "new entries keep the selected drive without an event") {
+TEST_CASE_FIXTURE(DriveListBoxFixture, "new entries keep the selected drive without an event") {
     drives.SetDrive("d:");
     events.clear();
     drives.SetDrives({"c: [SYSTEM]", "d:", "e:"});
@@ -70,7 +72,8 @@ TEST_CASE_FIXTURE(Fixture, "new entries keep the selected drive without an event
     CHECK(events.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a drive that got another label, or has gone, raises one Change") {
+TEST_CASE_FIXTURE(DriveListBoxFixture,
+                  "a drive that got another label, or has gone, raises one Change") {
     drives.SetDrive("d:");
     events.clear();
     SUBCASE("label") {
@@ -83,7 +86,7 @@ TEST_CASE_FIXTURE(Fixture, "a drive that got another label, or has gone, raises 
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "scrolling the list raises Scroll, unless it is disabled") {
+TEST_CASE_FIXTURE(DriveListBoxFixture, "scrolling the list raises Scroll, unless it is disabled") {
     drives.ScrollList();
     CHECK(events == Journal{"scroll"});
     drives.SetEnabled(false);

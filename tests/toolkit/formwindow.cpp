@@ -31,12 +31,12 @@ class NotingWindow : public FormView {
     std::vector<FormAspect> shown;
 };
 
-struct Fixture {
+struct FormWindowFixture {
     NotingHost host;
     CountingForm form{host};
     NotingWindow window;
 
-    Fixture() {
+    FormWindowFixture() {
         form.Show();
         form.resizes = 0;
         form.SetView(&window);
@@ -45,7 +45,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a change of state or size by the user raises Resize") {
+TEST_CASE_FIXTURE(FormWindowFixture, "a change of state or size by the user raises Resize") {
     form.WindowMoved(WindowState::Minimised, Designed);
     CHECK(form.State() == WindowState::Minimised);
     CHECK(form.resizes == 1);
@@ -56,19 +56,20 @@ TEST_CASE_FIXTURE(Fixture, "a change of state or size by the user raises Resize"
     CHECK(form.Place() == Bounds{100, 200, 9000, 7000});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a window that only moves, or stays as it was, raises no Resize") {
+TEST_CASE_FIXTURE(FormWindowFixture,
+                  "a window that only moves, or stays as it was, raises no Resize") {
     form.WindowMoved(WindowState::Normal, {300, 400, 9990, 7920});
     form.WindowMoved(WindowState::Normal, {300, 400, 9990, 7920});
     CHECK(form.resizes == 0);
     CHECK(form.Place() == Bounds{300, 400, 9990, 7920});
 }
 
-TEST_CASE_FIXTURE(Fixture, "what the window itself reports is not sent back to it") {
+TEST_CASE_FIXTURE(FormWindowFixture, "what the window itself reports is not sent back to it") {
     form.WindowMoved(WindowState::Maximised, {0, 0, 15360, 11100});
     CHECK(window.shown.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a form that snaps back settles at its own size") {
+TEST_CASE_FIXTURE(FormWindowFixture, "a form that snaps back settles at its own size") {
     form.snapsBack = true;
     form.WindowMoved(WindowState::Normal, {100, 200, 5000, 5000});
     CHECK(form.Place() == Designed);
@@ -76,7 +77,7 @@ TEST_CASE_FIXTURE(Fixture, "a form that snaps back settles at its own size") {
     CHECK(window.shown == std::vector{FormAspect::Position});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(FormWindowFixture,
                   "what the program changes is shown, and raises Resize for state and size") {
     form.SetState(WindowState::Minimised);
     CHECK(form.resizes == 1);
@@ -99,7 +100,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(form.Pointer() == 11);
 }
 
-TEST_CASE_FIXTURE(Fixture, "what stays as it was is not shown again and raises nothing") {
+TEST_CASE_FIXTURE(FormWindowFixture, "what stays as it was is not shown again and raises nothing") {
     form.SetState(WindowState::Normal);
     form.SetSize(9990, 7920);
     form.SetLeft(100);
@@ -123,14 +124,15 @@ TEST_CASE("before the window is first seen neither program nor platform raises R
     CHECK(form.resizes == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "showing and hiding are shown by the window") {
+TEST_CASE_FIXTURE(FormWindowFixture, "showing and hiding are shown by the window") {
     form.Hide();
     form.Show();
     CHECK(window.shown == std::vector{FormAspect::Visible, FormAspect::Visible});
     CHECK(form.resizes == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a key goes to the form, which says whether it has used it up") {
+TEST_CASE_FIXTURE(FormWindowFixture,
+                  "a key goes to the form, which says whether it has used it up") {
     CHECK(form.KeyPressed(0x73));
     CHECK_FALSE(form.KeyPressed(0x72));
 }

@@ -7,26 +7,26 @@ using namespace toolkit;
 
 namespace {
 
-struct Fixture {
+struct LabelFixture {
     NotingHost host;
     TestForm form{host};
     Label& label = form.Add<Label>("lbl", "Text");
     NotingView view;
 
-    Fixture() { label.SetView(&view); }
+    LabelFixture() { label.SetView(&view); }
 };
 
 }  // namespace
 
 TEST_CASE("a label has the system's colour until it is given one") {
-    Fixture f;
+    LabelFixture f;
     CHECK(f.label.TextColour() == std::nullopt);
     f.label.SetTextColour(Red);
     CHECK(f.label.TextColour() == 255u);
 }
 
 TEST_CASE("the window of a label hears of a new colour, and not of the same one again") {
-    Fixture f;
+    LabelFixture f;
     f.label.SetTextColour(Black);
     f.label.SetTextColour(Black);
     CHECK(f.view.shown == std::vector<Aspect>{Aspect::TextColour});
@@ -35,7 +35,7 @@ TEST_CASE("the window of a label hears of a new colour, and not of the same one 
 }
 
 TEST_CASE("clicks and moves reach whoever listens to a label") {
-    Fixture f;
+    LabelFixture f;
     f.label.Click();
     f.label.MouseMoved();
     int clicks = 0;
@@ -49,7 +49,7 @@ TEST_CASE("clicks and moves reach whoever listens to a label") {
 }
 
 TEST_CASE("a disabled label hears nothing") {
-    Fixture f;
+    LabelFixture f;
     int events = 0;
     f.label.onClick = [&] { ++events; };
     f.label.onMouseMove = [&] { ++events; };
@@ -60,7 +60,7 @@ TEST_CASE("a disabled label hears nothing") {
 }
 
 TEST_CASE("moves reach whoever listens to a frame, unless it is disabled") {
-    Fixture f;
+    LabelFixture f;
     auto& frame = f.form.Add<Frame>("fra", "Rahmen");
     frame.MouseMoved();
     int moves = 0;

@@ -9,12 +9,12 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-struct Fixture {
+struct SortingFixture {
     NotingHost host;
     TestForm form{host};
     ListView& list = form.Add<ListView>("lvwFiles", toolkit::ListViewStyle{.checkBoxes = true});
 
-    Fixture() {
+    SortingFixture() {
         list.AddColumn("Name");
         list.AddColumn("Größe (bytes)");
     }
@@ -32,7 +32,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a list that is not sorted keeps the order of adding") {
+TEST_CASE_FIXTURE(SortingFixture, "a list that is not sorted keeps the order of adding") {
     Fill({{"b", ""}, {"a", ""}});
     list.SetSortOrder(ListView::Descending);
     list.SetSortKey(1);
@@ -40,7 +40,7 @@ TEST_CASE_FIXTURE(Fixture, "a list that is not sorted keeps the order of adding"
     CHECK_FALSE(list.Sorted());
 }
 
-TEST_CASE_FIXTURE(Fixture, "sizes sort as text, not as numbers") {
+TEST_CASE_FIXTURE(SortingFixture, "sizes sort as text, not as numbers") {
     Fill({{"a", "9"}, {"b", "10"}, {"c", "100"}, {"d", ""}});
     list.SetSortKey(1);
     list.SetSorted(true);
@@ -50,7 +50,7 @@ TEST_CASE_FIXTURE(Fixture, "sizes sort as text, not as numbers") {
     CHECK(Column() == Texts{"a", "c", "b", "d"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "letters' case plays no part, and equal rows keep their order") {
+TEST_CASE_FIXTURE(SortingFixture, "letters' case plays no part, and equal rows keep their order") {
     Fill({{"b", "1"}, {"A", "2"}, {"B", "3"}, {"a", "4"}});
     list.SetSorted(true);
     CHECK(Column(1) == Texts{"2", "4", "1", "3"});
@@ -58,7 +58,7 @@ TEST_CASE_FIXTURE(Fixture, "letters' case plays no part, and equal rows keep the
     CHECK(Column(1) == Texts{"1", "3", "2", "4"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "ticks and keys go with their rows") {
+TEST_CASE_FIXTURE(SortingFixture, "ticks and keys go with their rows") {
     list.AddRow("b", "1A");
     list.AddRow("a", "2A");
     list.SetTicked(0, true);
@@ -69,7 +69,7 @@ TEST_CASE_FIXTURE(Fixture, "ticks and keys go with their rows") {
     CHECK(list.Key(1) == "1A");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a sorted list takes a new row where its text puts it") {
+TEST_CASE_FIXTURE(SortingFixture, "a sorted list takes a new row where its text puts it") {
     Fill({{"d", ""}, {"b", ""}});
     list.SetSorted(true);
     CHECK(list.AddRow("c") == 1);
@@ -81,7 +81,7 @@ TEST_CASE_FIXTURE(Fixture, "a sorted list takes a new row where its text puts it
     CHECK(Column() == Texts{"e", "d", "c", "bb", "b", "a"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a new row goes behind its equals in either order") {
+TEST_CASE_FIXTURE(SortingFixture, "a new row goes behind its equals in either order") {
     Fill({{"a", "1"}, {"b", "2"}});
     list.SetSorted(true);
     CHECK(list.AddRow("A") == 1);
@@ -89,7 +89,8 @@ TEST_CASE_FIXTURE(Fixture, "a new row goes behind its equals in either order") {
     CHECK(list.AddRow("B") == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "sorted by a sub-item, a new row has none yet and stands at its end") {
+TEST_CASE_FIXTURE(SortingFixture,
+                  "sorted by a sub-item, a new row has none yet and stands at its end") {
     Fill({{"a", "5"}, {"b", "7"}});
     list.SetSortKey(1);
     list.SetSorted(true);
@@ -98,7 +99,7 @@ TEST_CASE_FIXTURE(Fixture, "sorted by a sub-item, a new row has none yet and sta
     CHECK(list.AddRow("d") == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text changed later moves its row when sorting is said again") {
+TEST_CASE_FIXTURE(SortingFixture, "a text changed later moves its row when sorting is said again") {
     Fill({{"a", ""}, {"b", ""}});
     list.SetSorted(true);
     list.SetText(0, 0, "c");
@@ -108,7 +109,8 @@ TEST_CASE_FIXTURE(Fixture, "a text changed later moves its row when sorting is s
     CHECK(Column() == Texts{"aa", "b", "c"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "turning sorting off leaves the order, and new rows go to the end") {
+TEST_CASE_FIXTURE(SortingFixture,
+                  "turning sorting off leaves the order, and new rows go to the end") {
     Fill({{"b", ""}, {"a", ""}});
     list.SetSorted(true);
     list.SetSorted(false);
@@ -118,12 +120,13 @@ TEST_CASE_FIXTURE(Fixture, "turning sorting off leaves the order, and new rows g
     CHECK(Column() == Texts{"0", "a", "b"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "an order that is neither of the two is refused") {
+TEST_CASE_FIXTURE(SortingFixture, "an order that is neither of the two is refused") {
     CHECK(FailureOf([&] { list.SetSortOrder(2); }) == runtime::InvalidPropertyValue);
     CHECK(list.SortOrder() == ListView::Ascending);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the first click on a header of a fresh list can sort descending") {
+TEST_CASE_FIXTURE(SortingFixture,
+                  "the first click on a header of a fresh list can sort descending") {
     bool descending = false;
     list.onColumnClick = [&](int column) {
         descending = !descending;
@@ -138,7 +141,7 @@ TEST_CASE_FIXTURE(Fixture, "the first click on a header of a fresh list can sort
     CHECK(Column(1) == Texts{"1", "2", "3"});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(SortingFixture,
                   "20,000 rows are the same whether they are sorted one by one or at once") {
     ListView& other = form.Add<ListView>("lvwOther");
     other.SetSorted(true);

@@ -11,13 +11,13 @@ using Texts = std::vector<std::string>;
 
 namespace {
 
-struct Fixture {
+struct ListViewFixture {
     NotingHost host;
     TestForm form{host};
     ListView& list = form.Add<ListView>("lvwFiles", toolkit::ListViewStyle{.checkBoxes = true});
     NotingView view;
 
-    Fixture() {
+    ListViewFixture() {
         list.AddColumn("Name");
         list.AddColumn("Größe (bytes)");
         list.SetView(&view);
@@ -36,7 +36,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(ListViewFixture,
                   "a row goes behind the others, unticked, unselected, without sub-items") {
     CHECK(list.AddRow("eins", "1A") == 0);
     CHECK(list.AddRow("zwei", "2A") == 1);
@@ -49,14 +49,15 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(list.SelectedRow() == ListView::NoRow);
 }
 
-TEST_CASE_FIXTURE(Fixture, "equal rows stand side by side") {
+TEST_CASE_FIXTURE(ListViewFixture, "equal rows stand side by side") {
     Fill({"a.tmp", "a.tmp"});
     list.SetText(1, 1, "0");
     CHECK(Column() == Texts{"a.tmp", "a.tmp"});
     CHECK(Column(1) == Texts{"", "0"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a row that does not exist is a failure: none is 91, any other 35600") {
+TEST_CASE_FIXTURE(ListViewFixture,
+                  "a row that does not exist is a failure: none is 91, any other 35600") {
     Fill({"eins"});
     CHECK(FailureOf([&] { list.Text(ListView::NoRow); }) == runtime::ObjectNotSet);
     CHECK(FailureOf([&] { list.Text(1); }) == runtime::IndexOutOfBounds);
@@ -69,7 +70,7 @@ TEST_CASE_FIXTURE(Fixture, "a row that does not exist is a failure: none is 91, 
     CHECK(Column() == Texts{"eins"});
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(ListViewFixture,
                   "a column that does not exist is a failure, except for the row's own text") {
     Fill({"eins"});
     CHECK(FailureOf([&] { list.Text(0, 2); }) == runtime::IndexOutOfBounds);
@@ -81,7 +82,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(bare.Text(0) == "ohne Spalten");
 }
 
-TEST_CASE_FIXTURE(Fixture, "removing the first row again and again empties the list") {
+TEST_CASE_FIXTURE(ListViewFixture, "removing the first row again and again empties the list") {
     Fill({"eins", "zwei", "drei"});
     list.RemoveRow(0);
     CHECK(Column() == Texts{"zwei", "drei"});
@@ -91,7 +92,7 @@ TEST_CASE_FIXTURE(Fixture, "removing the first row again and again empties the l
     CHECK(FailureOf([&] { list.RemoveRow(0); }) == runtime::IndexOutOfBounds);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a row removed from the middle takes its tick along") {
+TEST_CASE_FIXTURE(ListViewFixture, "a row removed from the middle takes its tick along") {
     Fill({"eins", "zwei", "drei"});
     list.SetTicked(1, true);
     list.SetTicked(2, true);
@@ -101,7 +102,7 @@ TEST_CASE_FIXTURE(Fixture, "a row removed from the middle takes its tick along")
     CHECK(list.Ticked(1));
 }
 
-TEST_CASE_FIXTURE(Fixture, "clearing takes rows and selection, not the columns") {
+TEST_CASE_FIXTURE(ListViewFixture, "clearing takes rows and selection, not the columns") {
     Fill({"eins", "zwei"});
     list.SetSelected(1, true);
     list.Clear();
@@ -112,7 +113,7 @@ TEST_CASE_FIXTURE(Fixture, "clearing takes rows and selection, not the columns")
     CHECK(list.SelectedRow() == ListView::NoRow);
 }
 
-TEST_CASE_FIXTURE(Fixture, "without multiple selection one row at a time is selected") {
+TEST_CASE_FIXTURE(ListViewFixture, "without multiple selection one row at a time is selected") {
     Fill({"eins", "zwei"});
     list.SetSelected(0, true);
     list.SetSelected(1, true);
@@ -122,7 +123,8 @@ TEST_CASE_FIXTURE(Fixture, "without multiple selection one row at a time is sele
     CHECK(list.SelectedRow() == ListView::NoRow);
 }
 
-TEST_CASE_FIXTURE(Fixture, "of several selected rows the one with the focus is the selected row") {
+TEST_CASE_FIXTURE(ListViewFixture,
+                  "of several selected rows the one with the focus is the selected row") {
     ListView& several =
         form.Add<ListView>("lvwSoftware", toolkit::ListViewStyle{.multiSelect = true});
     for (const char* name : {"A", "B", "C", "D"}) several.AddRow(name);
@@ -152,7 +154,7 @@ TEST_CASE_FIXTURE(Fixture, "of several selected rows the one with the focus is t
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a window's selection beyond the rows is passed over") {
+TEST_CASE_FIXTURE(ListViewFixture, "a window's selection beyond the rows is passed over") {
     Fill({"eins"});
     list.SelectionMade(-1, 5, true);
     CHECK(list.SelectedRow() == 0);
@@ -160,7 +162,7 @@ TEST_CASE_FIXTURE(Fixture, "a window's selection beyond the rows is passed over"
     CHECK_FALSE(list.HasFocus(0));
 }
 
-TEST_CASE_FIXTURE(Fixture, "what the program does to a list raises no events") {
+TEST_CASE_FIXTURE(ListViewFixture, "what the program does to a list raises no events") {
     int events = 0;
     const auto count = [&] { ++events; };
     list.onClick = list.onDoubleClick = list.onRightButton = count;
@@ -174,7 +176,7 @@ TEST_CASE_FIXTURE(Fixture, "what the program does to a list raises no events") {
     CHECK(events == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a disabled list hears nothing of the user") {
+TEST_CASE_FIXTURE(ListViewFixture, "a disabled list hears nothing of the user") {
     Journal heard;
     list.onClick = [&] { heard.push_back("click"); };
     list.onDoubleClick = [&] { heard.push_back("twice"); };
@@ -195,7 +197,7 @@ TEST_CASE_FIXTURE(Fixture, "a disabled list hears nothing of the user") {
     CHECK(heard.size() == 5);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the window is told what has changed, and only that") {
+TEST_CASE_FIXTURE(ListViewFixture, "the window is told what has changed, and only that") {
     Fill({"a", "b"});
     CHECK(view.shown == std::vector<Aspect>{Aspect::Items, Aspect::Items});
     view.shown.clear();
@@ -213,7 +215,8 @@ TEST_CASE_FIXTURE(Fixture, "the window is told what has changed, and only that")
     CHECK(view.shown == std::vector<Aspect>{Aspect::Value, Aspect::Items});
 }
 
-TEST_CASE_FIXTURE(Fixture, "rows that move below a selected one make the window select anew") {
+TEST_CASE_FIXTURE(ListViewFixture,
+                  "rows that move below a selected one make the window select anew") {
     Fill({"a", "b", "c"});
     list.SetSelected(2, true);
     view.shown.clear();

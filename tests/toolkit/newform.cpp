@@ -8,14 +8,14 @@ using namespace toolkit;
 
 namespace {
 
-struct Fixture {
+struct NewFormFixture {
     NotingHost host;
     Form form{host, "frmTest", "Test", {15, 30, 6000, 4000}};
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a new form is a normal dialog, neither loaded nor visible") {
+TEST_CASE_FIXTURE(NewFormFixture, "a new form is a normal dialog, neither loaded nor visible") {
     CHECK(form.Name() == "frmTest");
     CHECK(form.Caption() == "Test");
     CHECK(form.Place() == Bounds{15, 30, 6000, 4000});
@@ -29,21 +29,22 @@ TEST_CASE_FIXTURE(Fixture, "a new form is a normal dialog, neither loaded nor vi
     CHECK(form.View() == nullptr);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(NewFormFixture,
                   "Return and Escape press nothing on a new form, the focus is on the first") {
     CHECK(form.defaultButton == nullptr);
     CHECK(form.cancelButton == nullptr);
     CHECK(form.firstFocus == nullptr);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a form without events of its own lives as well, and uses up no key") {
+TEST_CASE_FIXTURE(NewFormFixture,
+                  "a form without events of its own lives as well, and uses up no key") {
     form.Show();
     CHECK_FALSE(form.KeyPressed(0x73));
     form.Unload();
     CHECK(host.journal == Journal{"open frmTest", "close frmTest"});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a form holds the layout that it was given") {
+TEST_CASE_FIXTURE(NewFormFixture, "a form holds the layout that it was given") {
     CHECK(form.Layout().kind == BoxKind::Space);
     auto& box = form.Add<CheckBox>("chkAutoLogin", "");
     form.SetLayout(Column({Leaf(box)}));

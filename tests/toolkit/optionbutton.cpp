@@ -8,7 +8,7 @@ using toolkit::OptionButton;
 
 namespace {
 
-struct Fixture {
+struct OptionButtonFixture {
     NotingHost host;
     TestForm form{host};
     OptionButton& atom = form.Add<OptionButton>("optAtomUhr", "Atomuhr", 1);
@@ -16,7 +16,7 @@ struct Fixture {
     OptionButton& other = form.Add<OptionButton>("optOther", "Andere Gruppe", 2);
     Journal clicks;
 
-    Fixture() {
+    OptionButtonFixture() {
         for (OptionButton* button : {&atom, &server, &other}) {
             button->onClick = [this, button] { clicks.push_back(button->Name()); };
         }
@@ -25,20 +25,21 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "selecting an option takes the selection from the others of its group") {
+TEST_CASE_FIXTURE(OptionButtonFixture,
+                  "selecting an option takes the selection from the others of its group") {
     atom.SetValue(true);
     server.SetValue(true);
     CHECK_FALSE(atom.Value());
     CHECK(server.Value());
 }
 
-TEST_CASE_FIXTURE(Fixture, "options of another group keep their selection") {
+TEST_CASE_FIXTURE(OptionButtonFixture, "options of another group keep their selection") {
     other.SetValue(true);
     atom.SetValue(true);
     CHECK(other.Value());
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(OptionButtonFixture,
                   "an option raises Click when it is selected, not when it is deselected") {
     atom.SetValue(true);
     server.SetValue(true);
@@ -47,20 +48,20 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(clicks.size() == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an option that is selected already raises nothing") {
+TEST_CASE_FIXTURE(OptionButtonFixture, "an option that is selected already raises nothing") {
     atom.SetValue(true);
     atom.SetValue(true);
     CHECK(clicks.size() == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a group may have no selection at all") {
+TEST_CASE_FIXTURE(OptionButtonFixture, "a group may have no selection at all") {
     atom.SetValue(true);
     atom.SetValue(false);
     CHECK_FALSE(atom.Value());
     CHECK_FALSE(server.Value());
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(OptionButtonFixture,
                   "the option that loses the selection shows it before the Click is raised") {
     NotingView view;
     atom.SetValue(true);
@@ -71,7 +72,8 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(shown == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failure in the handler passes on with the selection made") {
+TEST_CASE_FIXTURE(OptionButtonFixture,
+                  "a failure in the handler passes on with the selection made") {
     server.onClick = [] { throw runtime::Failure(runtime::Overflow); };
     atom.SetValue(true);
     CHECK_THROWS_AS(server.SetValue(true), runtime::Failure);

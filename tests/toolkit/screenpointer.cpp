@@ -15,7 +15,7 @@ struct Host final : NotingHost {
     void ScreenPointerChanged() override { ++changes; }
 };
 
-struct Fixture {
+struct PointerFixture {
     Host host;
     Form main{host, "frmMain", "", {}};
     Form dialog{host, "frmTest", "", {}};
@@ -23,7 +23,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "the screen's pointer covers the own one of every form") {
+TEST_CASE_FIXTURE(PointerFixture, "the screen's pointer covers the own one of every form") {
     CHECK(host.ScreenPointer() == DefaultPointer);
     host.SetScreenPointer(Hourglass);
     CHECK(main.ShownPointer() == Hourglass);
@@ -34,7 +34,7 @@ TEST_CASE_FIXTURE(Fixture, "the screen's pointer covers the own one of every for
     CHECK(dialog.ShownPointer() == DefaultPointer);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(PointerFixture,
                   "a form's own pointer stays under the screen's and comes back to light") {
     main.SetPointer(Hourglass);
     CHECK(main.ShownPointer() == Hourglass);
@@ -46,7 +46,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(main.ShownPointer() == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the host hears of the screen's pointer when it is another one") {
+TEST_CASE_FIXTURE(PointerFixture, "the host hears of the screen's pointer when it is another one") {
     host.SetScreenPointer(DefaultPointer);
     CHECK(host.changes == 0);
     host.SetScreenPointer(Hourglass);
@@ -56,7 +56,8 @@ TEST_CASE_FIXTURE(Fixture, "the host hears of the screen's pointer when it is an
     CHECK(host.changes == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the screen's hourglass ends with the default, also by a failure") {
+TEST_CASE_FIXTURE(PointerFixture,
+                  "the screen's hourglass ends with the default, also by a failure") {
     const auto fail = [&] {
         const ScreenHourglass hourglass(host);
         CHECK(host.ScreenPointer() == Hourglass);

@@ -10,27 +10,27 @@ using toolkit::Slider;
 
 namespace {
 
-struct Fixture {
+struct SliderFixture {
     NotingHost host;
     TestForm form{host};
     Slider& slider =
         form.Add<Slider>("Level", toolkit::SliderRange{.minimum = 55, .maximum = 255}, 255);
     int changes = 0;
 
-    Fixture() {
+    SliderFixture() {
         slider.onChange = [this] { ++changes; };
     }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a slider starts at the value it is given, inside its range") {
+TEST_CASE_FIXTURE(SliderFixture, "a slider starts at the value it is given, inside its range") {
     CHECK(slider.Value() == 255);
     CHECK(form.Add<Slider>("low", toolkit::SliderRange{.minimum = 1, .maximum = 400}, 0).Value() ==
           1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a slider raises Change when its value changes, and only then") {
+TEST_CASE_FIXTURE(SliderFixture, "a slider raises Change when its value changes, and only then") {
     slider.SetValue(100);
     CHECK(slider.Value() == 100);
     CHECK(changes == 1);
@@ -38,7 +38,7 @@ TEST_CASE_FIXTURE(Fixture, "a slider raises Change when its value changes, and o
     CHECK(changes == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a value outside the range leaves the slider where it is") {
+TEST_CASE_FIXTURE(SliderFixture, "a value outside the range leaves the slider where it is") {
     slider.SetValue(100);
     for (const std::int32_t value : {54, 256, 0, std::numeric_limits<std::int32_t>::max(),
                                      std::numeric_limits<std::int32_t>::min()}) {
@@ -52,7 +52,7 @@ TEST_CASE_FIXTURE(Fixture, "a value outside the range leaves the slider where it
     CHECK(slider.Value() == 255);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failure in the handler passes to whoever moved the slider") {
+TEST_CASE_FIXTURE(SliderFixture, "a failure in the handler passes to whoever moved the slider") {
     slider.onChange = [] { throw runtime::Failure(runtime::Overflow); };
     CHECK_THROWS_AS(slider.SetValue(60), runtime::Failure);
     CHECK(slider.Value() == 60);

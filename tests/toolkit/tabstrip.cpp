@@ -8,25 +8,25 @@ using toolkit::TabStrip;
 
 namespace {
 
-struct Fixture {
+struct TabStripFixture {
     NotingHost host;
     TestForm form{host};
     TabStrip& tabs = form.Add<TabStrip>(
         "SSTab1", std::vector<std::string>{"a", "b", "c", "d", "e", "f", "g", "h"});
     int clicks = 0;
 
-    Fixture() {
+    TabStripFixture() {
         tabs.onClick = [this] { ++clicks; };
     }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a tab strip opens on its first page") {
+TEST_CASE_FIXTURE(TabStripFixture, "a tab strip opens on its first page") {
     CHECK(tabs.Tab() == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "another page raises Click, the same page does not") {
+TEST_CASE_FIXTURE(TabStripFixture, "another page raises Click, the same page does not") {
     tabs.SetTab(7);
     CHECK(tabs.Tab() == 7);
     CHECK(clicks == 1);
@@ -34,13 +34,13 @@ TEST_CASE_FIXTURE(Fixture, "another page raises Click, the same page does not") 
     CHECK(clicks == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a click of the user's raises Click whatever page is up") {
+TEST_CASE_FIXTURE(TabStripFixture, "a click of the user's raises Click whatever page is up") {
     tabs.Click();
     CHECK(clicks == 1);
     CHECK(tabs.Tab() == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(TabStripFixture,
                   "a number that is no page is an invalid property value; the page stays") {
     tabs.SetTab(3);
     for (int tab : {8, 9, -1, -2147483647}) {
@@ -57,7 +57,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(clicks == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failure in the handler passes to whoever turned the page") {
+TEST_CASE_FIXTURE(TabStripFixture, "a failure in the handler passes to whoever turned the page") {
     tabs.onClick = [] { throw runtime::Failure(runtime::Overflow); };
     CHECK_THROWS_AS(tabs.SetTab(1), runtime::Failure);
     CHECK(tabs.Tab() == 1);

@@ -10,7 +10,7 @@ using namespace toolkit;
 
 namespace {
 
-struct Fixture {
+struct ValuesFixture {
     NotingHost host;
     TestForm form{host};
     CheckBox& box = form.Add<CheckBox>("check", "");
@@ -20,7 +20,7 @@ struct Fixture {
     TabStrip& tabs = form.Add<TabStrip>("tabs", std::vector<std::string>{"a", "b"});
     NotingView view;
 
-    Fixture() {
+    ValuesFixture() {
         for (const auto& control : form.Controls()) control->SetView(&view);
     }
 
@@ -35,26 +35,26 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a new value of any control is shown once, as a value") {
+TEST_CASE_FIXTURE(ValuesFixture, "a new value of any control is shown once, as a value") {
     ChangeAll();
     CHECK(view.shown == std::vector<Aspect>(5, Aspect::Value));
     ChangeAll();
     CHECK(view.shown.size() == 5);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a value beyond a slider's end moves nothing and is not shown") {
+TEST_CASE_FIXTURE(ValuesFixture, "a value beyond a slider's end moves nothing and is not shown") {
     slider.SetValue(11);
     CHECK(view.shown.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a refused value is an invalid property value and shows nothing") {
+TEST_CASE_FIXTURE(ValuesFixture, "a refused value is an invalid property value and shows nothing") {
     CHECK(FailureOf([&] { box.SetValue(3); }) == 380);
     CHECK(FailureOf([&] { box.SetValue(-1); }) == 380);
     CHECK(FailureOf([&] { tabs.SetTab(2); }) == 380);
     CHECK(view.shown.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "the failure of a handler is the one that its setter throws") {
+TEST_CASE_FIXTURE(ValuesFixture, "the failure of a handler is the one that its setter throws") {
     for (Handler* handler :
          {&box.onClick, &option.onClick, &text.onChange, &slider.onChange, &tabs.onClick}) {
         *handler = [] { throw runtime::Failure(runtime::PermissionDenied); };
@@ -66,7 +66,7 @@ TEST_CASE_FIXTURE(Fixture, "the failure of a handler is the one that its setter 
     CHECK(FailureOf([&] { tabs.SetTab(1); }) == 70);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a control tells its kind, and what it was made with") {
+TEST_CASE_FIXTURE(ValuesFixture, "a control tells its kind, and what it was made with") {
     CHECK(box.Kind() == ControlKind::CheckBox);
     CHECK(option.Kind() == ControlKind::OptionButton);
     CHECK(option.Group() == 1);

@@ -8,7 +8,7 @@ using namespace tweak_tests;
 
 namespace {
 
-std::vector<std::string> Lines(const std::vector<Fact>& facts) {
+std::vector<std::string> LinesOfFacts(const std::vector<Fact>& facts) {
     std::vector<std::string> lines;
     for (const Fact& fact : facts) lines.push_back(LineOf(fact));
     return lines;
@@ -26,8 +26,8 @@ std::string Lacking(const std::vector<std::string>& all, const std::vector<std::
 }  // namespace
 
 TEST_CASE_FIXTURE(Options, "the program's rows and the golden table state the same facts") {
-    const auto golden = Lines(GoldenFacts());
-    const auto program = Lines(FactsOfProgram(form));
+    const auto golden = LinesOfFacts(GoldenFacts());
+    const auto program = LinesOfFacts(FactsOfProgram(form));
     // Missing in the program, and extra in it.
     CHECK(Lacking(golden, program) == "");
     CHECK(Lacking(program, golden) == "");

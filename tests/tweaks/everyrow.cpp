@@ -263,11 +263,11 @@ void SetText(Options& options, const Fact& fact, const std::string& text) {
     tweaks::SetTextOfControl(options.form, fact.control, text);
 }
 
-std::string TextOf(const Options& options, const Fact& fact) {
+std::string TextShown(const Options& options, const Fact& fact) {
     return tweaks::TextOfControl(options.form, fact.control);
 }
 
-std::vector<Fact> FactsOf(const std::string& control) {
+std::vector<Fact> FactsOfControl(const std::string& control) {
     std::vector<Fact> facts;
     for (const Fact& fact : GoldenFacts()) {
         if (fact.control == control) facts.push_back(fact);
@@ -286,7 +286,7 @@ TEST_CASE("an absent value empties every edit field") {
         Options options;
         SetText(options, fact, "x");
         ReadAlone(options, fact.control);
-        CHECK(TextOf(options, fact) == "");
+        CHECK(TextShown(options, fact) == "");
     }
 }
 
@@ -296,13 +296,13 @@ TEST_CASE("every edit field takes the value's text as it is, whatever the type")
         Options options;
         options.machine.registry.Put(fact.Root(), fact.key, fact.value, TextValue(ShortText));
         ReadAlone(options, fact.control);
-        CHECK(TextOf(options, fact) == ShortText);
+        CHECK(TextShown(options, fact) == ShortText);
         options.machine.registry.Put(fact.Root(), fact.key, fact.value, DwordValue(23));
         ReadAlone(options, fact.control);
-        CHECK(TextOf(options, fact) == "23");
+        CHECK(TextShown(options, fact) == "23");
         options.machine.registry.Put(fact.Root(), fact.key, fact.value, {0, {65, 66}});
         ReadAlone(options, fact.control);
-        CHECK(TextOf(options, fact) == "");
+        CHECK(TextShown(options, fact) == "");
     }
 }
 
@@ -314,7 +314,7 @@ TEST_CASE("a denied key empties every edit field") {
         options.machine.registry.Deny(fact.Root(), fact.key);
         SetText(options, fact, "y");
         ReadAlone(options, fact.control);
-        CHECK(TextOf(options, fact) == "");
+        CHECK(TextShown(options, fact) == "");
     }
 }
 
@@ -330,7 +330,7 @@ std::string TestedControl(const Fact& fact) {
 
 // Writes the field alone and compares with what the table says of that side.
 void CheckWritten(const Fact& fact, Start start, const std::string& text, int side) {
-    const auto facts = FactsOf(fact.control);
+    const auto facts = FactsOfControl(fact.control);
     const std::size_t decider = fact.on.find(" with ");
     Options options;
     Options expected;

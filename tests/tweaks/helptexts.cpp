@@ -35,7 +35,7 @@ std::vector<Row> GoldenRows() {
     return rows;
 }
 
-std::string TextOf(const std::string& control) {
+std::string HelpOf(const std::string& control) {
     for (const tweaks::HelpText& row : tweaks::HelpTexts()) {
         if (row.control == control) return row.text;
     }
@@ -106,7 +106,7 @@ TEST_CASE("a help text that the golden list tells is that one, byte for byte") {
     for (const Row& row : GoldenRows()) {
         if (row.text == "*" || row.text.starts_with("= ")) continue;
         CAPTURE(row.control);
-        CHECK(TextOf(row.control) == row.text);
+        CHECK(HelpOf(row.control) == row.text);
         ++told;
     }
     CHECK(told == 19);
@@ -145,7 +145,7 @@ TEST_CASE("each free text has two or three sentences of German and no address") 
     for (const Row& row : GoldenRows()) {
         if (row.text != "*") continue;
         CAPTURE(row.control);
-        const std::string text = TextOf(row.control);
+        const std::string text = HelpOf(row.control);
         CHECK(Sentences(text) >= 2);
         CHECK(Sentences(text) <= 3);
         CHECK(text.size() >= 120);
@@ -158,12 +158,12 @@ TEST_CASE("each free text has two or three sentences of German and no address") 
 }
 
 TEST_CASE("the text on switching off UPnP speaks of nothing else, that on Nero names no address") {
-    const std::string upnp = TextOf("chkSecureWindows");
+    const std::string upnp = HelpOf("chkSecureWindows");
     CHECK(upnp.find("UPnP") != std::string::npos);
     for (const char* other : {"Messenger", "Nachrichtendienst", "Update", "Firewall", "Registry"}) {
         CHECK(upnp.find(other) == std::string::npos);
     }
-    CHECK_FALSE(NamesAddress(TextOf("chkNeroBurnSpeed")));
+    CHECK_FALSE(NamesAddress(HelpOf("chkNeroBurnSpeed")));
 }
 
 TEST_CASE("an address is known by a point inside a word, whatever comes behind it") {
@@ -177,7 +177,7 @@ TEST_CASE("each free text of a check box names the default") {
     for (const Row& row : GoldenRows()) {
         if (row.text != "*" || !row.control.starts_with("chk")) continue;
         CAPTURE(row.control);
-        CHECK(TextOf(row.control).find("tandard") != std::string::npos);
+        CHECK(HelpOf(row.control).find("tandard") != std::string::npos);
     }
 }
 
@@ -185,15 +185,15 @@ TEST_CASE("a text says where an option's value has no effect on Windows XP") {
     for (const char* control : {"chkCascadeExplorer", "chkDisableTM", "chkWindowsUpdate",
                                 "chkHideComputer", "chkShowALLFiles", "chkBootOptimizeFunction"}) {
         CAPTURE(std::string(control));
-        CHECK(TextOf(control).find("keine Wirkung") != std::string::npos);
+        CHECK(HelpOf(control).find("keine Wirkung") != std::string::npos);
     }
 }
 
 TEST_CASE("a text does not promise more than the option's row does") {
-    CHECK(TextOf("chkNeroBurnSpeed").find("auch, wenn Nero nicht") != std::string::npos);
-    CHECK(TextOf("chkCDAutoPlay").find("mit Unterschlüsseln bleibt") != std::string::npos);
-    CHECK(TextOf("chkWinLogOn").find("gelöscht") == std::string::npos);
-    const std::string logon = TextOf("chkAutoLogin");
+    CHECK(HelpOf("chkNeroBurnSpeed").find("auch, wenn Nero nicht") != std::string::npos);
+    CHECK(HelpOf("chkCDAutoPlay").find("mit Unterschlüsseln bleibt") != std::string::npos);
+    CHECK(HelpOf("chkWinLogOn").find("gelöscht") == std::string::npos);
+    const std::string logon = HelpOf("chkAutoLogin");
     CHECK(logon.find("mit dem Wert 0 erscheint als eingeschaltet") != std::string::npos);
     CHECK(logon.find("Übernehmen schaltet ihn dann ein") != std::string::npos);
 }
@@ -204,7 +204,7 @@ TEST_CASE(
     for (const auto& [control, shown] : ReadingOtherwiseThanWindows()) {
         if (!IsFree(control) || !Writes(control, shown)) continue;
         CAPTURE(control);
-        const std::string text = TextOf(control);
+        const std::string text = HelpOf(control);
         CHECK(text.find(shown ? "als eingeschaltet" : "als ausgeschaltet") != std::string::npos);
         CHECK(text.find("Übernehmen") != std::string::npos);
         if (!shown) CHECK(text.find("abgeschaltet") != std::string::npos);

@@ -9,16 +9,6 @@ using platform::simulated::ShownMessage;
 
 namespace {
 
-constexpr std::string_view TcpKey = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-constexpr std::string_view Interface1 =
-    "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
-    "\\{3BD4192A-BF2A-4EBA-B0E7-7C61AE30590E}";
-constexpr std::string_view Interface2 =
-    "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
-    "\\{8323E657-4B53-48CC-A90C-C85DAC9764DD}";
-constexpr std::string_view InternetKey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
-
 using Texts = std::vector<std::string>;
 
 struct Numbers : Options {

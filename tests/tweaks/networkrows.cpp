@@ -8,16 +8,6 @@ using namespace tweak_tests;
 
 namespace {
 
-constexpr std::string_view TcpKey = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
-constexpr std::string_view Interface1 =
-    "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
-    "\\{3BD4192A-BF2A-4EBA-B0E7-7C61AE30590E}";
-constexpr std::string_view Interface2 =
-    "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
-    "\\{8323E657-4B53-48CC-A90C-C85DAC9764DD}";
-constexpr std::string_view InternetKey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
-constexpr std::string_view IEKey = "Software\\Microsoft\\Internet Explorer\\Main";
 constexpr std::string_view Security10 = "Software\\Microsoft\\Office\\10.0\\Outlook\\Security";
 constexpr std::string_view Security11 = "Software\\Microsoft\\Office\\11.0\\Outlook\\Security";
 constexpr std::string_view Preferences10 =

@@ -28,11 +28,11 @@ Names NamesOf(std::span<const std::string_view> order) {
     return {order.begin(), order.end()};
 }
 
-void AddOnce(Names& names, const std::string& name) {
+void AddName(Names& names, const std::string& name) {
     if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
 }
 
-std::size_t PlaceOf(const Names& names, const std::string& name) {
+std::size_t IndexOf(const Names& names, const std::string& name) {
     return static_cast<std::size_t>(std::find(names.begin(), names.end(), name) - names.begin());
 }
 
@@ -51,7 +51,7 @@ TEST_CASE("the write pass knows 98 names in the golden order") {
 TEST_CASE("the logon message's box is read after its two texts and written before them") {
     const Names read = NamesOf(tweaks::ReadOrder());
     const Names write = NamesOf(tweaks::WriteOrder());
-    const std::size_t at = PlaceOf(read, "txtWinLogOnT");
+    const std::size_t at = IndexOf(read, "txtWinLogOnT");
     CHECK(Names(read.begin() + at, read.begin() + at + 3) ==
           Names{"txtWinLogOnT", "txtWinLogOnC", "chkWinLogOn"});
     CHECK(Names(write.begin() + at, write.begin() + at + 3) ==
@@ -79,7 +79,7 @@ Names ValuesInOrder(const Names& lines, std::initializer_list<std::string_view> 
         const std::string_view call = std::string_view(line).substr(0, line.find(' '));
         if (std::find(calls.begin(), calls.end(), call) == calls.end()) continue;
         const std::size_t first = line.find('"') + 1;
-        AddOnce(names, line.substr(first, line.find('"', first) - first));
+        AddName(names, line.substr(first, line.find('"', first) - first));
     }
     return names;
 }
@@ -97,7 +97,7 @@ Names GoldenValues(const std::string& pass, Wanted wanted) {
     Names names;
     for (const std::string& name : GoldenOrder(pass)) {
         for (const Fact& fact : FactsDecidedBy(name)) {
-            if (wanted(fact)) AddOnce(names, fact.value);
+            if (wanted(fact)) AddName(names, fact.value);
         }
     }
     return names;

@@ -31,6 +31,24 @@ inline constexpr std::string_view WinlogonKey =
 inline constexpr std::string_view SystemKey = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
 inline constexpr std::string_view DesktopKey = "Control Panel\\Desktop";
 inline constexpr std::string_view AgpKey = "SYSTEM\\CurrentControlSet\\Services\\nv4\\Device0";
+inline constexpr std::string_view AdvancedKey =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced";
+inline constexpr std::string_view PoliciesKey =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
+inline constexpr std::string_view BinKey =
+    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace"
+    "\\{645FF040-5081-101B-9F08-00AA002F954E}";
+inline constexpr std::string_view IEKey = "Software\\Microsoft\\Internet Explorer\\Main";
+inline constexpr std::string_view InternetKey =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
+inline constexpr std::string_view TcpKey = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters";
+inline constexpr std::string_view Interface1 =
+    "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
+    "\\{3BD4192A-BF2A-4EBA-B0E7-7C61AE30590E}";
+inline constexpr std::string_view Interface2 =
+    "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters\\Interfaces"
+    "\\{8323E657-4B53-48CC-A90C-C85DAC9764DD}";
+inline constexpr char SysocPath[] = "C:\\WINDOWS\\inf\\Sysoc.inf";
 
 // A form with nothing but one page.
 struct OnePage {

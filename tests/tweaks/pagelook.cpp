@@ -22,11 +22,11 @@ bool IsFrame(const Placement& placement) {
     return placement.control->Kind() == ControlKind::Frame;
 }
 
+}  // namespace
+
 std::vector<Placement> Placed(const toolkit::Form& form) {
     return toolkit::Arrange(form.Layout(), PageArea, WideText());
 }
-
-}  // namespace
 
 toolkit::Size WideText::SizeOf(std::string_view text, bool bold) const {
     const int perTen = bold ? 75 : 58;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "toolkit/form.h"
 #include "toolkit/layout.h"
@@ -15,6 +16,9 @@ struct WideText : toolkit::TextMeasure {
 
 // What the tab strip leaves of the window to a page.
 inline constexpr toolkit::Rect PageArea{0, 0, 630, 390};
+
+// The controls of the form's layout, placed in that area.
+std::vector<toolkit::Placement> Placed(const toolkit::Form& form);
 
 // Checks of a form with one page: nothing outside of the area, no two controls on each other, room
 // for every caption, and the page's own buttons at its bottom right.

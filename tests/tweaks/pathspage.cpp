@@ -41,10 +41,6 @@ struct PathsPage : OnePage {
     }
 };
 
-std::vector<toolkit::Placement> Placed(const toolkit::Form& form) {
-    return toolkit::Arrange(form.Layout(), PageArea, WideText());
-}
-
 // How many lines the text takes when its words wrap at that width.
 int LinesOf(const std::string& text, int width) {
     int lines = 1;

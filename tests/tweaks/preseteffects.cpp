@@ -7,12 +7,8 @@ using namespace tweak_tests;
 
 namespace {
 
-constexpr char BinKey[] =
-    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"
-    "{645FF040-5081-101B-9F08-00AA002F954E}";
 constexpr char BinParent[] =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace";
-constexpr char SysocPath[] = "C:\\WINDOWS\\inf\\Sysoc.inf";
 
 struct Effects : Presets {
     platform::OtherWindows::Handle taskbar = machine.windows.Open("Shell_TrayWnd");

@@ -10,13 +10,13 @@ using namespace tweak_tests;
 
 namespace {
 
-std::string Joined(const Lines& lines) {
+std::string JoinedLines(const Lines& lines) {
     std::string all;
     for (const std::string& line : lines) all += line + '\n';
     return all;
 }
 
-std::string Quoted(int number) {
+std::string QuotedNumber(int number) {
     return '"' + std::to_string(number) + '"';
 }
 
@@ -75,7 +75,7 @@ class Model {
         states[control] = value;
         changes.push_back(control + " = " + value);
         if (control == "cboMTU") {
-            Set("txtRWIN", Quoted((std::atoi(value.c_str() + 1) - 40) * 4));
+            Set("txtRWIN", QuotedNumber((std::atoi(value.c_str() + 1) - 40) * 4));
         } else if (control == "txtStartmenu") {
             Set("sldStartmenu", value.substr(1, value.size() - 2));
         } else if (control == "txtLevelValue") {
@@ -113,7 +113,7 @@ void CheckFrom(void (*prepare)(Presets&)) {
         ChangeNotes changes(program.form, program.machine.journal);
         program.Press(preset);
         changes.CatchUp();
-        CHECK(Joined(changes.lines) == Joined(model.changes));
+        CHECK(JoinedLines(changes.lines) == JoinedLines(model.changes));
         CHECK(program.States() == model.states);
 
         changes.lines.clear();

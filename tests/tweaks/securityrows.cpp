@@ -8,13 +8,8 @@ using namespace tweak_tests;
 
 namespace {
 
-constexpr std::string_view AdvancedKey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced";
-constexpr std::string_view PoliciesKey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
 constexpr std::string_view ExplorerKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer";
 constexpr std::string_view WatsonKey = "Software\\Policies\\Microsoft\\Office\\10.0\\Common";
-constexpr std::string_view IEKey = "Software\\Microsoft\\Internet Explorer\\Main";
 constexpr std::string_view ReportKey = "SOFTWARE\\Microsoft\\PCHealth\\ErrorReporting";
 constexpr std::string_view UpdateKey = "SYSTEM\\CurrentControlSet\\Control\\Update";
 constexpr std::string_view LogonKey =
@@ -25,9 +20,6 @@ constexpr std::string_view SharedKey =
 constexpr std::string_view AlexaKey =
     "SOFTWARE\\Microsoft\\Internet Explorer\\Extensions\\{c95fe080-8f5d-11d2-a20b-00aa003c157a}";
 constexpr std::string_view PlayerKey = "SOFTWARE\\Microsoft\\MediaPlayer\\PlayerUpgrade";
-constexpr std::string_view BinKey =
-    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace"
-    "\\{645FF040-5081-101B-9F08-00AA002F954E}";
 
 using Texts = std::vector<std::string>;
 

@@ -6,19 +6,15 @@
 #include "runtime/failure.h"
 #include "toolkit/combobox.h"
 #include "toolkit/form.h"
+#include "tweaks/presetfixture.h"
 
-using Lines = std::vector<std::string>;
+using namespace tweak_tests;
 using Root = platform::Registry;
 using Launches = std::vector<platform::simulated::Processes::Launched>;
 
 namespace {
 
-constexpr char SysocPath[] = "C:\\WINDOWS\\inf\\Sysoc.inf";
-constexpr char BinKey[] =
-    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"
-    "{645FF040-5081-101B-9F08-00AA002F954E}";
-
-struct Effects {
+struct ClickEffects {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmMain", "", {}};
     toolkit::CheckBox& hide = form.Add<toolkit::CheckBox>("chkHideWinComponents", "");
@@ -31,7 +27,7 @@ struct Effects {
     toolkit::ComboBox& mtu = form.Add<toolkit::ComboBox>("cboMTU");
     toolkit::TextBox& rwin = form.Add<toolkit::TextBox>("txtRWIN");
 
-    Effects() {
+    ClickEffects() {
         machine.files.MakeDirectory("C:\\WINDOWS\\inf");
         tweaks::ConnectSideEffects(form, machine.services);
     }
@@ -53,7 +49,7 @@ struct Effects {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Effects, "showing the components remembers it and takes the word out") {
+TEST_CASE_FIXTURE(ClickEffects, "showing the components remembers it and takes the word out") {
     machine.files.Put(SysocPath, "a,HIDE,7\r\n");
     hide.SetValue(1);
     CHECK(Stored("WinComponents", "Show") == "true");
@@ -61,7 +57,7 @@ TEST_CASE_FIXTURE(Effects, "showing the components remembers it and takes the wo
     CHECK(Journal().front() == "SaveSetting \"Quillmore\" \"WinComponents\" \"Show\" \"true\"");
 }
 
-TEST_CASE_FIXTURE(Effects, "no longer showing them is remembered, and the word stays out") {
+TEST_CASE_FIXTURE(ClickEffects, "no longer showing them is remembered, and the word stays out") {
     machine.files.Put(SysocPath, "a,HIDE,7\r\n");
     hide.SetValue(1);
     hide.SetValue(0);
@@ -70,7 +66,7 @@ TEST_CASE_FIXTURE(Effects, "no longer showing them is remembered, and the word s
     CHECK(machine.journal.Calls("OpenTextFile").size() == 2);
 }
 
-TEST_CASE_FIXTURE(Effects, "the grey state counts as not showing and not securing") {
+TEST_CASE_FIXTURE(ClickEffects, "the grey state counts as not showing and not securing") {
     machine.files.Put(SysocPath, "a,HIDE,7\r\n");
     hide.SetValue(2);
     CHECK(Stored("WinComponents", "Show") == "false");
@@ -81,14 +77,15 @@ TEST_CASE_FIXTURE(Effects, "the grey state counts as not showing and not securin
     CHECK(machine.registry.HasKey(Root::LocalMachine, BinKey));
 }
 
-TEST_CASE_FIXTURE(Effects, "a file that cannot be rewritten fails to whoever clicked, silently") {
+TEST_CASE_FIXTURE(ClickEffects,
+                  "a file that cannot be rewritten fails to whoever clicked, silently") {
     CHECK(FailureNumber([&] { hide.SetValue(1); }) == runtime::FileNotFound);
     CHECK(hide.Value() == 1);
     CHECK(Stored("WinComponents", "Show") == "true");
     CHECK(machine.messages.Shown().empty());
 }
 
-TEST_CASE_FIXTURE(Effects, "a state that cannot be remembered has no effect") {
+TEST_CASE_FIXTURE(ClickEffects, "a state that cannot be remembered has no effect") {
     machine.files.Put(SysocPath, "a,HIDE,7\r\n");
     machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
     CHECK(FailureNumber([&] { hide.SetValue(1); }) == runtime::InvalidProcedureCall);
@@ -98,7 +95,7 @@ TEST_CASE_FIXTURE(Effects, "a state that cannot be remembered has no effect") {
     CHECK(Journal().size() == 2);
 }
 
-TEST_CASE_FIXTURE(Effects,
+TEST_CASE_FIXTURE(ClickEffects,
                   "securing starts the unregistering, hidden, with the variable as it is") {
     secure.SetValue(1);
     CHECK(Stored("SecureWindows", "Regged") == "true");
@@ -109,7 +106,7 @@ TEST_CASE_FIXTURE(Effects,
           Launches{{"regsvr32.exe %windir%\\system32\\upnp.dll /u /s", 0}});
 }
 
-TEST_CASE_FIXTURE(Effects, "undoing it starts the registering; two clicks are two processes") {
+TEST_CASE_FIXTURE(ClickEffects, "undoing it starts the registering; two clicks are two processes") {
     secure.SetValue(1);
     secure.SetValue(0);
     CHECK(Stored("SecureWindows", "Regged") == "false");
@@ -118,25 +115,27 @@ TEST_CASE_FIXTURE(Effects, "undoing it starts the registering; two clicks are tw
                    {"regsvr32.exe %windir%\\system32\\upnp.dll /s", 0}});
 }
 
-TEST_CASE_FIXTURE(Effects, "a process that does not start fails, and the state stays remembered") {
+TEST_CASE_FIXTURE(ClickEffects,
+                  "a process that does not start fails, and the state stays remembered") {
     machine.faults.FailOn("regsvr32", runtime::FileNotFound);
     CHECK(FailureNumber([&] { secure.SetValue(1); }) == runtime::FileNotFound);
     CHECK(Stored("SecureWindows", "Regged") == "true");
 }
 
-TEST_CASE_FIXTURE(Effects, "taking the recycle bin off the desktop deletes its key") {
+TEST_CASE_FIXTURE(ClickEffects, "taking the recycle bin off the desktop deletes its key") {
     machine.registry.MakeKey(Root::LocalMachine, BinKey);
     bin.SetValue(1);
     CHECK_FALSE(machine.registry.HasKey(Root::LocalMachine, BinKey));
 }
 
-TEST_CASE_FIXTURE(Effects, "a recycle bin that is off the desktop already is not deleted again") {
+TEST_CASE_FIXTURE(ClickEffects,
+                  "a recycle bin that is off the desktop already is not deleted again") {
     bin.SetValue(1);
     CHECK(machine.journal.Calls("RegDeleteKeyA").empty());
     CHECK(machine.registry.Dump().empty());
 }
 
-TEST_CASE_FIXTURE(Effects, "putting it back makes the key with a value literally so named") {
+TEST_CASE_FIXTURE(ClickEffects, "putting it back makes the key with a value literally so named") {
     bin.SetValue(1);
     bin.SetValue(0);
     REQUIRE(machine.registry.HasKey(Root::LocalMachine, BinKey));
@@ -145,7 +144,7 @@ TEST_CASE_FIXTURE(Effects, "putting it back makes the key with a value literally
     CHECK_FALSE(machine.registry.Value(Root::LocalMachine, BinKey, ""));
 }
 
-TEST_CASE_FIXTURE(Effects, "putting it back where the key is there adds no value") {
+TEST_CASE_FIXTURE(ClickEffects, "putting it back where the key is there adds no value") {
     bin.SetValue(1);
     machine.registry.MakeKey(Root::LocalMachine, BinKey);
     const auto before = machine.registry.Dump();
@@ -154,7 +153,7 @@ TEST_CASE_FIXTURE(Effects, "putting it back where the key is there adds no value
     CHECK(machine.journal.Calls("RegSetValueExA").empty());
 }
 
-TEST_CASE_FIXTURE(Effects, "a recycle bin whose key is denied stays, in silence") {
+TEST_CASE_FIXTURE(ClickEffects, "a recycle bin whose key is denied stays, in silence") {
     machine.registry.MakeKey(Root::LocalMachine, BinKey);
     machine.registry.Deny(Root::LocalMachine, BinKey);
     bin.SetValue(1);
@@ -162,7 +161,8 @@ TEST_CASE_FIXTURE(Effects, "a recycle bin whose key is denied stays, in silence"
     CHECK(machine.messages.Shown().empty());
 }
 
-TEST_CASE_FIXTURE(Effects, "cleaning the user's folder warns when it is chosen, and only then") {
+TEST_CASE_FIXTURE(ClickEffects,
+                  "cleaning the user's folder warns when it is chosen, and only then") {
     temp.SetValue(1);
     CHECK(machine.messages.Shown() ==
           std::vector<platform::simulated::ShownMessage>{
@@ -175,7 +175,7 @@ TEST_CASE_FIXTURE(Effects, "cleaning the user's folder warns when it is chosen, 
     CHECK(machine.messages.Shown().size() == 1);
 }
 
-TEST_CASE_FIXTURE(Effects, "scanning all drives leaves none to select") {
+TEST_CASE_FIXTURE(ClickEffects, "scanning all drives leaves none to select") {
     scan.SetValue(1);
     CHECK_FALSE(drives.Enabled());
     scan.SetValue(2);
@@ -185,7 +185,7 @@ TEST_CASE_FIXTURE(Effects, "scanning all drives leaves none to select") {
     CHECK(drives.Enabled());
 }
 
-TEST_CASE_FIXTURE(Effects, "the receive window follows each key typed as the packet size") {
+TEST_CASE_FIXTURE(ClickEffects, "the receive window follows each key typed as the packet size") {
     const std::pair<const char*, const char*> typed[] = {
         {"1", "-156"},        {"15", "-100"}, {"150", "440"},      {"1500", "5840"},
         {"576", "2144"},      {"", "-160"},   {"abc", "-160"},     {"1500 Bytes", "5840"},
@@ -199,7 +199,7 @@ TEST_CASE_FIXTURE(Effects, "the receive window follows each key typed as the pac
     }
 }
 
-TEST_CASE_FIXTURE(Effects, "the receive window follows an item picked from the list") {
+TEST_CASE_FIXTURE(ClickEffects, "the receive window follows an item picked from the list") {
     mtu.AddItem("552");
     mtu.AddItem("1500");
     mtu.SetListIndex(1);
@@ -208,7 +208,7 @@ TEST_CASE_FIXTURE(Effects, "the receive window follows an item picked from the l
     CHECK(rwin.Text() == "2048");
 }
 
-TEST_CASE_FIXTURE(Effects, "the user's own window lasts until the packet size changes") {
+TEST_CASE_FIXTURE(ClickEffects, "the user's own window lasts until the packet size changes") {
     mtu.SetText("1500");
     rwin.SetText("32767");
     mtu.SetText("1500");
@@ -218,13 +218,15 @@ TEST_CASE_FIXTURE(Effects, "the user's own window lasts until the packet size ch
     CHECK(rwin.Text() == "5808");
 }
 
-TEST_CASE_FIXTURE(Effects, "a packet size beyond every number is an overflow of whoever set it") {
+TEST_CASE_FIXTURE(ClickEffects,
+                  "a packet size beyond every number is an overflow of whoever set it") {
     mtu.SetText("1500");
     CHECK(FailureNumber([&] { mtu.SetText("1e999"); }) == runtime::Overflow);
     CHECK(rwin.Text() == "5840");
 }
 
-TEST_CASE_FIXTURE(Effects, "a packet size whose window is beyond every number is an overflow too") {
+TEST_CASE_FIXTURE(ClickEffects,
+                  "a packet size whose window is beyond every number is an overflow too") {
     mtu.SetText("4.49e307");
     CHECK(rwin.Text() == "1,796E+308");
     for (const char* packet : {"4.5e307", "1e308", "-1.7e308"}) {
@@ -236,7 +238,7 @@ TEST_CASE_FIXTURE(Effects, "a packet size whose window is beyond every number is
     CHECK(rwin.Text() == "1,796E+308");
 }
 
-TEST_CASE_FIXTURE(Effects, "a value that stays as it was does nothing") {
+TEST_CASE_FIXTURE(ClickEffects, "a value that stays as it was does nothing") {
     hide.SetValue(0);
     secure.SetValue(0);
     bin.SetValue(0);

@@ -10,12 +10,12 @@
 
 namespace {
 
-struct SystemPage {
+struct SystemPageEffects {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmMain", "", {}};
     platform::OtherWindows::Handle taskbar = machine.windows.Open("Shell_TrayWnd");
 
-    SystemPage() { form.SetLayout(tweaks::AddSystemPage(form, machine.services)); }
+    SystemPageEffects() { form.SetLayout(tweaks::AddSystemPage(form, machine.services)); }
 
     toolkit::Slider& Level() { return form.Find<toolkit::Slider>("Level"); }
     toolkit::TextBox& Box() { return form.Find<toolkit::TextBox>("txtLevelValue"); }
@@ -27,20 +27,21 @@ struct SystemPage {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(SystemPage, "a page that has just been made has touched nothing") {
+TEST_CASE_FIXTURE(SystemPageEffects, "a page that has just been made has touched nothing") {
     CHECK(machine.journal.Count() == 0);
     CHECK(Box().Text() == "255");
     CHECK(Level().Value() == 255);
 }
 
-TEST_CASE_FIXTURE(SystemPage, "a level that is typed is shown, stored and applied") {
+TEST_CASE_FIXTURE(SystemPageEffects, "a level that is typed is shown, stored and applied") {
     Box().SetText("100");
     CHECK(Level().Value() == 100);
     CHECK(Luminance() == "100");
     CHECK(Alpha() == 100);
 }
 
-TEST_CASE_FIXTURE(SystemPage, "a level that is dragged is applied once and goes to the box") {
+TEST_CASE_FIXTURE(SystemPageEffects,
+                  "a level that is dragged is applied once and goes to the box") {
     Level().SetValue(77);
     CHECK(Box().Text() == "77");
     CHECK(Alpha() == 77);
@@ -48,7 +49,7 @@ TEST_CASE_FIXTURE(SystemPage, "a level that is dragged is applied once and goes 
     CHECK(machine.journal.Calls("SaveSetting").size() == 1);
 }
 
-TEST_CASE_FIXTURE(SystemPage, "a box without a number keeps the level") {
+TEST_CASE_FIXTURE(SystemPageEffects, "a box without a number keeps the level") {
     Box().SetText("100");
     machine.journal.Clear();
     Box().SetText("");
@@ -57,7 +58,8 @@ TEST_CASE_FIXTURE(SystemPage, "a box without a number keeps the level") {
     CHECK(machine.journal.Count() == 0);
 }
 
-TEST_CASE_FIXTURE(SystemPage, "a number below 55 or above 255 is neither stored nor applied") {
+TEST_CASE_FIXTURE(SystemPageEffects,
+                  "a number below 55 or above 255 is neither stored nor applied") {
     Box().SetText("200");
     machine.journal.Clear();
     for (const char* text : {"0", "54", "256", "1000", "-100"}) {
@@ -71,7 +73,8 @@ TEST_CASE_FIXTURE(SystemPage, "a number below 55 or above 255 is neither stored 
     CHECK(Box().Text() == "100");
 }
 
-TEST_CASE_FIXTURE(SystemPage, "a level typed digit by digit acts when it is one, and only then") {
+TEST_CASE_FIXTURE(SystemPageEffects,
+                  "a level typed digit by digit acts when it is one, and only then") {
     for (const char* text : {"", "2", "20", "200"}) Box().SetText(text);
     CHECK(machine.journal.Calls("SaveSetting").size() == 1);
     CHECK(Luminance() == "200");
@@ -79,13 +82,13 @@ TEST_CASE_FIXTURE(SystemPage, "a level typed digit by digit acts when it is one,
     CHECK(Box().Text() == "200");
 }
 
-TEST_CASE_FIXTURE(SystemPage, "the designed level given once more does nothing") {
+TEST_CASE_FIXTURE(SystemPageEffects, "the designed level given once more does nothing") {
     Box().SetText("255");
     Level().SetValue(255);
     CHECK(machine.journal.Count() == 0);
 }
 
-TEST_CASE_FIXTURE(SystemPage, "the icons' box acts when its value changes, and only then") {
+TEST_CASE_FIXTURE(SystemPageEffects, "the icons' box acts when its value changes, and only then") {
     auto& icons = form.Find<toolkit::CheckBox>("chkIcons");
     icons.SetValue(1);
     CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "1");
@@ -97,7 +100,8 @@ TEST_CASE_FIXTURE(SystemPage, "the icons' box acts when its value changes, and o
     CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "0");
 }
 
-TEST_CASE_FIXTURE(SystemPage, "the button takes the block and gives it back with each press") {
+TEST_CASE_FIXTURE(SystemPageEffects,
+                  "the button takes the block and gives it back with each press") {
     auto& button = form.Find<controls::chameleonButton>("cmdFreeMemory");
     button.Press();
     button.Press();

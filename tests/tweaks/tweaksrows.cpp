@@ -8,12 +8,7 @@ using namespace tweak_tests;
 
 namespace {
 
-constexpr std::string_view AdvancedKey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced";
-constexpr std::string_view PoliciesKey =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
 constexpr std::string_view TourKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Applets\\Tour";
-constexpr std::string_view IEKey = "Software\\Microsoft\\Internet Explorer\\Main";
 constexpr std::string_view MetricsKey = "Control Panel\\Desktop\\WindowMetrics";
 constexpr std::string_view PreviewKey =
     "SystemFileAssociations\\image\\ShellEx\\ContextMenuHandlers\\ShellImagePreview";

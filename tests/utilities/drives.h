@@ -10,6 +10,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/listview.h"
 #include "utilities/frmvirtualdrive.h"
+#include "utilities/keys.h"
 
 namespace utilities_test {
 
@@ -22,9 +23,8 @@ using Run = platform::simulated::Processes::Run;
 inline constexpr char Output[] = "C:\\tmpout.txt";
 inline constexpr char List[] = "command.com /csubst > tmpout.txt";
 inline constexpr char Impossible[] = "Virtuelles Laufwerk kann nich erstellt werden";
-inline constexpr char Question[] = "Virtuelles Laufwerk löschen";
+inline constexpr char DeleteQuestion[] = "Virtuelles Laufwerk löschen";
 inline constexpr char RunKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
-inline constexpr int KeyDelete = 46;
 inline constexpr int KeyEscape = 27;
 
 // A machine on which `subst` works: the drives that it has made are there and told.

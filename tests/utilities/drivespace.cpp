@@ -12,7 +12,7 @@ using utilities::clsGetDriveSpace;
 
 namespace {
 
-struct Fixture {
+struct DriveSpaceFixture {
     Machine machine;
     const clsGetDriveSpace space{machine.facts, machine.locale};
 
@@ -39,14 +39,16 @@ bool Overflows(const std::string& text) {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "free, total and left are three different numbers of one drive") {
+TEST_CASE_FIXTURE(DriveSpaceFixture,
+                  "free, total and left are three different numbers of one drive") {
     machine.facts.SetSpace('D', {1000, 20003880960, 3000000});
     CHECK(space.UserFree("D:\\") == "1.000");
     CHECK(space.TotalSize("D:\\") == "20.003.880.960");
     CHECK(space.SizeLeft("D:\\") == "3.000.000");
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is used is the total without all that is free, quota or not") {
+TEST_CASE_FIXTURE(DriveSpaceFixture,
+                  "what is used is the total without all that is free, quota or not") {
     machine.facts.SetSpace('D', {1000, 20003880960, 3000000});
     CHECK(space.UsedSize("D:\\") == "20.000.880.960");
     machine.facts.SetSpace('D', {1000, 5000, 5000});
@@ -56,31 +58,32 @@ TEST_CASE_FIXTURE(Fixture, "what is used is the total without all that is free, 
     CHECK(space.UsedSize("D:\\") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "the system is asked for the drive as it was named") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "the system is asked for the drive as it was named") {
     space.UserFree("C:\\");
     CHECK(machine.journal.Lines().size() == 1);
     CHECK(machine.journal.Lines().front().starts_with("GetDiskFreeSpaceExA \"C:\\\" -> "));
 }
 
-TEST_CASE_FIXTURE(Fixture, "numbers below a thousand have no grouping sign") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "numbers below a thousand have no grouping sign") {
     CHECK(TotalOf(1) == "1");
     CHECK(TotalOf(999) == "999");
     CHECK(TotalOf(1000) == "1.000");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a drive of a hundred thousand million bytes and more is grouped on") {
+TEST_CASE_FIXTURE(DriveSpaceFixture,
+                  "a drive of a hundred thousand million bytes and more is grouped on") {
     CHECK(TotalOf(99999999999) == "99.999.999.999");
     CHECK(TotalOf(100000000000) == "100.000.000.000");
     CHECK(TotalOf(2199023255552) == "2.199.023.255.552");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a number has 15 significant digits and zeros behind them") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "a number has 15 significant digits and zeros behind them") {
     CHECK(TotalOf(999999999999999) == "999.999.999.999.999");
     CHECK(TotalOf(1152921504606846976) == "1.152.921.504.606.850.000");
     CHECK(TotalOf(18446744073709551615u) == "18.446.744.073.709.600.000");
 }
 
-TEST_CASE_FIXTURE(Fixture, "the grouping sign is the locale's") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "the grouping sign is the locale's") {
     machine.locale.signs = {".", ","};
     CHECK(TotalOf(1234567) == "1,234,567");
     machine.locale.signs = {",", "\u00A0"};
@@ -89,20 +92,20 @@ TEST_CASE_FIXTURE(Fixture, "the grouping sign is the locale's") {
     CHECK(TotalOf(1234567) == "1234567");
 }
 
-TEST_CASE_FIXTURE(Fixture, "zero bytes are the empty text") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "zero bytes are the empty text") {
     machine.facts.SetSpace('D', {0, 5000, 0});
     CHECK(space.UserFree("D:\\").empty());
     CHECK(space.TotalSize("D:\\") == "5.000");
     CHECK(space.SizeLeft("D:\\").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a drive without a medium is the empty text three times") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "a drive without a medium is the empty text three times") {
     CHECK(space.UserFree("A:\\").empty());
     CHECK(space.TotalSize("A:\\").empty());
     CHECK(space.SizeLeft("A:\\").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a drive that the system does not tell of is the empty text") {
+TEST_CASE_FIXTURE(DriveSpaceFixture, "a drive that the system does not tell of is the empty text") {
     machine.faults.FailAll("GetDiskFreeSpaceExA", 5);
     CHECK(space.TotalSize("C:\\").empty());
     machine.faults.Clear();

@@ -108,7 +108,7 @@ TEST_CASE_FIXTURE(Drives, "a reading that another one overtakes adds no more row
         machine.files.Put(Output, "E:\\: => C:\\\r\n");
     };
     Select(2);
-    machine.messages.Answer(Question, 6);
+    machine.messages.Answer(DeleteQuestion, 6);
     Press("cmddelete");
     CHECK(isOvertaken);
     Lines drives;
@@ -337,13 +337,13 @@ TEST_CASE_FIXTURE(Drives, "the selected drive is removed after a question, by al
     Started();
     Select(1);
     CHECK(Enabled("cmddelete"));
-    machine.messages.Answer(Question, 7);
+    machine.messages.Answer(DeleteQuestion, 7);
     Press("cmddelete");
     CHECK(LastBox() ==
-          ShownMessage{Question,
+          ShownMessage{DeleteQuestion,
                        "Sind Sie sicher das Sie das virtuelle Laufwerk 'F:' löschen wollen?", 36});
     CHECK(Started().empty());
-    machine.messages.AnswerAll(Question, 6);
+    machine.messages.AnswerAll(DeleteQuestion, 6);
     Press("cmddelete");
     CHECK(Started() == Lines{"command.com /csubst F: /d", List});
     CHECK(list.Count() == 2);
@@ -369,7 +369,7 @@ TEST_CASE_FIXTURE(Drives, "the right button enables what acts on the row that it
     CHECK(machine.messages.Shown().empty());
     list.SetSelected(1, true);
     machine.menus.Pick("Laufwerk entfernen");
-    machine.messages.Answer(Question, 6);
+    machine.messages.Answer(DeleteQuestion, 6);
     list.PressRightButton(toolkit::Point{30, 40});
     CHECK(machine.journal.Calls("TrackPopupMenu").back().find(" at 30,40 ") != std::string::npos);
     CHECK(Enabled("cmddelete"));
@@ -391,8 +391,8 @@ TEST_CASE_FIXTURE(Drives, "a list that has emptied during the question disables 
     Make("E:", "C:\\");
     form.Show();
     Select(0);
-    machine.messages.Answer(Question, 6);
-    machine.messages.WhileOpen(Question, [&] {
+    machine.messages.Answer(DeleteQuestion, 6);
+    machine.messages.WhileOpen(DeleteQuestion, [&] {
         list.Clear();
         made["F:"] = "C:\\";
     });

@@ -60,7 +60,7 @@ const std::vector<Expected> Labels = {
     {"lblZertifikatManager", "Zertifikat-Manager", {Opened("certmgr.msc")}},
 };
 
-struct Fixture : LauncherFixture {
+struct LauncherLabelsFixture : LauncherFixture {
     toolkit::Form form{machine.forms, "frmMain", "", {}};
     toolkit::Box box = utilities::AddLauncherLabels(form, launchers);
 
@@ -85,7 +85,7 @@ struct Fixture : LauncherFixture {
 }  // namespace
 
 TEST_CASE("each of the 24 labels has its caption and starts its tool, and nothing else") {
-    Fixture f;
+    LauncherLabelsFixture f;
     REQUIRE(Labels.size() == 24);
     for (const Expected& label : Labels) {
         CAPTURE(label.name);
@@ -105,7 +105,7 @@ TEST_CASE("each of the 24 labels has its caption and starts its tool, and nothin
 }
 
 TEST_CASE("the keyboard reaches each of the labels") {
-    Fixture f;
+    LauncherLabelsFixture f;
     for (const Expected& label : Labels) {
         CAPTURE(label.name);
         CHECK(f.Find(label.name).IsTabStop());
@@ -113,13 +113,13 @@ TEST_CASE("the keyboard reaches each of the labels") {
 }
 
 TEST_CASE("the frame holds the 24 labels and nothing else") {
-    Fixture f;
+    LauncherLabelsFixture f;
     CHECK(f.form.Controls().size() == Labels.size() + 1);
     CHECK(f.form.Find<toolkit::Frame>("fraPrograms").Caption() == "Programme");
 }
 
 TEST_CASE("each label turns red under the mouse and leaves all others black") {
-    Fixture f;
+    LauncherLabelsFixture f;
     for (const Expected& label : Labels) {
         CAPTURE(label.name);
         f.Find(label.name).MouseMoved();
@@ -128,28 +128,28 @@ TEST_CASE("each label turns red under the mouse and leaves all others black") {
 }
 
 TEST_CASE("the first move makes the other labels black, not of the system's colour") {
-    Fixture f;
+    LauncherLabelsFixture f;
     CHECK(f.Find("lblSystem").TextColour() == std::nullopt);
     f.Find("lblCMD").MouseMoved();
     CHECK(f.Find("lblSystem").TextColour() == 0u);
 }
 
 TEST_CASE("a move over the frame takes the red away") {
-    Fixture f;
+    LauncherLabelsFixture f;
     f.Find("lblTaskManager").MouseMoved();
     f.form.Find<toolkit::Frame>("fraPrograms").MouseMoved();
     CHECK(f.AllBlack());
 }
 
 TEST_CASE("resetting the colours makes all labels black") {
-    Fixture f;
+    LauncherLabelsFixture f;
     f.Find("lblZertifikatManager").MouseMoved();
     utilities::ResetLabelColors(f.form);
     CHECK(f.AllBlack());
 }
 
 TEST_CASE("a click does not change the colours") {
-    Fixture f;
+    LauncherLabelsFixture f;
     f.Find("lblCMD").MouseMoved();
     f.Find("lblIndexdienst").Click();
     CHECK(f.RedOnes() == std::vector<std::string>{"lblCMD"});

@@ -11,7 +11,7 @@ using Executed = std::vector<platform::simulated::Shell::Executed>;
 
 namespace {
 
-constexpr char Question[] = "Überprüfung der Windows XP Systemdateien";
+constexpr char CheckQuestion[] = "Überprüfung der Windows XP Systemdateien";
 constexpr int FileNotFound = 53;
 
 }  // namespace
@@ -89,13 +89,13 @@ TEST_CASE("what both ways to a console do would be reported under LoadExternMSC 
 TEST_CASE("the check of the system's files asks for the CD first") {
     LauncherFixture f;
     SUBCASE("and starts nothing after No") {
-        f.machine.messages.Answer(Question, platform::message::No);
+        f.machine.messages.Answer(CheckQuestion, platform::message::No);
         f.launchers.CheckSystemFiles();
         CHECK(f.machine.processes.launched.empty());
         CHECK(f.machine.journal.Calls("GetWindowsDirectoryA").empty());
     }
     SUBCASE("and starts after Yes") {
-        f.machine.messages.Answer(Question, platform::message::Yes);
+        f.machine.messages.Answer(CheckQuestion, platform::message::Yes);
         f.launchers.CheckSystemFiles();
         CHECK(f.machine.processes.launched ==
               Launched{{"C:\\WINDOWS\\System32\\sfc.exe /scannow", 1}});
@@ -103,7 +103,7 @@ TEST_CASE("the check of the system's files asks for the CD first") {
     REQUIRE(f.machine.messages.Shown().size() == 1);
     CHECK(f.machine.messages.Shown().front() ==
           platform::simulated::ShownMessage{
-              Question,
+              CheckQuestion,
               "Für diesen Vorgang benötigen Sie die Windows XP Installations CD\r\n\r\n"
               "Möchten Sie fortfahren?",
               36});
@@ -111,7 +111,7 @@ TEST_CASE("the check of the system's files asks for the CD first") {
 
 TEST_CASE("a check of the system's files that cannot be asked about does not start") {
     LauncherFixture f;
-    f.machine.faults.FailOn(Question, 5);
+    f.machine.faults.FailOn(CheckQuestion, 5);
     f.launchers.CheckSystemFiles();
     CHECK(f.machine.processes.launched.empty());
 }

@@ -11,7 +11,7 @@ using Lines = std::vector<std::string>;
 
 namespace {
 
-struct Fixture {
+struct DirDialogFixture {
     platform::simulated::Machine machine;
     toolkit::Form owner{machine.forms, "frmOwner", "Fenster", {}};
 
@@ -22,7 +22,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "the dialog belongs to its owner and has title and flags") {
+TEST_CASE_FIXTURE(DirDialogFixture, "the dialog belongs to its owner and has title and flags") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         CHECK(dialog.title == "Ordner wählen");
         return false;
@@ -32,7 +32,8 @@ TEST_CASE_FIXTURE(Fixture, "the dialog belongs to its owner and has title and fl
           "SHBrowseForFolderA frmOwner \"Ordner wählen\" 0x07 -> \"\"");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a cancelled dialog gives the empty text, whatever was selected") {
+TEST_CASE_FIXTURE(DirDialogFixture,
+                  "a cancelled dialog gives the empty text, whatever was selected") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         dialog.Select("D:\\Daten");
         return false;
@@ -40,12 +41,13 @@ TEST_CASE_FIXTURE(Fixture, "a cancelled dialog gives the empty text, whatever wa
     CHECK(Browse("C:\\Programme").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a dialog closed with OK at once gives the preselected folder") {
+TEST_CASE_FIXTURE(DirDialogFixture,
+                  "a dialog closed with OK at once gives the preselected folder") {
     machine.shell.WhenBrowsing([](FolderDialog&) { return true; });
     CHECK(Browse("C:\\Programme") == "C:\\Programme");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a dialog closed with OK gives the folder selected last") {
+TEST_CASE_FIXTURE(DirDialogFixture, "a dialog closed with OK gives the folder selected last") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         dialog.Select("D:\\Daten");
         dialog.Select("D:\\Größe");
@@ -54,7 +56,7 @@ TEST_CASE_FIXTURE(Fixture, "a dialog closed with OK gives the folder selected la
     CHECK(Browse("C:\\Programme") == "D:\\Größe");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(DirDialogFixture,
                   "the preselected folder is told when the dialog is there, and only then") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         dialog.Select("D:\\Daten");
@@ -66,7 +68,7 @@ TEST_CASE_FIXTURE(Fixture,
                                                          "SendMessageA 0x464 \"D:\\Daten\""});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the path of each selected folder is shown below the title") {
+TEST_CASE_FIXTURE(DirDialogFixture, "the path of each selected folder is shown below the title") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         CHECK(dialog.status == "C:\\Programme");
         dialog.Select("D:\\Daten");
@@ -76,7 +78,7 @@ TEST_CASE_FIXTURE(Fixture, "the path of each selected folder is shown below the 
     Browse("C:\\Programme");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a place without a path leaves the status as it is") {
+TEST_CASE_FIXTURE(DirDialogFixture, "a place without a path leaves the status as it is") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         dialog.Select("D:\\Daten");
         dialog.Select(std::nullopt);
@@ -86,7 +88,7 @@ TEST_CASE_FIXTURE(Fixture, "a place without a path leaves the status as it is") 
     CHECK(Browse("").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "without a folder to preselect nothing is selected") {
+TEST_CASE_FIXTURE(DirDialogFixture, "without a folder to preselect nothing is selected") {
     machine.shell.WhenBrowsing([](FolderDialog& dialog) {
         CHECK(dialog.SelectedPath() == std::nullopt);
         CHECK(dialog.status.empty());
@@ -95,14 +97,14 @@ TEST_CASE_FIXTURE(Fixture, "without a folder to preselect nothing is selected") 
     CHECK(Browse("").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "two dialogs one after the other know nothing of each other") {
+TEST_CASE_FIXTURE(DirDialogFixture, "two dialogs one after the other know nothing of each other") {
     machine.shell.WhenBrowsing([](FolderDialog&) { return true; });
     machine.shell.WhenBrowsing([](FolderDialog&) { return true; });
     CHECK(Browse("C:\\Programme") == "C:\\Programme");
     CHECK(Browse("").empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "a dialog that the system cannot show counts as cancelled") {
+TEST_CASE_FIXTURE(DirDialogFixture, "a dialog that the system cannot show counts as cancelled") {
     machine.faults.FailAll("SHBrowseForFolderA", 5);
     CHECK(Browse("C:\\Programme").empty());
 }

@@ -13,10 +13,10 @@ namespace {
 
 constexpr auto Path = "C:\\Temp\\a.tmp";
 
-struct Fixture {
+struct ShellKillFixture {
     Machine machine;
 
-    Fixture() { machine.files.Put(Path, "x"); }
+    ShellKillFixture() { machine.files.Put(Path, "x"); }
 
     int NumberOf(std::string_view path) {
         try {
@@ -30,37 +30,39 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a free file is not locked and is closed again") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a free file is not locked and is closed again") {
     CHECK_FALSE(FileIsLocked(machine.files, Path));
     CHECK(machine.journal.Lines() ==
           Lines{"OpenForReading \"C:\\Temp\\a.tmp\" -> #1", "CloseFile #1"});
     CHECK(machine.files.OpenHandles() == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that another program has to itself is locked") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a file that another program has to itself is locked") {
     machine.files.Hold(Path);
     CHECK(FileIsLocked(machine.files, Path));
     CHECK(machine.files.OpenHandles() == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that the program itself reads is locked until it is closed") {
+TEST_CASE_FIXTURE(ShellKillFixture,
+                  "a file that the program itself reads is locked until it is closed") {
     const auto file = machine.files.OpenForReading(Path);
     CHECK(FileIsLocked(machine.files, Path));
     machine.files.Close(file);
     CHECK_FALSE(FileIsLocked(machine.files, Path));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that is not there is no locked file but a failure") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a file that is not there is no locked file but a failure") {
     CHECK(NumberOf("C:\\Temp\\b.tmp") == runtime::FileNotFound);
     CHECK(NumberOf("D:\\a.tmp") == runtime::PathNotFound);
     CHECK(NumberOf("") == runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a directory is no locked file but a failure") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a directory is no locked file but a failure") {
     CHECK(NumberOf("C:\\Temp") == runtime::PathFileAccess);
 }
 
-TEST_CASE_FIXTURE(Fixture, "only denied permission counts as locked, every other failure passes") {
+TEST_CASE_FIXTURE(ShellKillFixture,
+                  "only denied permission counts as locked, every other failure passes") {
     machine.faults.FailAll("OpenForReading", runtime::PermissionDenied);
     CHECK(FileIsLocked(machine.files, Path));
     for (int number : {5, 52, 53, 69, 71, 75, 76}) {
@@ -69,34 +71,35 @@ TEST_CASE_FIXTURE(Fixture, "only denied permission counts as locked, every other
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failure of the closing counts like one of the opening") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a failure of the closing counts like one of the opening") {
     machine.faults.FailAll("CloseFile", runtime::PermissionDenied);
     CHECK(FileIsLocked(machine.files, Path));
     machine.faults.FailAll("CloseFile", runtime::InvalidProcedureCall);
     CHECK(NumberOf(Path) == runtime::InvalidProcedureCall);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a silent deletion asks nothing and goes to the recycle bin") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a silent deletion asks nothing and goes to the recycle bin") {
     CHECK(ShellDeleteFile(machine.shell, Path, true));
     CHECK(machine.journal.Lines() == Lines{"SHFileOperationA 3 \"C:\\Temp\\a.tmp\" 0x54 -> 0"});
     CHECK(machine.files.Content(Path) == std::nullopt);
     CHECK(machine.shell.recycleBin == Lines{Path});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a deletion that is not silent lets the system ask") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a deletion that is not silent lets the system ask") {
     CHECK(ShellDeleteFile(machine.shell, Path, false));
     CHECK(machine.journal.Lines() == Lines{"SHFileOperationA 3 \"C:\\Temp\\a.tmp\" 0x44 -> 0"});
     CHECK(machine.shell.recycleBin == Lines{Path});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a directory is deleted with all in it") {
+TEST_CASE_FIXTURE(ShellKillFixture, "a directory is deleted with all in it") {
     machine.files.Put("C:\\Temp\\sub\\b.tmp", "y");
     CHECK(ShellDeleteFile(machine.shell, "C:\\Temp\\sub", true));
     CHECK(machine.files.Content("C:\\Temp\\sub\\b.tmp") == std::nullopt);
     CHECK(machine.files.Content(Path) == "x");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a deletion that the system refuses gives false and no failure") {
+TEST_CASE_FIXTURE(ShellKillFixture,
+                  "a deletion that the system refuses gives false and no failure") {
     CHECK_FALSE(ShellDeleteFile(machine.shell, "C:\\Temp\\b.tmp", true));
     machine.files.Hold(Path);
     CHECK_FALSE(ShellDeleteFile(machine.shell, Path, true));

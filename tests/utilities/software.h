@@ -9,6 +9,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/listview.h"
 #include "utilities/frminstalledsoftware.h"
+#include "utilities/keys.h"
 
 namespace utilities_test {
 
@@ -22,8 +23,6 @@ using Run = platform::simulated::Processes::Run;
 
 inline constexpr char UninstallKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 inline constexpr char CannotStart[] = "Fehler beim deinstallieren aufgetreten";
-inline constexpr int KeyDelete = 46;
-inline constexpr int KeyF5 = 116;
 
 // A machine with software and the dialog that lists it.
 struct Software {

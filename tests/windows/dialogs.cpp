@@ -21,8 +21,8 @@ namespace {
 const char UninstallKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
 // A machine in memory whose windows are real ones, with something to show in every list.
-struct Fixture {
-    Fixture() {
+struct DialogsFixture {
+    DialogsFixture() {
         simulated.journal.Record(false);
         for (const std::string name : {"Anwendung", "Öffner"}) {
             for (const char* value : {"DisplayName", "UninstallString"}) {
@@ -63,30 +63,30 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a thousand about boxes leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand about boxes leave nothing behind") {
     LeavesNothing<controls::frmAbout>(std::string("2.3.0.8"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand first warnings leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand first warnings leave nothing behind") {
     LeavesNothing<controls::frmFirstInfo>();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand questions for the password leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand questions for the password leave nothing behind") {
     LeavesNothing<controls::frmPassword>();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand reports on the system leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand reports on the system leave nothing behind") {
     LeavesNothing<utilities::frmSystemInformation>();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand lists of users leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand lists of users leave nothing behind") {
     LeavesNothing<utilities::frmShowAllLoggedInUsers>();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand lists of software leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand lists of software leave nothing behind") {
     LeavesNothing<utilities::frmInstalledSoftware>();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a thousand lists of virtual drives leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "a thousand lists of virtual drives leave nothing behind") {
     LeavesNothing<utilities::frmVirtualDrive>();
 }

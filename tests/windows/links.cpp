@@ -26,7 +26,7 @@ LRESULT CALLBACK NoteRelease(int code, WPARAM wParam, LPARAM lParam) {
 
 // A page of a box, two links and a box in a frame; a page with a box; one with nothing for the
 // keyboard.
-struct Pages {
+struct LinkPages {
     Desk desk;
     TestForm form{desk.host, "frmMain"};
     toolkit::TabStrip& tabs =
@@ -43,7 +43,7 @@ struct Pages {
     PlainButton& outside = form.Add<PlainButton>("cmdOutside", "Knopf");
     std::vector<std::string> heard;
 
-    Pages() {
+    LinkPages() {
         first.onClick = [this] { heard.emplace_back("first"); };
         second.onClick = [this] { heard.emplace_back("second"); };
         tabs.onClick = [this] { heard.emplace_back("page"); };
@@ -96,7 +96,7 @@ std::vector<COLORREF> PictureOf(HWND window) {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Pages, "the tabulator reaches the first of the links and then what follows") {
+TEST_CASE_FIXTURE(LinkPages, "the tabulator reaches the first of the links and then what follows") {
     Focus("chkBefore");
     Press(VK_TAB);
     CHECK(Focused() == "lblFirst");
@@ -108,7 +108,7 @@ TEST_CASE_FIXTURE(Pages, "the tabulator reaches the first of the links and then 
     CHECK(Focused() == "chkBefore");
 }
 
-TEST_CASE_FIXTURE(Pages, "the arrow keys walk through the links and stay among them") {
+TEST_CASE_FIXTURE(LinkPages, "the arrow keys walk through the links and stay among them") {
     Focus("lblFirst");
     Press(VK_DOWN);
     CHECK(Focused() == "lblSecond");
@@ -142,7 +142,7 @@ TEST_CASE("the arrow keys lead from one check box to the next, the way they poin
     CHECK(press(VK_RIGHT) == "chkTwo");
 }
 
-TEST_CASE_FIXTURE(Pages, "Space and Return click the link that has the focus, and no other") {
+TEST_CASE_FIXTURE(LinkPages, "Space and Return click the link that has the focus, and no other") {
     form.defaultButton = &outside;
     Focus("lblSecond");
     SUBCASE("Space") {
@@ -156,7 +156,7 @@ TEST_CASE_FIXTURE(Pages, "Space and Return click the link that has the focus, an
     CHECK(Focused() == "lblSecond");
 }
 
-TEST_CASE_FIXTURE(Pages, "a key that is held clicks a link once") {
+TEST_CASE_FIXTURE(LinkPages, "a key that is held clicks a link once") {
     Focus("lblFirst");
     for (int i = 0; i < 3; ++i) {
         const LPARAM again = i > 0 ? static_cast<LPARAM>(1u << 30) : 0;
@@ -165,7 +165,7 @@ TEST_CASE_FIXTURE(Pages, "a key that is held clicks a link once") {
     CHECK(heard == Words{"first"});
 }
 
-TEST_CASE_FIXTURE(Pages, "a link may unload its form by the keyboard") {
+TEST_CASE_FIXTURE(LinkPages, "a link may unload its form by the keyboard") {
     first.onClick = [this] { form.Unload(); };
     Focus("lblFirst");
     Press(VK_SPACE);
@@ -173,7 +173,7 @@ TEST_CASE_FIXTURE(Pages, "a link may unload its form by the keyboard") {
 }
 
 TEST_CASE_FIXTURE(
-    Pages, "a link wears a rectangle as long as it has the focus, and the mouse gives none") {
+    LinkPages, "a link wears a rectangle as long as it has the focus, and the mouse gives none") {
     const HWND link = Window("lblFirst");
     const auto bare = PictureOf(link);
     SendMessageW(link, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
@@ -190,7 +190,7 @@ TEST_CASE_FIXTURE(
     CHECK(PictureOf(link) == bare);
 }
 
-TEST_CASE_FIXTURE(Pages, "a link that had the focus has it again when its window comes back") {
+TEST_CASE_FIXTURE(LinkPages, "a link that had the focus has it again when its window comes back") {
     Focus("lblSecond");
     TestForm dialog(desk.host, "frmDialog");
     dialog.Add<toolkit::TextBox>("txtDialog");
@@ -201,7 +201,7 @@ TEST_CASE_FIXTURE(Pages, "a link that had the focus has it again when its window
     CHECK(Focused() == "lblSecond");
 }
 
-TEST_CASE_FIXTURE(Pages,
+TEST_CASE_FIXTURE(LinkPages,
                   "Strg+Tab turns to the next page and begins there, as a click would tell it") {
     Focus("chkAfter");
     Press(VK_TAB, {VK_CONTROL});
@@ -212,7 +212,8 @@ TEST_CASE_FIXTURE(Pages,
     CHECK(heard == Words{"page"});
 }
 
-TEST_CASE_FIXTURE(Pages, "Strg+Umschalt+Tab turns back, and after the last page comes the first") {
+TEST_CASE_FIXTURE(LinkPages,
+                  "Strg+Umschalt+Tab turns back, and after the last page comes the first") {
     Focus("chkBefore");
     Press(VK_TAB, {VK_CONTROL, VK_SHIFT});
     CHECK(tabs.Tab() == 2);
@@ -222,7 +223,7 @@ TEST_CASE_FIXTURE(Pages, "Strg+Umschalt+Tab turns back, and after the last page 
     CHECK(heard == Words{"page", "page"});
 }
 
-TEST_CASE_FIXTURE(Pages,
+TEST_CASE_FIXTURE(LinkPages,
                   "a page turned by the mouse or the program takes no focus along that is hidden") {
     Focus("chkBefore");
     SUBCASE("the mouse") {
@@ -241,7 +242,7 @@ TEST_CASE_FIXTURE(Pages,
     CHECK(before.Value() == 0);
 }
 
-TEST_CASE_FIXTURE(Pages, "turning the page leaves the focus on what stands outside the pages") {
+TEST_CASE_FIXTURE(LinkPages, "turning the page leaves the focus on what stands outside the pages") {
     for (const char* name : {"tabs", "cmdOutside"}) {
         Focus(name);
         Press(VK_TAB, {VK_CONTROL});
@@ -250,7 +251,7 @@ TEST_CASE_FIXTURE(Pages, "turning the page leaves the focus on what stands outsi
     CHECK(tabs.Tab() == 2);
 }
 
-TEST_CASE_FIXTURE(Pages, "a strip that is disabled is not turned") {
+TEST_CASE_FIXTURE(LinkPages, "a strip that is disabled is not turned") {
     Focus("chkBefore");
     tabs.SetEnabled(false);
     Press(VK_TAB, {VK_CONTROL});
@@ -258,7 +259,7 @@ TEST_CASE_FIXTURE(Pages, "a strip that is disabled is not turned") {
     CHECK(Focused() == "chkBefore");
 }
 
-TEST_CASE_FIXTURE(Pages, "an event of the turning may unload the form") {
+TEST_CASE_FIXTURE(LinkPages, "an event of the turning may unload the form") {
     tabs.onClick = [this] { form.Unload(); };
     Focus("chkBefore");
     Press(VK_TAB, {VK_CONTROL});

@@ -14,7 +14,7 @@ using namespace windows;
 namespace {
 
 // A page with a frame, in it a label that listens and one that does not, and a label beside it.
-struct Fixture {
+struct MouseFixture {
     Desk desk;
     TestForm form{desk.host, "frmMain"};
     toolkit::TabStrip& tabs = form.Add<toolkit::TabStrip>("tabs", std::vector<std::string>{"Eins"});
@@ -24,7 +24,7 @@ struct Fixture {
     toolkit::Label& outside = form.Add<toolkit::Label>("lblOutside", "Außen");
     std::vector<std::string> heard;
 
-    Fixture() {
+    MouseFixture() {
         const auto note = [this](const char* what) {
             return [this, what] { heard.push_back(what); };
         };
@@ -67,7 +67,7 @@ bool HasColour(HWND window, COLORREF wanted) {
 }  // namespace
 
 TEST_CASE("the mouse is heard by the label that listens, else by the frame or page behind it") {
-    Fixture f;
+    MouseFixture f;
     CHECK(f.HitAt("lblLink", 2, 2) == f.Window("lblLink"));
     CHECK(f.HitAt("lblPlain", 2, 2) == f.Window("fra"));
     CHECK(f.HitAt("fra", 30, 50) == f.Window("fra"));
@@ -75,7 +75,7 @@ TEST_CASE("the mouse is heard by the label that listens, else by the frame or pa
 }
 
 TEST_CASE("a move over the label, the frame, the page or the form reaches just that one") {
-    Fixture f;
+    MouseFixture f;
     f.Move(f.Window("lblLink"));
     CHECK(f.heard == std::vector<std::string>{"link"});
     f.Move(f.Window("fra"));
@@ -129,7 +129,7 @@ TEST_CASE("a frame to which nobody listens lets the mouse through to its page") 
 }
 
 TEST_CASE("a label is pressed by the mouse, by a script's click and by its notification") {
-    Fixture f;
+    MouseFixture f;
     const HWND label = f.Window("lblLink");
     SUBCASE("the mouse") {
         SendMessageW(label, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
@@ -153,7 +153,7 @@ TEST_CASE("a label is pressed by the mouse, by a script's click and by its notif
 }
 
 TEST_CASE("a press on a frame takes the focus from nobody") {
-    Fixture f;
+    MouseFixture f;
     const HWND before = GetFocus();
     SendMessageW(f.Window("fra"), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(30, 50));
     SendMessageW(f.Window("fra"), WM_LBUTTONUP, 0, MAKELPARAM(30, 50));
@@ -163,14 +163,14 @@ TEST_CASE("a press on a frame takes the focus from nobody") {
 }
 
 TEST_CASE("a label's click that fails ends in the default message") {
-    Fixture f;
+    MouseFixture f;
     f.link.onClick = [] { throw runtime::Failure(runtime::Overflow); };
     SendMessageW(f.Window("lblLink"), BM_CLICK, 0, 0);
     CHECK(f.desk.messages.texts.size() == 1);
 }
 
 TEST_CASE("a label's click may unload its form") {
-    Fixture f;
+    MouseFixture f;
     f.link.onClick = [&] { f.form.Unload(); };
     SUBCASE("by a script") {
         SendMessageW(f.Window("lblLink"), BM_CLICK, 0, 0);
@@ -182,7 +182,7 @@ TEST_CASE("a label's click may unload its form") {
 }
 
 TEST_CASE("a label is drawn in its colour, and in the system's before it has one") {
-    Fixture f;
+    MouseFixture f;
     const HWND label = f.Window("lblLink");
     CHECK_FALSE(HasColour(label, RGB(255, 0, 0)));
     CHECK(HasColour(label, GetSysColor(COLOR_WINDOWTEXT)));
@@ -208,7 +208,7 @@ struct DarkWindows {
 }  // namespace
 
 TEST_CASE("a label's colour that cannot be read on dark windows gives way to the system's") {
-    Fixture f;
+    MouseFixture f;
     const HWND label = f.Window("lblLink");
     f.link.SetTextColour(toolkit::Black);
     const DarkWindows dark;

@@ -13,10 +13,10 @@ using namespace windows;
 namespace {
 
 // Frames around controls and beside each other, and what else grows with the window.
-struct Fixture : Desk {
+struct ResizingFixture : Desk {
     TestForm form{host, "frmMain"};
 
-    Fixture() {
+    ResizingFixture() {
         form.isDialog = false;
         auto& tabs =
             form.Add<toolkit::TabStrip>("SSTab1", std::vector<std::string>{"Eins", "Zwei"});
@@ -70,7 +70,7 @@ struct Fixture : Desk {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a window of another size leaves nothing of the one before") {
+TEST_CASE_FIXTURE(ResizingFixture, "a window of another size leaves nothing of the one before") {
     const auto before = Picture();
     SUBCASE("larger") {
         Resize(640, 420);

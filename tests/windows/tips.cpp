@@ -13,14 +13,14 @@ using namespace windows;
 
 namespace {
 
-struct Search {
+struct TipSearch {
     HWND control = nullptr;
     int windows = 0;
     std::string text;
 };
 
-BOOL CALLBACK Look(HWND window, LPARAM lParam) {
-    auto* search = reinterpret_cast<Search*>(lParam);
+BOOL CALLBACK LookForTip(HWND window, LPARAM lParam) {
+    auto* search = reinterpret_cast<TipSearch*>(lParam);
     wchar_t name[64] = L"";
     GetClassNameW(window, name, 64);
     if (std::wstring(name) != TOOLTIPS_CLASSW) return TRUE;
@@ -38,14 +38,14 @@ BOOL CALLBACK Look(HWND window, LPARAM lParam) {
 }
 
 // The tooltip windows of this process, and what they have for the control.
-Search Tips(HWND control = nullptr) {
-    Search search;
+TipSearch Tips(HWND control = nullptr) {
+    TipSearch search;
     search.control = control;
-    EnumThreadWindows(GetCurrentThreadId(), Look, reinterpret_cast<LPARAM>(&search));
+    EnumThreadWindows(GetCurrentThreadId(), LookForTip, reinterpret_cast<LPARAM>(&search));
     return search;
 }
 
-struct Fixture {
+struct TipsFixture {
     Desk desk;
     TestForm form{desk.host, "frmMain"};
     toolkit::CheckBox& box = form.Add<toolkit::CheckBox>("chk", "Kasten");
@@ -70,12 +70,12 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a control without a tip makes no tooltip window") {
+TEST_CASE_FIXTURE(TipsFixture, "a control without a tip makes no tooltip window") {
     Show();
     CHECK(Tips().windows == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tip makes no tooltip window before the mouse comes") {
+TEST_CASE_FIXTURE(TipsFixture, "a tip makes no tooltip window before the mouse comes") {
     box.SetToolTip("Größe");
     Show();
     path.SetToolTip("C:\\eins");
@@ -84,7 +84,7 @@ TEST_CASE_FIXTURE(Fixture, "a tip makes no tooltip window before the mouse comes
     CHECK(Tips().windows == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(TipsFixture,
                   "a drawn button offers its tip, also where it shows a pointer of its own") {
     Show();
     button.SetHandPointer(true);
@@ -92,14 +92,16 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(TipOf("cmd") == "Knopf");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tip set before the form is loaded is told to the mouse that comes") {
+TEST_CASE_FIXTURE(TipsFixture,
+                  "a tip set before the form is loaded is told to the mouse that comes") {
     box.SetToolTip("Größe & Länge");
     Show();
     CHECK(TipOf("chk") == "Größe & Länge");
     CHECK(TipOf("txt") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tip follows the control, in the same window, and goes when empty") {
+TEST_CASE_FIXTURE(TipsFixture,
+                  "a tip follows the control, in the same window, and goes when empty") {
     Show();
     path.SetToolTip("C:\\eins");
     CHECK(TipOf("lbl") == "C:\\eins");
@@ -110,7 +112,7 @@ TEST_CASE_FIXTURE(Fixture, "a tip follows the control, in the same window, and g
     CHECK(Tips().windows == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tip that is being read follows the control") {
+TEST_CASE_FIXTURE(TipsFixture, "a tip that is being read follows the control") {
     path.SetToolTip("C:\\eins");
     Show();
     RealMouse mouse;
@@ -127,14 +129,15 @@ TEST_CASE_FIXTURE(Fixture, "a tip that is being read follows the control") {
     CHECK(shown() == "C:\\zwei");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a label of the style Path sees the mouse, for its tip") {
+TEST_CASE_FIXTURE(TipsFixture, "a label of the style Path sees the mouse, for its tip") {
     Show();
     POINT point{2, 2};
     ClientToScreen(desk.Find(form, "lbl"), &point);
     CHECK(WindowFromPoint(point) == desk.Find(form, "lbl"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a path that is cut is told whole by its label, one that fits is not") {
+TEST_CASE_FIXTURE(TipsFixture,
+                  "a path that is cut is told whole by its label, one that fits is not") {
     Show();
     CHECK(TipOf("lbl") == "");
     const std::string longPath = "C:\\Tom & Jerry\\" + std::string(100, 'x');
@@ -148,7 +151,7 @@ TEST_CASE_FIXTURE(Fixture, "a path that is cut is told whole by its label, one t
     CHECK(TipOf("lbl") == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "tips go with their form, also of controls that watch their keys") {
+TEST_CASE_FIXTURE(TipsFixture, "tips go with their form, also of controls that watch their keys") {
     text.onKeyPress = [](char16_t&) {};
     text.SetToolTip("Text");
     box.SetToolTip("Kasten");
@@ -162,7 +165,8 @@ TEST_CASE_FIXTURE(Fixture, "tips go with their form, also of controls that watch
     CHECK(Tips().windows == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "the host tells the number of a control's window while there is one") {
+TEST_CASE_FIXTURE(TipsFixture,
+                  "the host tells the number of a control's window while there is one") {
     CHECK(desk.host.HandleOf(box) == 0);
     Show();
     CHECK(desk.host.HandleOf(box) == reinterpret_cast<std::uintptr_t>(desk.Find(form, "chk")));

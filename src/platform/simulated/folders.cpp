@@ -13,7 +13,7 @@ namespace {
 // The search for what is in a folder adds a backslash and an asterisk.
 constexpr std::size_t ListLimit = 258;
 
-FolderEntry Told(const DiskNode& node) {
+FolderEntry EntryOf(const DiskNode& node) {
     return {node.name, node.attributes, node.IsFolder() ? 0 : node.Size(), node.modified};
 }
 
@@ -34,7 +34,7 @@ std::vector<FolderEntry> Folders::List(std::string_view path) {
     if (!folder || !folder->IsFolder()) ThrowFault(journal_, line, runtime::PathNotFound);
     if (folder->unreadable) ThrowFault(journal_, line, runtime::PermissionDenied);
     std::vector<FolderEntry> entries;
-    for (const auto& node : folder->children) entries.push_back(Told(*node));
+    for (const auto& node : folder->children) entries.push_back(EntryOf(*node));
     journal_.Finish(line, [&] { return std::to_string(entries.size()); });
     if (afterListing) afterListing(std::string(path));
     return entries;
@@ -46,7 +46,7 @@ std::optional<FolderEntry> Folders::Find(std::string_view path) const {
         faults_.Check("GetFileAttributesExW", path) ? nullptr : disk_.Find(path, Disk::Last::Keep);
     journal_.Finish(line, [&] { return node ? Hex(node->attributes) : std::string("nothing"); });
     if (!node) return std::nullopt;
-    FolderEntry entry = Told(*node);
+    FolderEntry entry = EntryOf(*node);
     entry.name = path;
     return entry;
 }

@@ -13,7 +13,7 @@ namespace platform::simulated {
 namespace {
 
 // The name and then the captions, with a stroke for each separator.
-std::string Wording(const toolkit::PopupMenu& menu) {
+std::string MenuWording(const toolkit::PopupMenu& menu) {
     std::string text = "TrackPopupMenu " + menu.name;
     for (const toolkit::MenuItem& item : menu.items) {
         text += item.IsSeparator() ? " -" : " " + Quoted(item.caption);
@@ -27,7 +27,7 @@ std::string Wording(const toolkit::PopupMenu& menu) {
 }  // namespace
 
 const toolkit::MenuItem* Menus::Choose(const toolkit::PopupMenu& menu) {
-    const auto line = journal_.Note([&] { return Wording(menu); });
+    const auto line = journal_.Note([&] { return MenuWording(menu); });
     const toolkit::MenuItem* picked = nullptr;
     if (!open_ && !faults_.Check("TrackPopupMenu", menu.name)) picked = Picked(menu);
     journal_.Finish(line, [&] { return picked ? picked->name : std::string("nothing"); });

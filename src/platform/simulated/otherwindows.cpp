@@ -19,7 +19,7 @@ constexpr std::uint32_t KeepPlace = 0x02;
 constexpr std::uint32_t ShowIt = 0x40;
 constexpr std::uint32_t HideIt = 0x80;
 
-std::string Number(OtherWindows::Handle window) {
+std::string WindowNumber(OtherWindows::Handle window) {
     return "#" + std::to_string(window);
 }
 
@@ -29,7 +29,7 @@ OtherWindows::Handle OtherWindows::Find(const std::string& className, const char
     const Handle found = faults_.Check("FindWindowA", className) ? 0 : Topmost(0, className, title);
     journal_.Note([&] {
         return "FindWindowA " + Quoted(className) + (title ? " " + Quoted(title) : "") + " -> " +
-               Number(found);
+               WindowNumber(found);
     });
     return found;
 }
@@ -39,7 +39,8 @@ OtherWindows::Handle OtherWindows::FindChild(Handle parent, const std::string& c
     const bool fails = faults_.Check("FindWindowExA", className) || parent == 0;
     const Handle found = fails ? 0 : Topmost(parent, className, nullptr);
     journal_.Note([&] {
-        return "FindWindowExA " + Number(parent) + " " + Quoted(className) + " -> " + Number(found);
+        return "FindWindowExA " + WindowNumber(parent) + " " + Quoted(className) + " -> " +
+               WindowNumber(found);
     });
     return found;
 }
@@ -48,13 +49,13 @@ std::uint32_t OtherWindows::ExtendedStyle(Handle window) const {
     const Window* asked = Fault("GetWindowLongA", window) ? nullptr : Existing(window);
     const std::uint32_t style = asked ? asked->extendedStyle : 0;
     journal_.Note(
-        [&] { return "GetWindowLongA " + Number(window) + " GWL_EXSTYLE -> " + Hex(style); });
+        [&] { return "GetWindowLongA " + WindowNumber(window) + " GWL_EXSTYLE -> " + Hex(style); });
     return style;
 }
 
 void OtherWindows::SetExtendedStyle(Handle window, std::uint32_t style) {
     journal_.Note(
-        [&] { return "SetWindowLongA " + Number(window) + " GWL_EXSTYLE " + Hex(style); });
+        [&] { return "SetWindowLongA " + WindowNumber(window) + " GWL_EXSTYLE " + Hex(style); });
     if (Fault("SetWindowLongA", window)) return;
     if (Window* changed = Existing(window)) changed->extendedStyle = style;
 }
@@ -62,7 +63,7 @@ void OtherWindows::SetExtendedStyle(Handle window, std::uint32_t style) {
 void OtherWindows::SetLayeredAttributes(Handle window, std::uint32_t colourKey, std::uint8_t alpha,
                                         std::uint32_t flags) {
     journal_.Note([&] {
-        return "SetLayeredWindowAttributes " + Number(window) + " key " + Hex(colourKey) +
+        return "SetLayeredWindowAttributes " + WindowNumber(window) + " key " + Hex(colourKey) +
                " alpha " + std::to_string(alpha) + " flags " + Hex(flags);
     });
     if (Fault("SetLayeredWindowAttributes", window)) return;
@@ -73,8 +74,8 @@ void OtherWindows::SetLayeredAttributes(Handle window, std::uint32_t colourKey, 
 std::int32_t OtherWindows::Send(Handle window, std::uint32_t message, std::uint32_t wParam,
                                 std::uint32_t lParam) {
     journal_.Note([&] {
-        return "SendMessageA " + Number(window) + " " + Hex(message) + " " + Hex(wParam) + " " +
-               Hex(lParam);
+        return "SendMessageA " + WindowNumber(window) + " " + Hex(message) + " " + Hex(wParam) +
+               " " + Hex(lParam);
     });
     if (Fault("SendMessageA", window)) return 0;
     Window* receiver = Existing(window);
@@ -86,7 +87,7 @@ std::int32_t OtherWindows::Send(Handle window, std::uint32_t message, std::uint3
 void OtherWindows::SetPosition(Handle window, Handle after, const toolkit::Rect& place,
                                std::uint32_t flags) {
     journal_.Note([&] {
-        return "SetWindowPos " + Number(window) + " after " + std::to_string(after) + " at " +
+        return "SetWindowPos " + WindowNumber(window) + " after " + std::to_string(after) + " at " +
                std::to_string(place.left) + "," + std::to_string(place.top) + " size " +
                std::to_string(place.width) + "x" + std::to_string(place.height) + " flags " +
                Hex(flags);
@@ -107,7 +108,7 @@ void OtherWindows::SetPosition(Handle window, Handle after, const toolkit::Rect&
 }
 
 void OtherWindows::Redraw(Handle window) {
-    journal_.Note([&] { return "InvalidateRect " + Number(window) + " erase"; });
+    journal_.Note([&] { return "InvalidateRect " + WindowNumber(window) + " erase"; });
     if (Fault("InvalidateRect", window)) return;
     if (Window* drawn = Existing(window)) ++drawn->redraws;
 }

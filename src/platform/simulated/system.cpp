@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t BufferSize = 255;
 
 // A text that the system does not tell, or that does not fit, is "".
-std::string Told(Journal& journal, Faults& faults, const char* call, const std::string& text) {
+std::string ToldText(Journal& journal, Faults& faults, const char* call, const std::string& text) {
     bool fits = ToWesternBytes(text).size() < BufferSize;
     std::string told = faults.Check(call, "") || !fits ? "" : text;
     journal.Note([&] { return call + (" -> " + Quoted(told)); });
@@ -33,19 +33,19 @@ OperatingSystemFacts OperatingSystem::Facts() const {
 }
 
 std::string SystemFacts::WindowsDirectory() const {
-    return Told(journal_, faults_, "GetWindowsDirectoryA", windowsDirectory);
+    return ToldText(journal_, faults_, "GetWindowsDirectoryA", windowsDirectory);
 }
 
 std::string SystemFacts::SystemDirectory() const {
-    return Told(journal_, faults_, "GetSystemDirectoryA", systemDirectory);
+    return ToldText(journal_, faults_, "GetSystemDirectoryA", systemDirectory);
 }
 
 std::string SystemFacts::TempPath() const {
-    return Told(journal_, faults_, "GetTempPathA", tempPath);
+    return ToldText(journal_, faults_, "GetTempPathA", tempPath);
 }
 
 std::string SystemFacts::UserName() const {
-    return Told(journal_, faults_, "GetUserNameA", userName);
+    return ToldText(journal_, faults_, "GetUserNameA", userName);
 }
 
 std::string SystemFacts::ExpandEnvironment(std::string_view text) const {

@@ -8,8 +8,8 @@ namespace {
 
 // What the system does not tell is no value.
 template <typename Fact>
-std::optional<Fact> Told(Journal& journal, Faults& faults, std::string call, const Fact& fact,
-                         std::string_view subject = "") {
+std::optional<Fact> ToldFact(Journal& journal, Faults& faults, std::string call, const Fact& fact,
+                             std::string_view subject = "") {
     journal.Note([&] { return subject.empty() ? call : call + ' ' + Quoted(subject); });
     if (faults.Check(call, subject)) return std::nullopt;
     return fact;
@@ -18,37 +18,37 @@ std::optional<Fact> Told(Journal& journal, Faults& faults, std::string call, con
 }  // namespace
 
 std::optional<std::string> SystemInformation::ServicePack() const {
-    return Told(journal_, faults_, "GetVersionExA", servicePack);
+    return ToldFact(journal_, faults_, "GetVersionExA", servicePack);
 }
 
 std::optional<int> SystemInformation::ProcessorCount() const {
-    return Told(journal_, faults_, "GetSystemInfo", processorCount);
+    return ToldFact(journal_, faults_, "GetSystemInfo", processorCount);
 }
 
 std::optional<PhysicalMemory> SystemInformation::Memory() const {
-    return Told(journal_, faults_, "GlobalMemoryStatusEx", memory);
+    return ToldFact(journal_, faults_, "GlobalMemoryStatusEx", memory);
 }
 
 std::vector<Drive> SystemInformation::Drives() const {
-    return Told(journal_, faults_, "GetLogicalDrives", drives).value_or(std::vector<Drive>{});
+    return ToldFact(journal_, faults_, "GetLogicalDrives", drives).value_or(std::vector<Drive>{});
 }
 
 Volume SystemInformation::VolumeOn(std::string_view root) const {
     const auto found = volumes.find(root);
     const Volume volume = found == volumes.end() ? Volume{} : found->second;
     const Volume named =
-        Told(journal_, faults_, "GetVolumeInformationA", volume, root).value_or(Volume{});
+        ToldFact(journal_, faults_, "GetVolumeInformationA", volume, root).value_or(Volume{});
     const Volume space =
-        Told(journal_, faults_, "GetDiskFreeSpaceExA", volume, root).value_or(Volume{});
+        ToldFact(journal_, faults_, "GetDiskFreeSpaceExA", volume, root).value_or(Volume{});
     return {named.fileSystem, space.size, space.free, named.label};
 }
 
 std::optional<ScreenFormat> SystemInformation::MainScreen() const {
-    return Told(journal_, faults_, "GetDeviceCaps", screen);
+    return ToldFact(journal_, faults_, "GetDeviceCaps", screen);
 }
 
 std::optional<std::string> SystemInformation::ComputerName() const {
-    return Told(journal_, faults_, "GetComputerNameA", computerName);
+    return ToldFact(journal_, faults_, "GetComputerNameA", computerName);
 }
 
 }  // namespace platform::simulated

@@ -26,11 +26,11 @@ enum Message : std::uint32_t {
 // Which of the delays.
 constexpr std::uintptr_t AutoPop = 2;
 
-std::string Number(ToolTips::Handle handle) {
+std::string HandleNumber(ToolTips::Handle handle) {
     return "#" + std::to_string(handle);
 }
 
-std::string Wording(const TipTool& tool) {
+std::string ToolWording(const TipTool& tool) {
     std::string text = "size " + std::to_string(tool.cbSize) + " flags " +
                        std::to_string(tool.uFlags) + " window " + std::to_string(tool.hwnd) +
                        " id " + std::to_string(tool.uId) + " rect";
@@ -57,13 +57,13 @@ ToolTips::Handle ToolTips::Create(std::uint32_t extendedStyle, std::uint32_t sty
     if (made) windows_[made].style = style;
     journal_.Note([&] {
         return "CreateWindowExA " + Quoted(WindowClass) + " ex " + Hex(extendedStyle) + " style " +
-               Hex(style) + " -> " + Number(made);
+               Hex(style) + " -> " + HandleNumber(made);
     });
     return made;
 }
 
 void ToolTips::Destroy(Handle window) {
-    journal_.Note([&] { return "DestroyWindow " + Number(window); });
+    journal_.Note([&] { return "DestroyWindow " + HandleNumber(window); });
     if (!Fails("DestroyWindow")) windows_.erase(window);
 }
 
@@ -72,12 +72,13 @@ std::uint32_t ToolTips::WindowStyle(Handle window) const {
     const bool answers = found != windows_.end() && !Fails("GetWindowLongA");
     const std::uint32_t style = answers ? found->second.style : 0;
     journal_.Note(
-        [&] { return "GetWindowLongA " + Number(window) + " GWL_STYLE -> " + Hex(style); });
+        [&] { return "GetWindowLongA " + HandleNumber(window) + " GWL_STYLE -> " + Hex(style); });
     return style;
 }
 
 void ToolTips::SetWindowStyle(Handle window, std::uint32_t style) {
-    journal_.Note([&] { return "SetWindowLongA " + Number(window) + " GWL_STYLE " + Hex(style); });
+    journal_.Note(
+        [&] { return "SetWindowLongA " + HandleNumber(window) + " GWL_STYLE " + Hex(style); });
     Window* changed = Existing(window);
     if (changed && !Fails("SetWindowLongA")) changed->style = style;
 }
@@ -85,7 +86,7 @@ void ToolTips::SetWindowStyle(Handle window, std::uint32_t style) {
 void ToolTips::Send(Handle window, std::uint32_t message, std::uintptr_t wParam,
                     std::uintptr_t lParam) {
     journal_.Note([&] {
-        return "SendMessageA " + Number(window) + ' ' + std::to_string(message) + ' ' +
+        return "SendMessageA " + HandleNumber(window) + ' ' + std::to_string(message) + ' ' +
                std::to_string(wParam) + ' ' + std::to_string(lParam);
     });
     Window* told = Existing(window);
@@ -101,8 +102,8 @@ void ToolTips::Send(Handle window, std::uint32_t message, std::uintptr_t wParam,
 
 void ToolTips::SendTool(Handle window, std::uint32_t message, TipTool& tool, const char* text) {
     journal_.Note([&] {
-        return "SendMessageA " + Number(window) + ' ' + std::to_string(message) + ' ' +
-               Wording(tool) + (text ? ' ' + Quoted(text) : "");
+        return "SendMessageA " + HandleNumber(window) + ' ' + std::to_string(message) + ' ' +
+               ToolWording(tool) + (text ? ' ' + Quoted(text) : "");
     });
     Window* told = Existing(window);
     if (!told || Fails("SendMessageA")) return;
@@ -132,13 +133,13 @@ ToolTips::Handle ToolTips::MakeFont(std::int32_t height, const TipFont& font) {
         return "CreateFontIndirectA " + Quoted(font.name) + " height " + std::to_string(height) +
                " weight " + std::to_string(font.weight) + (font.italic ? " italic" : "") +
                (font.underline ? " underline" : "") + (font.strikethrough ? " strikeout" : "") +
-               " -> " + Number(made);
+               " -> " + HandleNumber(made);
     });
     return made;
 }
 
 void ToolTips::DeleteFont(Handle font) {
-    journal_.Note([&] { return "DeleteObject " + Number(font); });
+    journal_.Note([&] { return "DeleteObject " + HandleNumber(font); });
     if (!Fails("DeleteObject")) fonts_.erase(font);
 }
 

@@ -63,9 +63,9 @@ class Automation {
     bool ready_;
 };
 
-class Window final : public BrowserWindow {
+class DocumentWindow final : public BrowserWindow {
   public:
-    explicit Window(const wchar_t* programId) {
+    explicit DocumentWindow(const wchar_t* programId) {
         CLSID wanted;
         void* made = nullptr;
         if (FAILED(CLSIDFromProgID(programId, &wanted)) ||
@@ -110,7 +110,7 @@ class Window final : public BrowserWindow {
 }  // namespace
 
 std::unique_ptr<BrowserWindow> Browser::CreateInternetExplorer() {
-    return std::make_unique<Window>(programId_.c_str());
+    return std::make_unique<DocumentWindow>(programId_.c_str());
 }
 
 }  // namespace platform::win32

@@ -8,7 +8,7 @@ namespace platform::win32 {
 
 namespace {
 
-runtime::Failure FailureOf(DWORD error) {
+runtime::Failure FileFailure(DWORD error) {
     switch (error) {
         case ERROR_FILE_NOT_FOUND:
             return runtime::Failure(runtime::FileNotFound);
@@ -32,7 +32,7 @@ FileHandle OpenOutput(std::string_view path, DWORD access, DWORD disposition) {
     if (file) return file;
     const DWORD error = GetLastError();
     // So what is missing is a directory or the drive.
-    throw FailureOf(error == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : error);
+    throw FileFailure(error == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : error);
 }
 
 // `sharing` is what others may do with the file meanwhile.
@@ -43,13 +43,13 @@ FileHandle OpenInput(std::string_view path, DWORD sharing) {
     const DWORD error = GetLastError();
     // Only here is a missing right told apart from a file that is in use.
     throw error == ERROR_ACCESS_DENIED ? runtime::Failure(runtime::PathFileAccess)
-                                       : FailureOf(error);
+                                       : FileFailure(error);
 }
 
 void WriteAll(const FileHandle& file, std::string_view bytes) {
     DWORD written = 0;
     if (!WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr)) {
-        throw FailureOf(GetLastError());
+        throw FileFailure(GetLastError());
     }
 }
 
@@ -87,7 +87,7 @@ std::string Files::Read(std::string_view path) {
     DWORD length = 0;
     do {
         if (!ReadFile(file.Get(), piece, sizeof piece, &length, nullptr)) {
-            throw FailureOf(GetLastError());
+            throw FileFailure(GetLastError());
         }
         content.append(piece, length);
     } while (length > 0);
@@ -115,7 +115,7 @@ void Files::Remove(std::string_view path, bool force) {
         error = GetLastError();
     }
     if (force && isProtected) SetFileAttributesW(wide.c_str(), attributes);
-    throw FailureOf(error);
+    throw FileFailure(error);
 }
 
 void Files::WriteText(std::string_view path, std::string_view bytes) {

@@ -59,7 +59,7 @@ bool IsDots(const wchar_t* name) {
 }
 
 // What is not there, in all words that Windows has for it, apart from what is refused.
-runtime::Failure FailureOf(DWORD error) {
+runtime::Failure FolderFailure(DWORD error) {
     const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
                            error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME ||
                            error == ERROR_FILENAME_EXCED_RANGE || error == ERROR_BAD_PATHNAME ||
@@ -84,13 +84,13 @@ std::vector<FolderEntry> Folders::List(std::string_view path) {
     if (!search) {
         // The root of an empty drive has not even dots in it.
         if (GetLastError() == ERROR_FILE_NOT_FOUND && Find(path)) return entries;
-        throw FailureOf(GetLastError());
+        throw FolderFailure(GetLastError());
     }
     do {
         if (!IsDots(data.cFileName))
             entries.push_back(ToEntry(FromWide(data.cFileName), data, clock));
     } while (FindNextFileW(search.Get(), &data));
-    if (GetLastError() != ERROR_NO_MORE_FILES) throw FailureOf(GetLastError());
+    if (GetLastError() != ERROR_NO_MORE_FILES) throw FolderFailure(GetLastError());
     return entries;
 }
 
@@ -113,7 +113,7 @@ std::string Folders::FullPath(std::string_view path) const {
 
 void Folders::MakeCurrent(std::string_view path) {
     const NoMediumBox quiet;
-    if (!SetCurrentDirectoryW(ToWide(path).c_str())) throw FailureOf(GetLastError());
+    if (!SetCurrentDirectoryW(ToWide(path).c_str())) throw FolderFailure(GetLastError());
 }
 
 std::string Folders::ShortPath(std::string_view path, std::size_t room) const {
@@ -147,7 +147,8 @@ void Folders::Remove(std::string_view path, bool force) {
         error = GetLastError();
         SetFileAttributesW(wide.c_str(), attributes);
     }
-    throw error == ERROR_DIRECTORY ? runtime::Failure(runtime::PermissionDenied) : FailureOf(error);
+    throw error == ERROR_DIRECTORY ? runtime::Failure(runtime::PermissionDenied)
+                                   : FolderFailure(error);
 }
 
 }  // namespace platform::win32

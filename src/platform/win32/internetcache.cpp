@@ -24,7 +24,7 @@ Info* At(InternetCache::Address block) {
     return reinterpret_cast<Info*>(block);
 }
 
-HANDLE HandleOf(InternetCache::Handle search) {
+HANDLE SearchOf(InternetCache::Handle search) {
     return reinterpret_cast<HANDLE>(search);
 }
 
@@ -42,13 +42,13 @@ std::uint32_t InternetCache::FindFirst(const char* pattern, Address block, std::
 
 bool InternetCache::FindNext(Handle search, Address block, std::uint32_t& size) {
     DWORD bytes = size;
-    const bool found = FindNextUrlCacheEntryA(HandleOf(search), At(block), &bytes);
+    const bool found = FindNextUrlCacheEntryA(SearchOf(search), At(block), &bytes);
     size = bytes;
     return found;
 }
 
 void InternetCache::CloseSearch(Handle search) {
-    FindCloseUrlCache(HandleOf(search));
+    FindCloseUrlCache(SearchOf(search));
 }
 
 void InternetCache::Remove(std::string_view url) {

@@ -26,7 +26,7 @@ SYSTEMTIME SystemTime(const LocalTime& time) {
     return result;
 }
 
-std::string TimeOfDay(const LocalTime& time, DWORD flags) {
+std::string TimeText(const LocalTime& time, DWORD flags) {
     const SYSTEMTIME moment = SystemTime(time);
     wchar_t buffer[80] = {};
     GetTimeFormatW(LOCALE_USER_DEFAULT, flags, &moment, nullptr, buffer, 80);
@@ -52,11 +52,11 @@ std::string Locale::ShortDate(const LocalTime& time) const {
 }
 
 std::string Locale::LongTime(const LocalTime& time) const {
-    return TimeOfDay(time, 0);
+    return TimeText(time, 0);
 }
 
 std::string Locale::ShortTime(const LocalTime& time) const {
-    return TimeOfDay(time, TIME_NOSECONDS);
+    return TimeText(time, TIME_NOSECONDS);
 }
 
 std::string Locale::GermanDate(const LocalTime& time) const {

@@ -14,7 +14,7 @@ namespace {
 
 static_assert(TipTool::RecordSize == offsetof(TTTOOLINFOA, lParam));
 
-HWND Window(ToolTips::Handle handle) {
+HWND HwndOf(ToolTips::Handle handle) {
     return reinterpret_cast<HWND>(handle);
 }
 
@@ -40,20 +40,20 @@ ToolTips::Handle ToolTips::Create(std::uint32_t extendedStyle, std::uint32_t sty
 }
 
 void ToolTips::Destroy(Handle window) {
-    DestroyWindow(Window(window));
+    DestroyWindow(HwndOf(window));
 }
 
 std::uint32_t ToolTips::WindowStyle(Handle window) const {
-    return static_cast<std::uint32_t>(GetWindowLongA(Window(window), GWL_STYLE));
+    return static_cast<std::uint32_t>(GetWindowLongA(HwndOf(window), GWL_STYLE));
 }
 
 void ToolTips::SetWindowStyle(Handle window, std::uint32_t style) {
-    SetWindowLongA(Window(window), GWL_STYLE, static_cast<LONG>(style));
+    SetWindowLongA(HwndOf(window), GWL_STYLE, static_cast<LONG>(style));
 }
 
 void ToolTips::Send(Handle window, std::uint32_t message, std::uintptr_t wParam,
                     std::uintptr_t lParam) {
-    SendMessageA(Window(window), message, wParam, static_cast<LPARAM>(lParam));
+    SendMessageA(HwndOf(window), message, wParam, static_cast<LPARAM>(lParam));
 }
 
 void ToolTips::SendTool(Handle window, std::uint32_t message, TipTool& tool, const char* text) {
@@ -61,11 +61,11 @@ void ToolTips::SendTool(Handle window, std::uint32_t message, TipTool& tool, con
     TTTOOLINFOA record = {};
     record.cbSize = tool.cbSize;
     record.uFlags = tool.uFlags;
-    record.hwnd = Window(tool.hwnd);
+    record.hwnd = HwndOf(tool.hwnd);
     record.uId = tool.uId;
     record.rect = {tool.left, tool.top, tool.right, tool.bottom};
     record.lpszText = text ? ansi.data() : nullptr;
-    SendMessageA(Window(window), message, 0, reinterpret_cast<LPARAM>(&record));
+    SendMessageA(HwndOf(window), message, 0, reinterpret_cast<LPARAM>(&record));
     tool.uFlags = record.uFlags;
     tool.left = record.rect.left;
     tool.top = record.rect.top;
@@ -77,7 +77,7 @@ void ToolTips::SendTool(Handle window, std::uint32_t message, TipTool& tool, con
     if (const HWND field = FindWindowExA(record.hwnd, nullptr, WC_EDITA, nullptr)) {
         record.hwnd = field;
         record.uId = reinterpret_cast<UINT_PTR>(field);
-        SendMessageA(Window(window), message, 0, reinterpret_cast<LPARAM>(&record));
+        SendMessageA(HwndOf(window), message, 0, reinterpret_cast<LPARAM>(&record));
     }
 }
 

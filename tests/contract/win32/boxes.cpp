@@ -10,7 +10,7 @@ namespace {
 constexpr int TextId = 0xFFFF;
 
 // A timer procedure is told of no object, so the one that lives is kept here.
-BoxAnswerer* current = nullptr;
+BoxAnswerer* currentAnswerer = nullptr;
 
 std::string TextOf(HWND window) {
     wchar_t buffer[1024] = {};
@@ -21,16 +21,16 @@ std::string TextOf(HWND window) {
 }  // namespace
 
 BoxAnswerer::BoxAnswerer(int answer) : answer_(answer), timer_(SetTimer(nullptr, 0, 20, Look)) {
-    current = this;
+    currentAnswerer = this;
 }
 
 BoxAnswerer::~BoxAnswerer() {
     KillTimer(nullptr, timer_);
-    current = nullptr;
+    currentAnswerer = nullptr;
 }
 
 void CALLBACK BoxAnswerer::Look(HWND, UINT, UINT_PTR, DWORD) {
-    EnumThreadWindows(GetCurrentThreadId(), Found, reinterpret_cast<LPARAM>(current));
+    EnumThreadWindows(GetCurrentThreadId(), Found, reinterpret_cast<LPARAM>(currentAnswerer));
 }
 
 BOOL CALLBACK BoxAnswerer::Found(HWND window, LPARAM parameter) {

@@ -13,7 +13,7 @@
 
 namespace {
 
-struct Fixture {
+struct WindowsEventGuardFixture {
     contract::TestMachine machine;
     contract::BoxAnswerer user{platform::message::Ok};
 
@@ -24,21 +24,23 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "an event that goes well shows nothing") {
+TEST_CASE_FIXTURE(WindowsEventGuardFixture, "an event that goes well shows nothing") {
     bool ran = false;
     Run([&] { ran = true; });
     CHECK(ran);
     CHECK(user.boxes == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failure that nobody caught becomes the platform's message") {
+TEST_CASE_FIXTURE(WindowsEventGuardFixture,
+                  "a failure that nobody caught becomes the platform's message") {
     Run([] { throw runtime::Failure(9, "Beschreibung", "Quelle"); });
     CHECK(user.boxes == 1);
     CHECK(user.title == "Quillmore");
     CHECK(user.text == "Laufzeitfehler '9':\r\n\r\nBeschreibung");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a lack of memory is failure 7, any other mistake failure 5") {
+TEST_CASE_FIXTURE(WindowsEventGuardFixture,
+                  "a lack of memory is failure 7, any other mistake failure 5") {
     Run([] { throw std::bad_alloc(); });
     CHECK(user.text == "Laufzeitfehler '7':\r\n\r\n" + runtime::DescriptionOf(7));
     Run([] { throw std::logic_error("no such control"); });
@@ -46,7 +48,8 @@ TEST_CASE_FIXTURE(Fixture, "a lack of memory is failure 7, any other mistake fai
     CHECK(user.boxes == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a tick that fails shows its message and the timer goes on") {
+TEST_CASE_FIXTURE(WindowsEventGuardFixture,
+                  "a tick that fails shows its message and the timer goes on") {
     auto& clock = machine.Services().clock;
     int ticks = 0;
     const auto timer = clock.StartTimer(20, [&] {

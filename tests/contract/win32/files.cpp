@@ -14,7 +14,7 @@ namespace {
 
 namespace win32 = platform::win32;
 
-struct Fixture {
+struct WindowsFilesFixture {
     contract::TestMachine machine;
     platform::Files& files = machine.Services().files;
 
@@ -30,17 +30,19 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a directory or drive that is not there is a path not found") {
+TEST_CASE_FIXTURE(WindowsFilesFixture,
+                  "a directory or drive that is not there is a path not found") {
     CHECK(NumberOf(machine.FilePath("absent\\file.log")) == runtime::PathNotFound);
     CHECK(NumberOf("Q:\\file.log") == runtime::PathNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a directory cannot be opened as a file") {
+TEST_CASE_FIXTURE(WindowsFilesFixture, "a directory cannot be opened as a file") {
     CHECK(NumberOf(machine.FilePath("")) == runtime::PermissionDenied);
     CHECK(NumberOf(machine.Services().program.Directory()) == runtime::PermissionDenied);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that another program holds is refused until it lets go") {
+TEST_CASE_FIXTURE(WindowsFilesFixture,
+                  "a file that another program holds is refused until it lets go") {
     const std::string path = machine.FilePath("held.log");
     {
         const win32::FileHandle held(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ, 0,
@@ -51,11 +53,11 @@ TEST_CASE_FIXTURE(Fixture, "a file that another program holds is refused until i
     CHECK(NumberOf(path) == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a name that no file can have is an invalid call") {
+TEST_CASE_FIXTURE(WindowsFilesFixture, "a name that no file can have is an invalid call") {
     CHECK(NumberOf(machine.FilePath("a?b*c.log")) == runtime::InvalidProcedureCall);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that is open here cannot be written by others") {
+TEST_CASE_FIXTURE(WindowsFilesFixture, "a file that is open here cannot be written by others") {
     const std::string path = machine.FilePath("open.log");
     const auto file = files.OpenForAppend(path);
     const win32::FileHandle second(CreateFileW(win32::ToWide(path).c_str(), GENERIC_WRITE,

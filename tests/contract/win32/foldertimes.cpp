@@ -9,7 +9,7 @@
 
 namespace {
 
-FILETIME Moment(WORD year, WORD month, WORD day) {
+FILETIME DayTime(WORD year, WORD month, WORD day) {
     const SYSTEMTIME parts = {year, month, 0, day, 12, 34, 56, 0};
     FILETIME moment{};
     SystemTimeToFileTime(&parts, &moment);
@@ -33,7 +33,7 @@ TEST_CASE("a file's time is told as the system converts it, in summer, in winter
     const std::wstring file = folder + L"\\a";
     CreateDirectoryW(folder.c_str(), nullptr);
     for (const FILETIME& moment :
-         {Moment(2004, 7, 1), Moment(2004, 1, 1), Moment(1980, 1, 1), Moment(2099, 12, 31)}) {
+         {DayTime(2004, 7, 1), DayTime(2004, 1, 1), DayTime(1980, 1, 1), DayTime(2099, 12, 31)}) {
         {
             const platform::win32::FileHandle made(
                 CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));

@@ -10,7 +10,7 @@ namespace {
 constexpr int MessageBoxText = 0xFFFF;
 
 // A timer procedure is told of no object, so the one that lives is kept here.
-FolderUser* current = nullptr;
+FolderUser* currentFolderUser = nullptr;
 
 std::wstring ClassOf(HWND window) {
     wchar_t name[32] = {};
@@ -20,17 +20,17 @@ std::wstring ClassOf(HWND window) {
 }  // namespace
 
 FolderUser::FolderUser(bool ok) : ok_(ok), timer_(SetTimer(nullptr, 0, 50, Look)) {
-    current = this;
+    currentFolderUser = this;
 }
 
 FolderUser::~FolderUser() {
     KillTimer(nullptr, timer_);
-    current = nullptr;
+    currentFolderUser = nullptr;
 }
 
 void CALLBACK FolderUser::Look(HWND, UINT, UINT_PTR, DWORD) {
-    if (current && current->dialogs == 0) {
-        EnumThreadWindows(GetCurrentThreadId(), Found, reinterpret_cast<LPARAM>(current));
+    if (currentFolderUser && currentFolderUser->dialogs == 0) {
+        EnumThreadWindows(GetCurrentThreadId(), Found, reinterpret_cast<LPARAM>(currentFolderUser));
     }
 }
 

@@ -21,13 +21,13 @@ struct NumberTraits {
 
 using Number = platform::win32::Owned<NumberTraits>;
 
-struct Fixture {
-    Fixture() { closed.clear(); }
+struct WindowsHandleFixture {
+    WindowsHandleFixture() { closed.clear(); }
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "what is owned is given back once, at the end") {
+TEST_CASE_FIXTURE(WindowsHandleFixture, "what is owned is given back once, at the end") {
     {
         const Number number(1);
         CHECK(number);
@@ -36,7 +36,7 @@ TEST_CASE_FIXTURE(Fixture, "what is owned is given back once, at the end") {
     CHECK(closed == std::vector{1});
 }
 
-TEST_CASE_FIXTURE(Fixture, "the value that stands for none is never given back") {
+TEST_CASE_FIXTURE(WindowsHandleFixture, "the value that stands for none is never given back") {
     { const Number none; }
     { const Number none(-1); }
     Number none;
@@ -47,7 +47,7 @@ TEST_CASE_FIXTURE(Fixture, "the value that stands for none is never given back")
     CHECK(closed == std::vector{0});
 }
 
-TEST_CASE_FIXTURE(Fixture, "moving hands over, assigning gives back what was held") {
+TEST_CASE_FIXTURE(WindowsHandleFixture, "moving hands over, assigning gives back what was held") {
     Number first(1);
     Number second(std::move(first));
     CHECK(closed.empty());
@@ -62,7 +62,7 @@ TEST_CASE_FIXTURE(Fixture, "moving hands over, assigning gives back what was hel
     CHECK(closed == std::vector{3});
 }
 
-TEST_CASE_FIXTURE(Fixture, "closing early tells of success and closes once") {
+TEST_CASE_FIXTURE(WindowsHandleFixture, "closing early tells of success and closes once") {
     Number good(1);
     CHECK(good.Close());
     CHECK_FALSE(good.Close());
@@ -71,7 +71,8 @@ TEST_CASE_FIXTURE(Fixture, "closing early tells of success and closes once") {
     CHECK(closed == std::vector{1, 13});
 }
 
-TEST_CASE_FIXTURE(Fixture, "releasing keeps the handle open, a call that fills in replaces it") {
+TEST_CASE_FIXTURE(WindowsHandleFixture,
+                  "releasing keeps the handle open, a call that fills in replaces it") {
     Number number(1);
     CHECK(number.Release() == 1);
     CHECK(closed.empty());

@@ -34,7 +34,7 @@ class SmallMemory final : public platform::Memory {
     contract::TestMachine& machine_;
 };
 
-struct Fixture {
+struct WindowsMemoryReleaseFixture {
     contract::TestMachine machine;
     SmallMemory memory{machine};
 
@@ -45,7 +45,8 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "what the program holds rises by the block and falls back") {
+TEST_CASE_FIXTURE(WindowsMemoryReleaseFixture,
+                  "what the program holds rises by the block and falls back") {
     constexpr double bytes = 40000000;
     for (int press = 1; press <= 2; ++press) {
         CAPTURE(press);
@@ -57,7 +58,7 @@ TEST_CASE_FIXTURE(Fixture, "what the program holds rises by the block and falls 
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "a system that refuses the block is left in peace") {
+TEST_CASE_FIXTURE(WindowsMemoryReleaseFixture, "a system that refuses the block is left in peace") {
     memory.refuses = true;
     CHECK_NOTHROW(Release());
     CHECK(memory.asked == 20000000);

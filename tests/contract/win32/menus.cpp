@@ -59,7 +59,7 @@ class OtherWindow {
     platform::win32::KernelHandle thread_;
 };
 
-std::wstring ClassOf(HWND window) {
+std::wstring ClassOfWindow(HWND window) {
     wchar_t name[64] = {};
     GetClassNameW(window, name, 64);
     return name;
@@ -91,7 +91,7 @@ TEST_CASE("while a menu is open the program is in front, so that a click elsewhe
     HWND front = nullptr;
     contract::MenuUser user("Größe", [&] { front = GetForegroundWindow(); });
     menus.Choose(TestMenu);
-    CHECK(ClassOf(front) == L"QuillmoreHidden");
+    CHECK(ClassOfWindow(front) == L"QuillmoreHidden");
 }
 
 TEST_CASE("a menu is followed by a message of its own and leaves no handle behind") {
@@ -123,7 +123,7 @@ TEST_CASE("after a menu whoever was in front before is there again") {
         HWND front = nullptr;
         contract::MenuUser user(item, [&] { front = GetForegroundWindow(); });
         menus.Choose(TestMenu);
-        CHECK(ClassOf(front) == L"QuillmoreHidden");
+        CHECK(ClassOfWindow(front) == L"QuillmoreHidden");
         CHECK(ComesToFront(other.window));
     }
 }

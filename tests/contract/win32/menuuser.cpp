@@ -12,7 +12,7 @@ namespace {
 constexpr UINT GetMenuHandle = 0x01E1;
 
 // A timer procedure is told of no object, so the one that lives is kept here.
-MenuUser* current = nullptr;
+MenuUser* currentMenuUser = nullptr;
 
 std::string CaptionAt(HMENU menu, int place) {
     wchar_t text[256] = {};
@@ -48,18 +48,19 @@ MenuUser::MenuUser(std::string caption, std::function<void()> whileOpen)
     : caption_(std::move(caption)),
       whileOpen_(std::move(whileOpen)),
       timer_(SetTimer(nullptr, 0, 20, Look)) {
-    current = this;
+    currentMenuUser = this;
 }
 
 MenuUser::~MenuUser() {
     KillTimer(nullptr, timer_);
-    current = nullptr;
+    currentMenuUser = nullptr;
 }
 
 void CALLBACK MenuUser::Look(HWND, UINT, UINT_PTR, DWORD) {
     const HWND window = FindWindowW(L"#32768", nullptr);
     const bool own = GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
-    if (current && current->menus == 0 && own && IsWindowVisible(window)) current->Use(window);
+    if (currentMenuUser && currentMenuUser->menus == 0 && own && IsWindowVisible(window))
+        currentMenuUser->Use(window);
 }
 
 void MenuUser::Use(HWND window) {

@@ -17,26 +17,26 @@ using platform::win32::Network;
 // Stands for a call that Wine does not have.
 constexpr DWORD NoSuchFunction = 0x80000100;
 
-std::wstring asked;
+std::wstring askedServer;
 TIME_OF_DAY_INFO told = {};
-DWORD answer = 0;
-void* given = nullptr;
-void* freed = nullptr;
+DWORD timeAnswer = 0;
+void* givenTime = nullptr;
+void* freedTime = nullptr;
 int frees = 0;
 
 DWORD WINAPI AskTime(LPCWSTR server, LPBYTE* buffer) {
-    asked = server;
+    askedServer = server;
     *buffer = nullptr;
-    if (answer != 0) return answer;
-    NetApiBufferAllocate(sizeof told, &given);
-    *buffer = static_cast<BYTE*>(given);
-    *reinterpret_cast<TIME_OF_DAY_INFO*>(given) = told;
+    if (timeAnswer != 0) return timeAnswer;
+    NetApiBufferAllocate(sizeof told, &givenTime);
+    *buffer = static_cast<BYTE*>(givenTime);
+    *reinterpret_cast<TIME_OF_DAY_INFO*>(givenTime) = told;
     return 0;
 }
 
-DWORD WINAPI Free(LPVOID buffer) {
+DWORD WINAPI FreeTimeOfDay(LPVOID buffer) {
     ++frees;
-    freed = buffer;
+    freedTime = buffer;
     return NetApiBufferFree(buffer);
 }
 
@@ -53,12 +53,12 @@ DWORD WINAPI AskConnections(RASCONNA* records, LPDWORD size, LPDWORD count) {
     return connections > 1 ? TooSmall : 0;
 }
 
-struct Fixture {
-    Network network{AskTime, Free, AskConnections};
+struct WindowsNetworkFixture {
+    Network network{AskTime, FreeTimeOfDay, AskConnections};
 
-    Fixture() {
-        asked = L"?";
-        answer = 0;
+    WindowsNetworkFixture() {
+        askedServer = L"?";
+        timeAnswer = 0;
         frees = 0;
         connections = 0;
         told = {.tod_elapsedt = 1,
@@ -93,7 +93,8 @@ DWORD WINAPI AskReally(void* time) {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "what a computer tells is taken from its record, which is given back") {
+TEST_CASE_FIXTURE(WindowsNetworkFixture,
+                  "what a computer tells is taken from its record, which is givenTime back") {
     CHECK(network.RemoteTimeOfDay("\\\\Büro-Süd") == TimeOfDay{.hours = 23,
                                                                .minutes = 59,
                                                                .seconds = 58,
@@ -101,20 +102,20 @@ TEST_CASE_FIXTURE(Fixture, "what a computer tells is taken from its record, whic
                                                                .day = 31,
                                                                .month = 12,
                                                                .year = 2004});
-    CHECK((asked == L"\\\\B\u00FCro-S\u00FCd"));
+    CHECK((askedServer == L"\\\\B\u00FCro-S\u00FCd"));
     CHECK(frees == 1);
-    CHECK(freed == given);
+    CHECK(freedTime == givenTime);
 }
 
-TEST_CASE_FIXTURE(Fixture, "this computer is asked by an empty name") {
+TEST_CASE_FIXTURE(WindowsNetworkFixture, "this computer is askedServer by an empty name") {
     CHECK(network.RemoteTimeOfDay(""));
-    CHECK(asked.empty());
+    CHECK(askedServer.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(WindowsNetworkFixture,
                   "a computer that answers with a code tells nothing and gives no record") {
     for (DWORD code : {5u, 50u, 53u, 1722u}) {
-        answer = code;
+        timeAnswer = code;
         CHECK_FALSE(network.RemoteTimeOfDay("\\\\niemand"));
     }
     CHECK(frees == 0);
@@ -141,7 +142,8 @@ TEST_CASE("the real call tells this computer's time, or the system has no such c
     CHECK(std::abs(static_cast<int>(time.minutes) - now.wMinute) % 59 <= 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "dial-up connections are asked for with one record of 412 bytes") {
+TEST_CASE_FIXTURE(WindowsNetworkFixture,
+                  "dial-up connections are askedServer for with one record of 412 bytes") {
     for (const DWORD there : {0u, 1u, 2u}) {
         connections = there;
         std::uint32_t count = 7;
@@ -152,7 +154,7 @@ TEST_CASE_FIXTURE(Fixture, "dial-up connections are asked for with one record of
     }
 }
 
-TEST_CASE("the system can be asked for its dial-up connections and has none here") {
+TEST_CASE("the system can be askedServer for its dial-up connections and has none here") {
     std::uint32_t count = 7;
     CHECK(Network().CountDialUpConnections(count) == 0);
     CHECK(count == 0);

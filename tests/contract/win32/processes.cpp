@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr platform::Processes::StartupInfo Hidden{66, 1, 0};
+constexpr platform::Processes::StartupInfo HiddenStart{66, 1, 0};
 
 HANDLE Native(platform::Processes::Handle process) {
     return reinterpret_cast<HANDLE>(process);
@@ -23,7 +23,7 @@ TEST_CASE("waiting lasts until the process has ended and lets no event through")
     contract::TestMachine machine;
     auto& processes = machine.Services().processes;
     PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
-    const auto process = processes.Create(contract::ChildCommand("sleep 700"), 32, Hidden);
+    const auto process = processes.Create(contract::ChildCommand("sleep 700"), 32, HiddenStart);
     REQUIRE(process != 0);
     CHECK(WaitForSingleObject(Native(process), 0) == DWORD{WAIT_TIMEOUT});
     processes.WaitForEnd(process);
@@ -42,7 +42,7 @@ TEST_CASE("inheritable handles go to the process") {
     SECURITY_ATTRIBUTES inheritable = {sizeof inheritable, nullptr, TRUE};
     const HANDLE mutex = CreateMutexW(&inheritable, FALSE, L"QuillmoreContractInherited");
     REQUIRE(mutex);
-    const auto process = processes.Create(contract::ChildCommand("sleep 1500"), 32, Hidden);
+    const auto process = processes.Create(contract::ChildCommand("sleep 1500"), 32, HiddenStart);
     REQUIRE(process != 0);
     // The name lives on only through the handle that the other process inherited.
     CloseHandle(mutex);

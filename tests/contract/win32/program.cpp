@@ -10,11 +10,11 @@ using platform::win32::ArgumentsOf;
 
 namespace {
 
-constexpr platform::Processes::StartupInfo Hidden{66, 1, 0};
+constexpr platform::Processes::StartupInfo HiddenChild{66, 1, 0};
 
 void RunChild(contract::TestMachine& machine, const std::string& arguments) {
     auto& processes = machine.Services().processes;
-    const auto process = processes.Create(contract::ChildCommand(arguments), 32, Hidden);
+    const auto process = processes.Create(contract::ChildCommand(arguments), 32, HiddenChild);
     REQUIRE(process != 0);
     processes.WaitForEnd(process);
     processes.Close(process);

@@ -24,7 +24,7 @@ namespace {
 namespace win32 = platform::win32;
 using Lines = std::vector<std::string>;
 
-struct Fixture {
+struct WindowsRemovalFixture {
     contract::TestMachine machine;
     const std::string temp = machine.FilePath("temp");
     const std::string data = machine.FilePath("data");
@@ -36,7 +36,7 @@ struct Fixture {
     int shellQuestions = 0;
 
     // The user's temp folder is the one here, and the selected drive has no medium.
-    Fixture() {
+    WindowsRemovalFixture() {
         machine.MakeFolder(temp);
         machine.MakeFolder(data);
         machine.MakeFolder(data + "\\deep");
@@ -46,7 +46,7 @@ struct Fixture {
         frame.drvSelect.SetDrives({"q:"});
         frame.drvSelect.SetDrive("q:");
     }
-    ~Fixture() { SetEnvironmentVariableW(L"TMP", oldTemp_.c_str()); }
+    ~WindowsRemovalFixture() { SetEnvironmentVariableW(L"TMP", oldTemp_.c_str()); }
 
     Lines Precious() const {
         return {data + "\\precious.tmp", data + "\\deep\\precious.tmp", data + "\\c.dat"};
@@ -117,7 +117,8 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "a real tree is listed by its attributes, umlauts and all") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a real tree is listed by its attributes, umlauts and all") {
     Folder("Größe");
     Make("Größe\\ä.txt");
     Make("hidden.txt", 34);
@@ -132,7 +133,8 @@ TEST_CASE_FIXTURE(Fixture, "a real tree is listed by its attributes, umlauts and
         machine.SetAttributes(In("no" + std::to_string(attributes)), 32);
 }
 
-TEST_CASE_FIXTURE(Fixture, "real folders and files are removed, read-only ones in folders, too") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "real folders and files are removed, read-only ones in folders, too") {
     Folder("a");
     Folder("a\\b");
     Make("a\\b\\c.dat", 33);
@@ -144,7 +146,8 @@ TEST_CASE_FIXTURE(Fixture, "real folders and files are removed, read-only ones i
     CHECK_FALSE(IsThere("d.dat"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "the bin takes ticked files and all folders, each after a question") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "the bin takes ticked files and all folders, each after a question") {
     Folder("a");
     Make("a\\b.dat");
     Make("c.dat");
@@ -162,7 +165,8 @@ TEST_CASE_FIXTURE(Fixture, "the bin takes ticked files and all folders, each aft
     CHECK(IsThere("kept.dat"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "links in a folder that is removed leave what they lead to") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "links in a folder that is removed leave what they lead to") {
     Folder("a");
     Make("a\\c.dat");
     Search();
@@ -178,14 +182,15 @@ TEST_CASE_FIXTURE(Fixture, "links in a folder that is removed leave what they le
     CHECK(IsThere("kept.dat"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder row that is a link leaves what it leads to") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture, "a folder row that is a link leaves what it leads to") {
     Link("link", data);
     Search();
     TickOnly("link");
     Clean();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder swapped for a link since the search leaves what it leads to") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a folder swapped for a link since the search leaves what it leads to") {
     Folder("a");
     Make("a\\c.dat");
     Search();
@@ -194,7 +199,8 @@ TEST_CASE_FIXTURE(Fixture, "a folder swapped for a link since the search leaves 
     CHECK(IsThere("a old\\c.dat"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file behind a folder swapped for a link since the search stays") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a file behind a folder swapped for a link since the search stays") {
     Folder("a");
     Folder("a\\b");
     Make("a\\b\\c.dat");
@@ -208,7 +214,8 @@ TEST_CASE_FIXTURE(Fixture, "a file behind a folder swapped for a link since the 
     Clean();
 }
 
-TEST_CASE_FIXTURE(Fixture, "a link onto its own folder ends the walk and the removal") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a link onto its own folder ends the walk and the removal") {
     Folder("a");
     Make("a\\c.dat");
     Link("a\\loop", In("a"));
@@ -219,7 +226,7 @@ TEST_CASE_FIXTURE(Fixture, "a link onto its own folder ends the walk and the rem
     CHECK_FALSE(IsThere("a\\c.dat"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a dead link stops nothing") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture, "a dead link stops nothing") {
     Folder("gone");
     Folder("a");
     Link("a\\dead", In("gone"));
@@ -232,7 +239,8 @@ TEST_CASE_FIXTURE(Fixture, "a dead link stops nothing") {
     machine.MakeFolder(In("gone"));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file in use stays and is counted, a vanished one is not") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a file in use stays and is counted, a vanished one is not") {
     Make("held.dat");
     Make("vanished.dat");
     Make("free.dat");
@@ -251,7 +259,8 @@ TEST_CASE_FIXTURE(Fixture, "a file in use stays and is counted, a vanished one i
           "1 Dateien konnten nicht gelöscht werden (in Benutzung).");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder that may not be read is passed over by the walk") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a folder that may not be read is passed over by the walk") {
     Folder("a");
     Folder("a\\b");
     Make("a\\b\\c.dat");
@@ -264,7 +273,8 @@ TEST_CASE_FIXTURE(Fixture, "a folder that may not be read is passed over by the 
     });
 }
 
-TEST_CASE_FIXTURE(Fixture, "a folder whose paths grow too long keeps what cannot be reached") {
+TEST_CASE_FIXTURE(WindowsRemovalFixture,
+                  "a folder whose paths grow too long keeps what cannot be reached") {
     Folder("a");
     Make("b.dat");
     std::wstring path = L"\\\\?\\" + win32::ToWide(In("a"));

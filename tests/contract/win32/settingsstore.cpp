@@ -18,7 +18,7 @@ using platform::Registry;
 const std::string TitlePath = "Software\\VB and VBA Program Settings\\" + std::string(Title);
 const std::string Section = TitlePath + "\\Options";
 
-struct Fixture {
+struct WindowsSettingsStoreFixture {
     contract::TestMachine machine;
     platform::SettingsStore& store = machine.Services().settings;
     Registry& registry = machine.Services().registry;
@@ -36,13 +36,14 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "the store is the user's own tree, its texts are terminated") {
+TEST_CASE_FIXTURE(WindowsSettingsStoreFixture,
+                  "the store is the user's own tree, its texts are terminated") {
     store.Save(Title, "Options", "Tab", "3");
     CHECK((machine.StoredAt(Registry::CurrentUser, Section, "Tab") ==
            Stored{Registry::String, "3\0"s}));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a stored text is read with and without its end") {
+TEST_CASE_FIXTURE(WindowsSettingsStoreFixture, "a stored text is read with and without its end") {
     Put(Registry::String, "abc\0"s);
     CHECK(Tab() == "abc");
     Put(Registry::String, "abc");
@@ -55,7 +56,8 @@ TEST_CASE_FIXTURE(Fixture, "a stored text is read with and without its end") {
     CHECK(Tab() == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a text is read whole at every length around the reader's buffer") {
+TEST_CASE_FIXTURE(WindowsSettingsStoreFixture,
+                  "a text is read whole at every length around the reader's buffer") {
     for (std::size_t length = 60; length < 70; ++length) {
         CAPTURE(length);
         const std::string text(length, 'x');
@@ -66,7 +68,8 @@ TEST_CASE_FIXTURE(Fixture, "a text is read whole at every length around the read
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "what is no text gives the fallback, whatever its size") {
+TEST_CASE_FIXTURE(WindowsSettingsStoreFixture,
+                  "what is no text gives the fallback, whatever its size") {
     for (std::uint32_t type : {Registry::None, Registry::Binary, Registry::Dword,
                                Registry::MultiString, std::uint32_t{11}, std::uint32_t{4711}}) {
         for (std::size_t size : {0u, 1u, 3u, 4u, 127u, 128u, 129u, 60000u}) {
@@ -78,14 +81,15 @@ TEST_CASE_FIXTURE(Fixture, "what is no text gives the fallback, whatever its siz
     }
 }
 
-TEST_CASE_FIXTURE(Fixture, "reading makes no key") {
+TEST_CASE_FIXTURE(WindowsSettingsStoreFixture, "reading makes no key") {
     CHECK(Tab() == "fallback");
     Registry::Key key = 0;
     CHECK(registry.Open(Registry::CurrentUser, TitlePath, Registry::MayDoAll, key) ==
           Registry::FileNotFound);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a store that cannot be written fails as an invalid call") {
+TEST_CASE_FIXTURE(WindowsSettingsStoreFixture,
+                  "a store that cannot be written fails as an invalid call") {
     // No key may have so long a name.
     const std::string section(300, 'x');
     try {

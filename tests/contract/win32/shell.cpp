@@ -43,7 +43,7 @@ class OneWindow final : public win32::FormHandles {
                                                nullptr, nullptr, nullptr, nullptr)};
 };
 
-struct Picker {
+struct WindowsPicker {
     OneWindow forms;
     win32::Messages messages;
     win32::Shell shell{forms, messages};
@@ -54,7 +54,7 @@ struct Picker {
     }
 };
 
-struct Fixture {
+struct WindowsShellFixture {
     contract::TestMachine machine;
     platform::Shell& shell = machine.Services().shell;
 
@@ -68,7 +68,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Picker, "the folder picker lies over its owner and shows title and path") {
+TEST_CASE_FIXTURE(WindowsPicker, "the folder picker lies over its owner and shows title and path") {
     const std::string start = shell.SpecialFolder(0x25);
     contract::FolderUser user(true);
     CHECK(utilities::BrowseForFolderPath(shell, owner, "Wählen Sie einen Ordner", start) == start);
@@ -78,13 +78,14 @@ TEST_CASE_FIXTURE(Picker, "the folder picker lies over its owner and shows title
     CHECK(Contains(user.labels, start));
 }
 
-TEST_CASE_FIXTURE(Picker, "the cancelled folder picker gives the empty text") {
+TEST_CASE_FIXTURE(WindowsPicker, "the cancelled folder picker gives the empty text") {
     contract::FolderUser user(false);
     CHECK(utilities::BrowseForFolderPath(shell, owner, "Ordner", shell.SpecialFolder(0x24)) == "");
     CHECK(user.dialogs == 1);
 }
 
-TEST_CASE_FIXTURE(Picker, "a failure in the dialog's callback ends in a box and the dialog stays") {
+TEST_CASE_FIXTURE(WindowsPicker,
+                  "a failure in the dialog's callback ends in a box and the dialog stays") {
     contract::BoxAnswerer box(IDOK);
     contract::FolderUser user(false);
     bool failed = false;
@@ -95,7 +96,7 @@ TEST_CASE_FIXTURE(Picker, "a failure in the dialog's callback ends in a box and 
     CHECK(user.dialogs == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a program is executed with its parameters") {
+TEST_CASE_FIXTURE(WindowsShellFixture, "a program is executed with its parameters") {
     const std::string report = machine.FilePath("executed.txt");
     const std::string child = machine.Services().program.Directory() + "\\contract_child.exe";
     shell.Execute("Open", child, "line " + report + " two", machine.FilePath(""), 0);
@@ -104,14 +105,14 @@ TEST_CASE_FIXTURE(Fixture, "a program is executed with its parameters") {
     CHECK(machine.FileContent(report) == "line " + report + " two");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a program runs in the directory that it is executed in") {
+TEST_CASE_FIXTURE(WindowsShellFixture, "a program runs in the directory that it is executed in") {
     const std::string report = machine.FilePath("relative.txt");
     const std::string child = machine.Services().program.Directory() + "\\contract_child.exe";
     shell.Execute("Open", child, "line relative.txt", machine.FilePath(""), 0);
     CHECK(machine.PassTime(10000, [&] { return machine.FileContent(report).value_or("") != ""; }));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a real file goes by the silent deletion, and no other") {
+TEST_CASE_FIXTURE(WindowsShellFixture, "a real file goes by the silent deletion, and no other") {
     const std::string path = NewFile("Größe mit Leerzeichen.tmp");
     const std::string other = NewFile("Größe.tmp");
     CHECK(utilities::ShellDeleteFile(shell, path, true));
@@ -119,7 +120,8 @@ TEST_CASE_FIXTURE(Fixture, "a real file goes by the silent deletion, and no othe
     CHECK(machine.FileContent(other) == "");
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that another program has to itself is locked until it lets go") {
+TEST_CASE_FIXTURE(WindowsShellFixture,
+                  "a file that another program has to itself is locked until it lets go") {
     const std::string path = NewFile("held.tmp");
     {
         const win32::FileHandle held(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ, 0,
@@ -130,7 +132,7 @@ TEST_CASE_FIXTURE(Fixture, "a file that another program has to itself is locked 
     CHECK_FALSE(utilities::FileIsLocked(machine.Services().files, path));
 }
 
-TEST_CASE_FIXTURE(Fixture, "a file that another program only reads is locked too") {
+TEST_CASE_FIXTURE(WindowsShellFixture, "a file that another program only reads is locked too") {
     const std::string path = NewFile("read.tmp");
     const win32::FileHandle held(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ,
                                              FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,

@@ -13,12 +13,12 @@ using contract::ServerAnswer;
 using platform::Socket;
 
 // A connection with four bytes arrived, whose messages the test sends itself.
-struct Fixture {
+struct WindowsSocketFixture {
     contract::TestMachine machine;
     Socket& socket = machine.Services().socket;
     std::string events;
 
-    Fixture() {
+    WindowsSocketFixture() {
         socket.onConnect = [this] { events += 'c'; };
         socket.onDataArrival = [this] { events += 'd'; };
         socket.onClose = [this] { events += 'x'; };
@@ -42,7 +42,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(WindowsSocketFixture,
                   "a close that carries an error is the error, and nothing comes behind it") {
     Send(First, FD_CLOSE, WSAECONNRESET);
     CHECK(events == "cde10054");
@@ -52,7 +52,8 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(events == "cde10054");
 }
 
-TEST_CASE_FIXTURE(Fixture, "four bytes of a connection that then breaks off set no clock") {
+TEST_CASE_FIXTURE(WindowsSocketFixture,
+                  "four bytes of a connection that then breaks off set no clock") {
     socket.Close();
     timesync::TimeClient client(
         machine.Services().forms, socket, machine.Services().clock, machine.NotingClock(),
@@ -70,7 +71,8 @@ TEST_CASE_FIXTURE(Fixture, "four bytes of a connection that then breaks off set 
     CHECK(machine.ClockSettings().empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "what was under way for the connection before is passed over") {
+TEST_CASE_FIXTURE(WindowsSocketFixture,
+                  "what was under way for the connection before is passed over") {
     socket.Close();
     Send(First, FD_CLOSE, 0);
     socket.remotePort = machine.Serve({{{}, ServerAnswer::End::Stays}});

@@ -12,12 +12,12 @@ SYSTEMTIME local = {};
 SYSTEMTIME utc = {};
 bool allowed = true;
 
-BOOL WINAPI NoteLocal(const SYSTEMTIME* moment) {
+BOOL WINAPI KeepLocal(const SYSTEMTIME* moment) {
     local = *moment;
     return allowed;
 }
 
-BOOL WINAPI NoteSystem(const SYSTEMTIME* moment) {
+BOOL WINAPI KeepSystem(const SYSTEMTIME* moment) {
     utc = *moment;
     return allowed;
 }
@@ -25,7 +25,7 @@ BOOL WINAPI NoteSystem(const SYSTEMTIME* moment) {
 }  // namespace
 
 TEST_CASE("a moment in UTC has neither a day of the week nor milliseconds") {
-    SystemClock(NoteLocal, NoteSystem).SetSystemTime({2026, 11, 21, 16, 5, 9});
+    SystemClock(KeepLocal, KeepSystem).SetSystemTime({2026, 11, 21, 16, 5, 9});
     CHECK(utc.wYear == 2026);
     CHECK(utc.wMonth == 11);
     CHECK(utc.wDay == 21);
@@ -39,7 +39,7 @@ TEST_CASE("a moment in UTC has neither a day of the week nor milliseconds") {
 
 TEST_CASE("a time of day begins with its second") {
     local.wMilliseconds = 77;
-    SystemClock(NoteLocal, NoteSystem).SetLocalTime({2026, 11, 21, 16, 5, 9});
+    SystemClock(KeepLocal, KeepSystem).SetLocalTime({2026, 11, 21, 16, 5, 9});
     CHECK(local.wSecond == 9);
     CHECK(local.wMilliseconds == 0);
 }

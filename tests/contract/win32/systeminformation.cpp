@@ -9,14 +9,14 @@
 
 namespace {
 
-struct Facts {
+struct WindowsFacts {
     contract::TestMachine machine;
     platform::SystemInformation& information = machine.Services().information;
 };
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Facts, "the information is the system's own") {
+TEST_CASE_FIXTURE(WindowsFacts, "the information is the system's own") {
     OSVERSIONINFOW version = {};
     version.dwOSVersionInfoSize = sizeof version;
     GetVersionExW(&version);
@@ -34,26 +34,26 @@ TEST_CASE_FIXTURE(Facts, "the information is the system's own") {
     CHECK(information.ComputerName() == platform::win32::FromWide({name, size}));
 }
 
-TEST_CASE_FIXTURE(Facts, "the screen is the main one") {
+TEST_CASE_FIXTURE(WindowsFacts, "the screen is the main one") {
     const auto screen = information.MainScreen().value();
     CHECK(screen.width == GetSystemMetrics(SM_CXSCREEN));
     CHECK(screen.height == GetSystemMetrics(SM_CYSCREEN));
     CHECK(screen.colourDepth >= 16);
 }
 
-TEST_CASE_FIXTURE(Facts, "asking for a volume leaves the error mode as it was") {
+TEST_CASE_FIXTURE(WindowsFacts, "asking for a volume leaves the error mode as it was") {
     const UINT before = SetErrorMode(SEM_NOOPENFILEERRORBOX);
     information.VolumeOn("C:\\");
     CHECK(SetErrorMode(before) == SEM_NOOPENFILEERRORBOX);
 }
 
-TEST_CASE_FIXTURE(Facts, "the label of the disk is the system's") {
+TEST_CASE_FIXTURE(WindowsFacts, "the label of the disk is the system's") {
     wchar_t label[MAX_PATH + 1] = L"";
     REQUIRE(GetVolumeInformationW(L"C:\\", label, MAX_PATH, nullptr, nullptr, nullptr, nullptr, 0));
     CHECK(information.VolumeOn("C:\\").label == platform::win32::FromWide(label));
 }
 
-TEST_CASE_FIXTURE(Facts, "the sizes of the disk are those of the system") {
+TEST_CASE_FIXTURE(WindowsFacts, "the sizes of the disk are those of the system") {
     ULARGE_INTEGER free = {};
     ULARGE_INTEGER size = {};
     REQUIRE(GetDiskFreeSpaceExW(L"C:\\", &free, &size, nullptr));

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::uint32_t Layered = 0x80000;
+constexpr std::uint32_t LayeredStyle = 0x80000;
 
 // The two are stored under the program's own title, and nothing may stay there.
 void RemoveSettings() {
@@ -38,12 +38,12 @@ TEST_CASE_FIXTURE(Shell, "the taskbar and the topmost other bar take the level")
     utilities::SetTaskbarOpacity(services, 100);
     for (const auto window : {taskbar, above}) {
         CHECK(machine.LookAt(window).alpha == 100);
-        CHECK((machine.LookAt(window).extendedStyle & Layered) != 0);
+        CHECK((machine.LookAt(window).extendedStyle & LayeredStyle) != 0);
     }
-    CHECK((machine.LookAt(below).extendedStyle & Layered) == 0);
+    CHECK((machine.LookAt(below).extendedStyle & LayeredStyle) == 0);
     utilities::SetTaskbarOpacity(services, 255);
     CHECK(machine.LookAt(taskbar).alpha == 255);
-    CHECK((machine.LookAt(taskbar).extendedStyle & Layered) != 0);
+    CHECK((machine.LookAt(taskbar).extendedStyle & LayeredStyle) != 0);
     CHECK(machine
               .StoredAt(platform::Registry::CurrentUser,
                         "Software\\VB and VBA Program Settings\\Quillmore\\TaskBar", "Luminance")

@@ -48,7 +48,7 @@ class ShellStandIn {
     WindowHandle window_;
 };
 
-struct Fixture {
+struct WindowsTrayFixture {
     ShellStandIn shell;
     contract::TestMachine machine;
     platform::Tray& tray = machine.Services().tray;
@@ -71,7 +71,7 @@ struct Fixture {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "the shell is called when the icon really comes or goes") {
+TEST_CASE_FIXTURE(WindowsTrayFixture, "the shell is called when the icon really comes or goes") {
     tray.SetIcon();
     tray.SetTip("Quillmore");
     CHECK(shell.calls == 0);
@@ -87,7 +87,7 @@ TEST_CASE_FIXTURE(Fixture, "the shell is called when the icon really comes or go
     CHECK(shell.calls == 2);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a shown icon takes a new tip and a new picture at once") {
+TEST_CASE_FIXTURE(WindowsTrayFixture, "a shown icon takes a new tip and a new picture at once") {
     tray.SetShown(true);
     tray.SetTip(std::string(300, 'x'));
     CHECK(shell.calls == 2);
@@ -95,7 +95,8 @@ TEST_CASE_FIXTURE(Fixture, "a shown icon takes a new tip and a new picture at on
     CHECK(shell.calls == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "when the shell starts anew a wanted icon comes back, no other") {
+TEST_CASE_FIXTURE(WindowsTrayFixture,
+                  "when the shell starts anew a wanted icon comes back, no other") {
     tray.SetShown(true);
     RestartShell();
     CHECK(shell.calls == 2);
@@ -105,7 +106,8 @@ TEST_CASE_FIXTURE(Fixture, "when the shell starts anew a wanted icon comes back,
     CHECK(shell.calls == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an icon that the shell refused is tried again when it starts") {
+TEST_CASE_FIXTURE(WindowsTrayFixture,
+                  "an icon that the shell refused is tried again when it starts") {
     shell.refusals = 2;
     tray.SetShown(true);
     CHECK(shell.calls == 2);
@@ -117,7 +119,8 @@ TEST_CASE_FIXTURE(Fixture, "an icon that the shell refused is tried again when i
     CHECK(shell.calls == 4);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an icon that a busy shell refused is tried until it is there") {
+TEST_CASE_FIXTURE(WindowsTrayFixture,
+                  "an icon that a busy shell refused is tried until it is there") {
     shell.refusals = 4;
     tray.SetShown(true);
     CHECK(shell.calls == 2);
@@ -135,7 +138,7 @@ TEST_CASE_FIXTURE(Fixture, "an icon that a busy shell refused is tried until it 
     CHECK(shell.calls == 5);
 }
 
-TEST_CASE_FIXTURE(Fixture, "an icon that is no longer wanted is not tried again") {
+TEST_CASE_FIXTURE(WindowsTrayFixture, "an icon that is no longer wanted is not tried again") {
     shell.refusals = 2;
     tray.SetShown(true);
     tray.SetShown(false);
@@ -144,7 +147,7 @@ TEST_CASE_FIXTURE(Fixture, "an icon that is no longer wanted is not tried again"
     CHECK(shell.calls == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(WindowsTrayFixture,
                   "a double click brings the program to the front, unless a box holds it") {
     tray.SetShown(true);
     const platform::win32::WindowHandle other(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"",
@@ -169,7 +172,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(std::wstring(name) == L"QuillmoreHidden");
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(WindowsTrayFixture,
                   "a busy shell that takes the icon and says no is believed the second time") {
     shell.refusals = 1;
     tray.SetShown(true);
@@ -180,7 +183,7 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(shell.calls == 4);
 }
 
-TEST_CASE_FIXTURE(Fixture,
+TEST_CASE_FIXTURE(WindowsTrayFixture,
                   "a wanted icon is taken away even from a shell that seemed to refuse it") {
     shell.refusals = 2;
     tray.SetShown(true);
@@ -190,7 +193,8 @@ TEST_CASE_FIXTURE(Fixture,
     CHECK(shell.calls == 3);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a released button on the icon is told, a double click restores") {
+TEST_CASE_FIXTURE(WindowsTrayFixture,
+                  "a released button on the icon is told, a double click restores") {
     std::vector<int> buttons;
     int restores = 0;
     tray.SetShown(true);
@@ -209,7 +213,8 @@ TEST_CASE_FIXTURE(Fixture, "a released button on the icon is told, a double clic
     CHECK(restores == 1);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failure in a tray event ends in a message and not in the shell") {
+TEST_CASE_FIXTURE(WindowsTrayFixture,
+                  "a failure in a tray event ends in a message and not in the shell") {
     contract::BoxAnswerer user(platform::message::Ok);
     tray.SetShown(true);
     tray.onRestore = [] { throw runtime::Failure(5); };

@@ -61,16 +61,16 @@ wchar_t others[] = L"LAGER \u20AC";
 wchar_t server[] = L"\\\\S";
 wchar_t nothing[] = L"";
 
-struct Fixture {
+struct WindowsWorkstationFixture {
     Workstation workstation{Enumerate, Free};
     UserEnumeration enumeration;
 
-    Fixture() {
+    WindowsWorkstationFixture() {
         asked = {};
         answer = {};
         freed.clear();
     }
-    ~Fixture() {
+    ~WindowsWorkstationFixture() {
         if (enumeration.buffer) workstation.FreeBuffer(enumeration.buffer);
     }
 
@@ -86,7 +86,8 @@ const std::vector<LoggedOnUser> Juergen{{"Jürgen", "BÜRO", "LAGER €", "\\\\S
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Fixture, "level 1 is asked from the start and without a limit") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture,
+                  "level 1 is asked from the start and without a limit") {
     CHECK(Ask(0, {}) == 0);
     CHECK((asked.server == L"\\\\B\u00FCro-S\u00FCd"));
     CHECK(asked.level == 1);
@@ -96,12 +97,13 @@ TEST_CASE_FIXTURE(Fixture, "level 1 is asked from the start and without a limit"
     CHECK(enumeration.users.empty());
 }
 
-TEST_CASE_FIXTURE(Fixture, "the four texts of a record keep their places") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture, "the four texts of a record keep their places") {
     CHECK(Ask(0, {{name, domain, others, server}}) == 0);
     CHECK(enumeration.users == Juergen);
 }
 
-TEST_CASE_FIXTURE(Fixture, "null pointers and empty texts of a record are empty texts") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture,
+                  "null pointers and empty texts of a record are empty texts") {
     Ask(0, {{nullptr, domain, others, server},
             {name, nullptr, nothing, nullptr},
             {nullptr, nullptr, nullptr, nullptr},
@@ -111,12 +113,13 @@ TEST_CASE_FIXTURE(Fixture, "null pointers and empty texts of a record are empty 
               {"", "BÜRO", "LAGER €", "\\\\S"}, {"Jürgen", "", "", ""}, {}, Juergen[0]});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a pointer to nowhere is an empty text") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture, "a pointer to nowhere is an empty text") {
     Ask(0, {{reinterpret_cast<wchar_t*>(16), domain, others, server}});
     CHECK(enumeration.users == std::vector<LoggedOnUser>{{"", "BÜRO", "LAGER €", "\\\\S"}});
 }
 
-TEST_CASE_FIXTURE(Fixture, "a batch with more behind it is read, and the next one goes on there") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture,
+                  "a batch with more behind it is read, and the next one goes on there") {
     answer.resume = 7;
     CHECK(Ask(234, {{name, domain, others, server}, {name, nullptr, nullptr, nullptr}}) == 234);
     CHECK(enumeration.users.size() == 2);
@@ -129,7 +132,8 @@ TEST_CASE_FIXTURE(Fixture, "a batch with more behind it is read, and the next on
     NetApiBufferFree(first);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a call that fails tells of nobody, whatever it counts") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture,
+                  "a call that fails tells of nobody, whatever it counts") {
     for (DWORD code : {5u, 53u, 124u, 1722u, 2138u}) {
         enumeration.users = Juergen;
         CHECK(Ask(code, {{name, domain, others, server}}) == code);
@@ -139,14 +143,15 @@ TEST_CASE_FIXTURE(Fixture, "a call that fails tells of nobody, whatever it count
     enumeration.buffer = 0;
 }
 
-TEST_CASE_FIXTURE(Fixture, "logons that are counted but not given are nobody") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture, "logons that are counted but not given are nobody") {
     answer.gives = false;
     CHECK(Ask(0, {{name, domain, others, server}}) == 0);
     CHECK(enumeration.users.empty());
     CHECK(enumeration.buffer == 0);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a failing call that gives no buffer leaves the one before") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture,
+                  "a failing call that gives no buffer leaves the one before") {
     Ask(234, {{name, domain, others, server}});
     const std::uintptr_t first = enumeration.buffer;
     REQUIRE(first != 0);
@@ -155,7 +160,7 @@ TEST_CASE_FIXTURE(Fixture, "a failing call that gives no buffer leaves the one b
     CHECK(enumeration.buffer == first);
 }
 
-TEST_CASE_FIXTURE(Fixture, "a buffer is given back to the service") {
+TEST_CASE_FIXTURE(WindowsWorkstationFixture, "a buffer is given back to the service") {
     Ask(0, {{name, domain, others, server}});
     workstation.FreeBuffer(enumeration.buffer);
     CHECK(freed == std::vector<void*>{given});

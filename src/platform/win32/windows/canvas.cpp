@@ -3,6 +3,7 @@
 #include "platform/win32/text.h"
 #include "platform/win32/windows/buffer.h"
 #include "platform/win32/windows/nativepicture.h"
+#include "platform/win32/windows/screen.h"
 
 namespace platform::win32 {
 namespace {
@@ -11,7 +12,6 @@ constexpr toolkit::Colour SystemColourBit = 0x80000000u;
 // Not cut to its rectangle: letters may reach beyond their measured width, slanted ones do, and at
 // some sizes a system draws a font's bitmaps but measures its outlines.
 constexpr UINT TextFormat = DT_CENTER | DT_WORDBREAK | DT_NOCLIP;
-constexpr int PointsPerInch = 72;
 
 RECT Native(toolkit::Rect area) {
     return {area.left, area.top, area.Right(), area.Bottom()};

@@ -9,7 +9,6 @@ namespace platform::win32 {
 namespace {
 
 constexpr float TwipsPerInch = 1440;
-constexpr int PointsPerInch = 72;
 constexpr int DesignDotsPerInch = 96;
 
 }  // namespace

@@ -10,6 +10,8 @@
 
 namespace platform::win32 {
 
+inline constexpr int PointsPerInch = 72;
+
 // The screen's resolution, and the dialogs' fonts on it.
 class Screen final : public toolkit::TextMeasure {
   public:
