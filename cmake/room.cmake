@@ -4,6 +4,7 @@ function(add_room name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
   add_library(${name} STATIC ${ROOM_SOURCES})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLMORE_UNITY})
   if(WIN32)
     # Both the code and what optimising the whole program needs; see src/CMakeLists.txt.
     target_compile_options(${name} PRIVATE $<$<CONFIG:MinSizeRel>:-flto;-ffat-lto-objects>)
