@@ -164,7 +164,9 @@ void DumpTree(const std::string& root, const std::string& key, RegistryState& st
     EnableBackupPrivilege();
     RegistryKey opened;
     RegOpenKeyExW(RootOf(root), ToWide(key).c_str(), 0, KEY_READ, opened.Out());
-    const std::string file = OwnFolder() + "\\registry.dump";
+    wchar_t folder[MAX_PATH];
+    const std::string file =
+        FromWide({folder, GetTempPathW(MAX_PATH, folder)}) + "quillmore-registry.dump";
     const LSTATUS result = RegSaveKeyW(opened.Get(), ToWide(file).c_str(), nullptr);
     if (result) throw Failed("cannot save " + key + ", error " + std::to_string(result));
     const std::string text = ReadFile(file);
