@@ -109,11 +109,7 @@ std::string WithoutMarks(const std::string& caption) {
 
 std::vector<HWND> WindowsBelow(HWND window) {
     std::vector<HWND> all;
-    for (HWND child : ChildrenOf(window)) {
-        all.push_back(child);
-        const std::vector<HWND> below = WindowsBelow(child);
-        all.insert(all.end(), below.begin(), below.end());
-    }
+    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&all));
     return all;
 }
 

@@ -40,7 +40,11 @@ ControlStates AsShown(ControlStates states) {
 // The program's own settings; what Wine remembers of its display and its services.
 bool IsNoOption(const std::string& difference) {
     static const std::vector<std::string> others = {
-        "hkcu\\software\\vb and vba program settings", "hkcu\\software\\wine\\",
+        "hkcu\\software\\vb and vba program settings",
+        "hkcu\\software\\wine\\",
+        "hklm\\system\\currentcontrolset\\control\\class\\{4d36e968",
+        "hklm\\system\\currentcontrolset\\control\\class\\{4d36e96e",
+        "hklm\\system\\currentcontrolset\\enum\\display\\",
         "hklm\\system\\currentcontrolset\\control\\servicecurrent|"};
     return difference.find("|driverdatedata: ") != std::string::npos ||
            std::any_of(others.begin(), others.end(),

@@ -19,6 +19,15 @@ RegistryKey Open(const std::string& root, const std::string& key, REGSAM access)
     return opened;
 }
 
+RegistryKey Create(const std::string& root, const std::string& key) {
+    RegistryKey made;
+    if (RegCreateKeyExW(RootOf(root), ToWide(key).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
+                        made.Out(), nullptr)) {
+        throw Failed("cannot create the key " + key);
+    }
+    return made;
+}
+
 std::string Bytes(std::wstring_view text) {
     return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)};
 }
@@ -152,8 +161,7 @@ std::optional<RegistryValue> ReadValue(const ValuePlace& place) {
 }
 
 void WriteValue(const ValuePlace& place, const RegistryValue& value) {
-    CreateKey(place.root, place.key);
-    const RegistryKey key = Open(place.root, place.key, KEY_SET_VALUE);
+    const RegistryKey key = Create(place.root, place.key);
     // The call adds a terminator to a text by itself when it sees one behind the data.
     const std::string guarded = value.bytes + "\xFF\xFF";
     if (RegSetValueExW(key.Get(), ToWide(place.name).c_str(), 0, value.type,
@@ -173,11 +181,7 @@ bool KeyExists(const std::string& root, const std::string& key) {
 }
 
 void CreateKey(const std::string& root, const std::string& key) {
-    RegistryKey made;
-    if (RegCreateKeyExW(RootOf(root), ToWide(key).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
-                        made.Out(), nullptr)) {
-        throw Failed("cannot create the key " + key);
-    }
+    Create(root, key);
 }
 
 void DeleteTree(const std::string& root, const std::string& key) {

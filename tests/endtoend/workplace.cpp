@@ -49,11 +49,29 @@ void RemoveFolder(const std::string& folder) {
     RemoveDirectoryW(ToWide(folder).c_str());
 }
 
+void PutKnownState() {
+    static const std::string baseline = ReadFile(OwnFolder() + "\\xp-baseline.reg");
+    static const std::string catalogue = ReadFile(OwnFolder() + "\\catalogue.tsv");
+    PutBaseline(baseline, catalogue);
+}
+
+// The prefix is others' when this program ends.
+struct PutBack {
+    ~PutBack() {
+        try {
+            PutKnownState();
+        } catch (const Failed&) {
+            // Whoever needs that state puts it first.
+        }
+    }
+};
+
 }  // namespace
 
 Workplace::Workplace(Warning warning, const std::string& executable)
     : executable_(executable), folder_(NewFolder()) {
     PutKnownState();
+    static const PutBack atTheEnd;
     // Without a window manager around it Wine would wait two seconds after each message box.
     WriteValue({"HKCU", WineKeyOf(executable_) + "\\X11 Driver", "Managed"}, TerminatedText("N"));
     // The program's own version fields of the registry are options here, so that the version must
@@ -69,16 +87,10 @@ Workplace::Workplace(Warning warning, const std::string& executable)
 Workplace::~Workplace() {
     RemoveFolder(folder_);
     try {
-        PutKnownState();
         DeleteTree("HKCU", WineKeyOf(executable_));
     } catch (const Failed&) {
         // The next workplace meets the same obstacle and says so.
     }
-}
-
-void Workplace::PutKnownState() const {
-    PutBaseline(ReadFile(OwnFolder() + "\\xp-baseline.reg"),
-                ReadFile(OwnFolder() + "\\catalogue.tsv"));
 }
 
 void Workplace::PretendWindows(const std::string& version) const {

@@ -8,8 +8,8 @@
 namespace endtoend {
 
 // A machine in a known state and a folder of its own with the program in it: the registry is the
-// baseline's, the settings store holds nothing. The folder goes with this object, and the registry
-// is put back.
+// baseline's, the settings store holds nothing. The folder goes with this object; the registry is
+// put back by the next one, and behind the last.
 class Workplace {
   public:
     enum class Warning { Fresh, Accepted };
@@ -35,8 +35,6 @@ class Workplace {
     std::string Stored(const std::string& section, const std::string& key) const;
 
   private:
-    void PutKnownState() const;
-
     std::string executable_;
     std::string folder_;
 };
