@@ -45,5 +45,8 @@ function(add_suite name)
     # They wait more than they compute: the sooner they begin the better.
     get_property(tests DIRECTORY PROPERTY TESTS)
     set_tests_properties(${tests} PROPERTIES COST 100)
+    if(SUITE_LONG)
+      set_tests_properties(${name}_long PROPERTIES COST 200)
+    endif()
   endif()
 endfunction()

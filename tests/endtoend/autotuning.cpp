@@ -101,7 +101,7 @@ void Tune(const Program& program) {
 }
 
 TEST_CASE("AutoTuning and Apply bring exactly the recommended values into the registry") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const StandIn registrar(SystemFolder() + "\\regsvr32.exe");
     const Workplace workplace;
     const RegistryState before = SnapshotOfMachine();
@@ -169,7 +169,7 @@ TEST_CASE("No to AutoTuning leaves every control as it was") {
 }
 
 TEST_CASE("each button of the pages shows its preset in the real controls, and nothing else") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const StandIn registrar(SystemFolder() + "\\regsvr32.exe");
     const Workplace workplace;
     const RegistryState before = SnapshotOfOptions();

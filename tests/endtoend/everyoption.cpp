@@ -82,7 +82,7 @@ TEST_CASE("each line of the catalogue says itself what an absent value reads as"
 }
 
 TEST_CASE("every option shows what the baseline holds, under its own caption") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Workplace workplace;
     const OptionRun run(workplace, SnapshotOfMachine);
     CHECK(Joined(run.Wrong()) == "");
@@ -99,7 +99,7 @@ TEST_CASE("every option shows what the baseline holds, under its own caption") {
 }
 
 TEST_CASE("every option is written in both states, exactly so, and nothing else changes") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Workplace workplace;
     CreateKey("HKLM", GraphicsDriverKey);
     ControlStates first;
@@ -123,7 +123,7 @@ TEST_CASE("every option is written in both states, exactly so, and nothing else 
 }
 
 TEST_CASE("values that are absent or of another kind are read and replaced alike on every page") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const std::vector<std::optional<RegistryValue>> kinds = {
         std::nullopt,
         RegistryValue{REG_NONE, "\1"},
@@ -144,7 +144,7 @@ TEST_CASE("values that are absent or of another kind are read and replaced alike
 }
 
 TEST_CASE("a key with keys below it is not deleted, and keeps its values") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Workplace workplace;
     std::vector<ValuePlace> kept;
     for (const Fact& fact : Facts()) {
@@ -188,7 +188,7 @@ constexpr char EarlierKey[] = "Software\\Microsoft\\Office\\10.0\\Outlook\\Secur
 constexpr char LaterKey[] = "Software\\Microsoft\\Office\\11.0\\Outlook\\Security";
 
 TEST_CASE("the later mail program's entry is shown, and the earlier one's key written") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Office machines[] = {
         {"none is installed", false, false, "", nullptr},
         {"the earlier one only", true, false, "", EarlierKey},
@@ -227,7 +227,7 @@ constexpr char TcpKey[] = "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameter
 constexpr char InternetKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
 
 TEST_CASE("numbers in any form are stored as numbers, halves as the even neighbour") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Workplace workplace;
     OptionRun run(workplace);
     ControlStates wanted = run.Controls();
@@ -260,7 +260,7 @@ struct FatalNumber {
 };
 
 TEST_CASE("a number that cannot be stored ends the pass there, with one record in the log") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const FatalNumber numbers[] = {
         {"txtRWIN", "abc", 13, {"HKLM", TcpKey, "TcpWindowSize"}},
         {"txtRWIN", "", 13, {"HKLM", TcpKey, "TcpWindowSize"}},

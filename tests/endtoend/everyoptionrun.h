@@ -9,18 +9,9 @@
 
 namespace endtoend {
 
-// While it lives, Wine's desktop is there. Wine describes its display in the registry, and puts a
-// folder back in its place, whenever a first window comes up.
-class AwakeDesktop {
-  public:
-    AwakeDesktop();
-    ~AwakeDesktop();
-    AwakeDesktop(const AwakeDesktop&) = delete;
-    AwakeDesktop& operator=(const AwakeDesktop&) = delete;
-
-  private:
-    HWND window_;
-};
+// Wine describes its display in the registry, and puts a folder back in its place, when a first
+// window comes up. From now on one has, and the desktop stays as long as this program runs.
+void SeeDesktop();
 
 // All keys that an option reads or writes and those above them, with their values and the names of
 // the keys below. The whole machine takes seconds.

@@ -42,6 +42,10 @@ bool Program::Running() const {
     return WaitForSingleObject(process_.Get(), 0) == WAIT_TIMEOUT;
 }
 
+void Program::WaitIdle() const {
+    WaitForInputIdle(process_.Get(), Patience);
+}
+
 DWORD Program::WaitForEnd() const {
     if (WaitForSingleObject(process_.Get(), Patience) != WAIT_OBJECT_0) {
         throw Failed("the program does not end");

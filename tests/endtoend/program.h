@@ -24,6 +24,9 @@ class Program : public Application {
     // Closes the main window and waits for the end.
     void CloseAndWait() const;
 
+    // Waits until the process has nothing to do for the first time.
+    void WaitIdle() const;
+
     // Leaves the process alone from now on, also at the end of this object.
     void LetGo() { process_.Close(); }
 

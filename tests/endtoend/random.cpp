@@ -57,7 +57,7 @@ std::string Replay(unsigned seed) {
 }
 
 TEST_CASE("random machines are read and written as the catalogue says, and nothing else changes") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const StandIn registrar(SystemFolder() + "\\regsvr32.exe");
     const RegistryState before = [] {
         const Workplace workplace;

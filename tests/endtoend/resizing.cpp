@@ -17,12 +17,13 @@ struct MainWindow {
     OpenProgram program{workplace};
     HWND form = program.Find("frmMain");
 
-    // As soon as it does not change any more, but for the clock, which goes on.
+    // As soon as it does not change any more, but for the clock, which goes on. What a window has
+    // drawn Wine hands to the display 50 milliseconds later at the latest.
     std::vector<DWORD> Picture() const {
         const RECT area = support::ClientOnScreen(form);
         std::vector<DWORD> picture;
         Until("a picture that stays", [&] {
-            Sleep(200);
+            Sleep(80);
             auto next = support::ScreenPixels(area);
             HideClock(next, area);
             std::swap(picture, next);

@@ -152,7 +152,7 @@ std::string ManyLines() {
 }
 
 TEST_CASE("64 KiB in every text field are written where texts go, and complained of elsewhere") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Workplace workplace;
     {
         OptionRun run(workplace);
@@ -175,7 +175,7 @@ TEST_CASE("64 KiB in every text field are written where texts go, and complained
 }
 
 TEST_CASE("64 KiB of digits are beyond all numbers: complained of, not written, and no more") {
-    const AwakeDesktop desktop;
+    SeeDesktop();
     const Workplace workplace;
     OptionRun run(workplace);
     ControlStates wanted = run.Controls();

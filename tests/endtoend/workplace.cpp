@@ -113,6 +113,8 @@ std::string Workplace::Stored(const std::string& section, const std::string& key
 
 OpenProgram::OpenProgram(const Workplace& workplace, const std::string& arguments)
     : Program(workplace.Executable(), arguments) {
+    // Looking for its window while it starts would only take its time.
+    WaitIdle();
     Wait("frmMain");
     Until("the start to end", [&] { return Responds("frmMain"); });
 }

@@ -42,13 +42,14 @@ struct ResizingFixture : Desk {
         SetForegroundWindow(host.WindowOf(form));
     }
 
-    // As soon as it does not change any more: what is drawn reaches the screen a little later.
+    // As soon as it does not change any more: what is drawn reaches the screen a little later,
+    // under Wine 50 milliseconds at most.
     std::vector<DWORD> Picture() const {
         const RECT area = support::ClientOnScreen(host.WindowOf(form));
         std::vector<DWORD> picture;
         const DWORD start = GetTickCount();
         for (bool changed = true; changed && GetTickCount() - start < 10000;) {
-            ServeAWhile(150);
+            ServeAWhile(80);
             auto next = support::ScreenPixels(area);
             changed = next != picture;
             picture = std::move(next);
