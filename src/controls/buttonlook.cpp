@@ -251,7 +251,7 @@ Places PlaceContents(const Canvas& canvas, Rect client, const ButtonProperties& 
     Rect textAt = centred(text);
     Rect pictureAt = centred(image);
     if (picture && !behind) {
-        const auto apart = [&](int Rect::*start, int Rect::*extent) {
+        const auto apart = [&](auto start, auto extent) {
             Rect& first = pictureFirst ? pictureAt : textAt;
             Rect& second = pictureFirst ? textAt : pictureAt;
             const int whole = first.*extent + gap + second.*extent;

@@ -35,9 +35,12 @@ constexpr NetworkSet Sets[] = {
      .cboHTTP11 = 8},
 };
 
+using NumberOfSet = std::int32_t NetworkSet::*;
+using StateOfSet = int NetworkSet::*;
+
 struct NumberBox {
     const char* control;
-    std::int32_t NetworkSet::*number;
+    NumberOfSet number;
 };
 
 // The packet size takes the window size along, so the window size of the set comes behind it.
@@ -49,7 +52,7 @@ constexpr NumberBox NumberBoxes[] = {
 
 struct OnOffBox {
     const char* control;
-    int NetworkSet::*state;
+    StateOfSet state;
 };
 
 constexpr OnOffBox OnOffBoxes[] = {

@@ -20,13 +20,14 @@ struct PresetRow {
 };
 
 using PresetRows = std::span<const PresetRow>;
+using PresetColumn = const char* PresetRow::*;
 
 struct PresetButton {
     const char* name;
     // In the order in which they are set, which matters: a packet size takes the window size along,
     // so the window size stands behind it in every list.
     PresetRows rows;
-    const char* PresetRow::*column;
+    PresetColumn column;
 };
 
 // All buttons that set controls of their page.

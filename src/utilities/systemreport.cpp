@@ -89,7 +89,7 @@ std::string ProcessorLines(const platform::Machine& machine) {
 std::string MemoryLines(const platform::Machine& machine) {
     const auto memory = machine.information.Memory();
     const auto signs = machine.locale.Signs();
-    const auto text = [&](std::uint64_t platform::PhysicalMemory::*bytes) {
+    const auto text = [&](auto bytes) {
         return memory ? Text(SizeText(*memory.*bytes, signs)) : std::nullopt;
     };
     return Line("Arbeitsspeicher", text(&platform::PhysicalMemory::total)) +

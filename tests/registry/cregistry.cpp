@@ -372,13 +372,13 @@ TEST_CASE_FIXTURE(Object, "further verbs come in threes, to a class that is ther
     const char* const badList =
         "Invalid parameter list passed to CreateAdditionalEXEAssociations - expected "
         "Name/Text/Command";
-    CHECK(RaisedBy([&] { object.CreateAdditionalEXEAssociations("P", {"a", "b"}); }) == badList);
-    CHECK(RaisedBy([&] {
-              object.CreateAdditionalEXEAssociations("P", {"a", "b", "c", "d"});
-          }) == badList);
-    CHECK(RaisedBy([&] {
-              object.CreateAdditionalEXEAssociations("P", {"a", "b", "c"});
-          }) == "Error - attempt to create additional associations before class defined.");
+    const auto add = [&](const std::vector<std::string>& list) {
+        return RaisedBy([&] { object.CreateAdditionalEXEAssociations("P", list); });
+    };
+    CHECK(add({"a", "b"}) == badList);
+    CHECK(add({"a", "b", "c", "d"}) == badList);
+    CHECK(add({"a", "b", "c"}) ==
+          "Error - attempt to create additional associations before class defined.");
     object.CreateEXEAssociation("P.exe", "P", "Datei", "p");
     CHECK(object.CreateAdditionalEXEAssociations("P", {}));
     CHECK(object.CreateAdditionalEXEAssociations(

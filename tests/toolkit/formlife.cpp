@@ -268,6 +268,9 @@ TEST_CASE("a form that dies loaded takes its window along and raises nothing") {
 
 TEST_CASE("a form that dies without a window asks nothing of its host") {
     NotingHost host;
-    { LivingForm form(host); }
+    {
+        const LivingForm form(host);
+        CHECK_FALSE(form.Loaded());
+    }
     CHECK(host.journal.empty());
 }

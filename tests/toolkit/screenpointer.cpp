@@ -39,7 +39,10 @@ TEST_CASE_FIXTURE(PointerFixture,
     main.SetPointer(Hourglass);
     CHECK(main.ShownPointer() == Hourglass);
     CHECK(dialog.ShownPointer() == DefaultPointer);
-    { const ScreenHourglass hourglass(host); }
+    {
+        const ScreenHourglass hourglass(host);
+        CHECK(dialog.ShownPointer() == Hourglass);
+    }
     CHECK(main.ShownPointer() == Hourglass);
     CHECK(dialog.ShownPointer() == DefaultPointer);
     host.SetScreenPointer(2);
@@ -66,6 +69,9 @@ TEST_CASE_FIXTURE(PointerFixture,
     CHECK_THROWS_AS(fail(), runtime::Failure);
     CHECK(host.ScreenPointer() == DefaultPointer);
     host.SetScreenPointer(Hourglass);
-    { const ScreenHourglass hourglass(host); }
+    {
+        const ScreenHourglass hourglass(host);
+        CHECK(host.ScreenPointer() == Hourglass);
+    }
     CHECK(host.ScreenPointer() == DefaultPointer);
 }

@@ -53,7 +53,7 @@ void WriteAlone(Options& options, const std::string& name) {
 }
 
 // Puts the value that the side of each fact leaves, wherever it is limited to.
-void Seed(Options& options, const std::vector<Fact>& facts, std::string Fact::*side) {
+void Seed(Options& options, const std::vector<Fact>& facts, FactSide side) {
     MakeKeys(options, facts);
     FillBoxes(options, facts);
     Apply(facts, side, options);

@@ -257,7 +257,7 @@ void ApplyWords(const std::string& words, const Fact& fact, Options& options) {
 }  // namespace
 
 // The limits are asked before anything is written, as one side of an option is limited as a whole.
-void Apply(const std::vector<Fact>& facts, std::string Fact::*side, Options& options) {
+void Apply(const std::vector<Fact>& facts, FactSide side, Options& options) {
     std::vector<std::pair<std::string, const Fact*>> allowed;
     for (const Fact& fact : facts) {
         std::string words = (fact.*side).substr(0, (fact.*side).find(" with "));

@@ -29,6 +29,8 @@ struct Fact {
     bool Decides() const { return read.find("; absent: o") != std::string::npos; }
 };
 
+using FactSide = std::string Fact::*;
+
 const std::vector<Fact>& GoldenFacts();
 
 // The names of the check boxes with facts of their own, each once; those that every read sets; and
@@ -39,7 +41,7 @@ std::vector<Fact> FactsDecidedBy(const std::string& checkBox);
 
 // Carries one side of an option's facts out on the registry of `options`, by this function's own
 // understanding of their words, not the program's. Texts are those of the form's boxes.
-void Apply(const std::vector<Fact>& facts, std::string Fact::*side, Options& options);
+void Apply(const std::vector<Fact>& facts, FactSide side, Options& options);
 
 // What the box shows where its values are absent: "on", "off", "stays" (as the form has it, which
 // is off), or "" for a box that no value decides.

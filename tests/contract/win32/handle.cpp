@@ -37,13 +37,22 @@ TEST_CASE_FIXTURE(WindowsHandleFixture, "what is owned is given back once, at th
 }
 
 TEST_CASE_FIXTURE(WindowsHandleFixture, "the value that stands for none is never given back") {
-    { const Number none; }
-    { const Number none(-1); }
+    {
+        const Number none;
+        CHECK_FALSE(none);
+    }
+    {
+        const Number none(-1);
+        CHECK_FALSE(none);
+    }
     Number none;
     CHECK_FALSE(none);
     CHECK_FALSE(none.Close());
     CHECK(closed.empty());
-    { const Number zero(0); }
+    {
+        const Number zero(0);
+        CHECK(zero);
+    }
     CHECK(closed == std::vector{0});
 }
 
