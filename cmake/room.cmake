@@ -1,10 +1,12 @@
 # A room is one static library for one folder of src/. Its sources are listed by hand, and it links
-# only rooms of the floors below it, so the link order is the architecture.
+# only rooms of the floors below it, so the link order is the architecture. Files that a program of
+# the tests replaces by one of its own are ALONE: each stays an object of its own.
 function(add_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
-  add_library(${name} STATIC ${ROOM_SOURCES})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;ALONE;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES} ${ROOM_ALONE})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLMORE_UNITY})
+  set_source_files_properties(${ROOM_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   if(WIN32)
     # Both the code and what optimising the whole program needs; see src/CMakeLists.txt.
     target_compile_options(${name} PRIVATE $<$<CONFIG:MinSizeRel>:-flto;-ffat-lto-objects>)
