@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/program.h"
+#include "support/failureof.h"
 
 using namespace app_test;
 using platform::simulated::ShownMessage;
@@ -165,13 +166,7 @@ TEST_CASE("a session object that fails is nobody's to handle and leaves the wind
         Started program;
         program.Check("chkRebootQuestion").SetValue(1);
         program.machine.faults.FailAll("ExitSession", 429);
-        int failure = 0;
-        try {
-            (program.form.get()->*end.run)();
-        } catch (const runtime::Failure& caught) {
-            failure = caught.number;
-        }
-        CHECK(failure == 429);
+        CHECK(FailureOf([&] { (program.form.get()->*end.run)(); }) == 429);
         CHECK(program.form->Loaded());
         CHECK(program.machine.messages.Shown().empty());
         CHECK(program.machine.journal.Calls("SaveSetting").empty());

@@ -4,7 +4,6 @@
 
 #include "cleanup/fixture.h"
 
-using cleanup_test::NumberOf;
 
 namespace {
 
@@ -19,14 +18,14 @@ struct DeleteFolderFixture {
 
 TEST_CASE_FIXTURE(DeleteFolderFixture, "a file taken for a folder is failure 76 and stays") {
     disk.MakeFile("C:\\a.tmp");
-    CHECK(NumberOf([&] { cleanup::DeleteFolder(folders, files, "C:\\a.tmp"); }) == 76);
-    CHECK(NumberOf([&] { cleanup::DropLinks(folders, files, "C:\\a.tmp"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::DeleteFolder(folders, files, "C:\\a.tmp"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::DropLinks(folders, files, "C:\\a.tmp"); }) == 76);
     CHECK(folders.Find("C:\\a.tmp").has_value());
 }
 
 TEST_CASE_FIXTURE(DeleteFolderFixture, "a folder that is not there is failure 76") {
-    CHECK(NumberOf([&] { cleanup::DeleteFolder(folders, files, "C:\\gone"); }) == 76);
-    CHECK(NumberOf([&] { cleanup::DropLinks(folders, files, "C:\\gone"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::DeleteFolder(folders, files, "C:\\gone"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::DropLinks(folders, files, "C:\\gone"); }) == 76);
 }
 
 TEST_CASE_FIXTURE(DeleteFolderFixture, "only the links to folders are taken out of a folder") {

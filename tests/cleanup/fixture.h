@@ -8,22 +8,12 @@
 #include "platform/messages.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/form.h"
 
 namespace cleanup_test {
 
 using Lines = std::vector<std::string>;
-
-// The number of the failure that the action throws, 0 when it throws none.
-template <typename Action>
-int NumberOf(Action action) {
-    try {
-        action();
-    } catch (const runtime::Failure& failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 // The frame on a form, and a disk C: with a folder of Windows that is empty but for its Temp.
 struct Fixture {

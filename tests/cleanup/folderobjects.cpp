@@ -5,7 +5,6 @@
 #include "cleanup/fixture.h"
 
 using cleanup_test::Lines;
-using cleanup_test::NumberOf;
 
 namespace {
 
@@ -27,14 +26,14 @@ TEST_CASE_FIXTURE(FolderObjectsFixture,
 
 TEST_CASE_FIXTURE(FolderObjectsFixture, "a folder that is not there, and a file, is failure 76") {
     disk.MakeFile("C:\\a.tmp");
-    CHECK(NumberOf([&] { cleanup::GetFolder(folders, "C:\\absent"); }) == 76);
-    CHECK(NumberOf([&] { cleanup::GetFolder(folders, "C:\\a.tmp"); }) == 76);
-    CHECK(NumberOf([&] { cleanup::GetFolder(folders, "D:\\"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::GetFolder(folders, "C:\\absent"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::GetFolder(folders, "C:\\a.tmp"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::GetFolder(folders, "D:\\"); }) == 76);
 }
 
 TEST_CASE_FIXTURE(FolderObjectsFixture,
                   "a place that the system does not tell is failure 76, too") {
-    CHECK(NumberOf([&] { cleanup::GetFolder(folders, ""); }) == 76);
+    CHECK(FailureOf([&] { cleanup::GetFolder(folders, ""); }) == 76);
 }
 
 TEST_CASE_FIXTURE(FolderObjectsFixture,
@@ -76,12 +75,12 @@ TEST_CASE_FIXTURE(FolderObjectsFixture,
 TEST_CASE_FIXTURE(FolderObjectsFixture,
                   "a folder below that may not be read makes the size fail with 70") {
     disk.MakeFolder("C:\\x\\sub\\locked").unreadable = true;
-    CHECK(NumberOf([&] { cleanup::SizeOf(folders, "C:\\x"); }) == 70);
+    CHECK(FailureOf([&] { cleanup::SizeOf(folders, "C:\\x"); }) == 70);
     disk.At("C:\\x\\sub\\locked").unreadable = false;
-    CHECK(NumberOf([&] { cleanup::SizeOf(folders, "C:\\x"); }) == 0);
+    CHECK(FailureOf([&] { cleanup::SizeOf(folders, "C:\\x"); }) == 0);
 }
 
 TEST_CASE_FIXTURE(FolderObjectsFixture,
                   "the size of a folder that is gone meanwhile fails with 76") {
-    CHECK(NumberOf([&] { cleanup::SizeOf(folders, "C:\\gone"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::SizeOf(folders, "C:\\gone"); }) == 76);
 }

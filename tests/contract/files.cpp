@@ -4,6 +4,7 @@
 
 #include "contract/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -15,15 +16,6 @@ struct FilesFixture {
         const auto file = files.OpenForAppend(path);
         files.Write(file, bytes);
         files.Close(file);
-    }
-    template <typename Statement>
-    int NumberOf(Statement&& statement) {
-        try {
-            statement();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
     }
 };
 
@@ -73,9 +65,9 @@ TEST_CASE_FIXTURE(FilesFixture, "a file that is open for appending can be read")
 TEST_CASE_FIXTURE(FilesFixture, "a file that is open cannot be opened for appending once more") {
     const std::string path = machine.FilePath("held.log");
     const auto file = files.OpenForAppend(path);
-    CHECK(NumberOf([&] { files.OpenForAppend(path); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.OpenForAppend(path); }) == runtime::PermissionDenied);
     files.Close(file);
-    CHECK(NumberOf([&] { Append(path, "x"); }) == 0);
+    CHECK(FailureOf([&] { Append(path, "x"); }) == 0);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "two files are open side by side") {
@@ -95,12 +87,12 @@ TEST_CASE_FIXTURE(FilesFixture, "writing to a handle that is closed or none is a
     files.Close(file);
     files.Close(file);
     files.Close(4711);
-    CHECK(NumberOf([&] { files.Write(file, "x"); }) == runtime::BadFileNumber);
-    CHECK(NumberOf([&] { files.Write(4711, "x"); }) == runtime::BadFileNumber);
+    CHECK(FailureOf([&] { files.Write(file, "x"); }) == runtime::BadFileNumber);
+    CHECK(FailureOf([&] { files.Write(4711, "x"); }) == runtime::BadFileNumber);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "the empty path is not found") {
-    CHECK(NumberOf([&] { files.OpenForAppend(""); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { files.OpenForAppend(""); }) == runtime::PathNotFound);
 }
 
 TEST_CASE_FIXTURE(FilesFixture,
@@ -108,7 +100,7 @@ TEST_CASE_FIXTURE(FilesFixture,
     const std::string path = machine.FilePath("read.tmp");
     Append(path, "x");
     for (int i = 0; i < 2; ++i) {
-        CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+        CHECK(FailureOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
     }
     CHECK(machine.FileContent(path) == "x");
 }
@@ -118,15 +110,15 @@ TEST_CASE_FIXTURE(FilesFixture,
     const std::string path = machine.FilePath("read.tmp");
     Append(path, "x");
     const auto file = files.OpenForReading(path);
-    CHECK(NumberOf([&] { files.OpenForReading(path); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.OpenForReading(path); }) == runtime::PermissionDenied);
     files.Close(file);
-    CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+    CHECK(FailureOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a file that is open for appending can be opened for reading") {
     const std::string path = machine.FilePath("append.tmp");
     const auto file = files.OpenForAppend(path);
-    CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+    CHECK(FailureOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
     files.Close(file);
 }
 
@@ -134,7 +126,7 @@ TEST_CASE_FIXTURE(FilesFixture, "writing to a file opened for reading is denied"
     const std::string path = machine.FilePath("read.tmp");
     Append(path, "x");
     const auto file = files.OpenForReading(path);
-    CHECK(NumberOf([&] { files.Write(file, "y"); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.Write(file, "y"); }) == runtime::PermissionDenied);
     files.Close(file);
     CHECK(machine.FileContent(path) == "x");
 }
@@ -143,14 +135,14 @@ TEST_CASE_FIXTURE(FilesFixture,
                   "opening for reading makes no file: absent, no directory, a directory") {
     Append(machine.FilePath("neighbour.tmp"), "x");
     const std::string absent = machine.FilePath("absent.tmp");
-    CHECK(NumberOf([&] { files.OpenForReading(absent); }) == runtime::FileNotFound);
+    CHECK(FailureOf([&] { files.OpenForReading(absent); }) == runtime::FileNotFound);
     CHECK(machine.FileContent(absent) == std::nullopt);
     const std::string nowhere = machine.FilePath("absent\\file.tmp");
-    CHECK(NumberOf([&] { files.OpenForReading(nowhere); }) == runtime::PathNotFound);
-    CHECK(NumberOf([&] { files.OpenForReading(""); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { files.OpenForReading(nowhere); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { files.OpenForReading(""); }) == runtime::PathNotFound);
     std::string directory = machine.FilePath("");
     directory.pop_back();
-    CHECK(NumberOf([&] { files.OpenForReading(directory); }) == runtime::PathFileAccess);
+    CHECK(FailureOf([&] { files.OpenForReading(directory); }) == runtime::PathFileAccess);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a file is read whole, whatever its bytes and its size") {
@@ -166,11 +158,11 @@ TEST_CASE_FIXTURE(FilesFixture, "a file is read whole, whatever its bytes and it
 TEST_CASE_FIXTURE(FilesFixture, "reading a whole file refuses as opening it for reading does") {
     const std::string path = machine.FilePath("held.inf");
     Append(path, "x");
-    CHECK(NumberOf([&] { files.Read(machine.FilePath("absent.inf")); }) == runtime::FileNotFound);
-    CHECK(NumberOf([&] { files.Read(machine.FilePath("absent\\x.inf")); }) ==
+    CHECK(FailureOf([&] { files.Read(machine.FilePath("absent.inf")); }) == runtime::FileNotFound);
+    CHECK(FailureOf([&] { files.Read(machine.FilePath("absent\\x.inf")); }) ==
           runtime::PathNotFound);
     const auto file = files.OpenForReading(path);
-    CHECK(NumberOf([&] { files.Read(path); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.Read(path); }) == runtime::PermissionDenied);
     files.Close(file);
     CHECK(files.Read(path) == "x");
 }
@@ -181,16 +173,16 @@ TEST_CASE_FIXTURE(FilesFixture,
     Append(path, "x");
     machine.WithShared(path, [&] {
         CHECK(files.Read(path) == "x");
-        CHECK(NumberOf([&] { files.OpenForReading(path); }) == runtime::PermissionDenied);
+        CHECK(FailureOf([&] { files.OpenForReading(path); }) == runtime::PermissionDenied);
     });
-    CHECK(NumberOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
+    CHECK(FailureOf([&] { files.Close(files.OpenForReading(path)); }) == 0);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a file that others use and share is not removed, now or later") {
     const std::string path = machine.FilePath("shared.inf");
     Append(path, "x");
     machine.WithShared(path, [&] {
-        CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
+        CHECK(FailureOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
     });
     CHECK(machine.FileContent(path) == "x");
     files.Remove(path, false);
@@ -203,9 +195,9 @@ TEST_CASE_FIXTURE(FilesFixture,
     Append(path, "x");
     machine.WithShared(path, [&] {
         machine.Protect(path);
-        CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
+        CHECK(FailureOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
     });
-    CHECK(NumberOf([&] { files.Remove(path, false); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.Remove(path, false); }) == runtime::PermissionDenied);
     CHECK(machine.FileContent(path) == "x");
     files.Remove(path, true);
 }
@@ -217,7 +209,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a file is removed, a read-only one with force o
     CHECK(machine.FileContent(path) == std::nullopt);
     Append(path, "x");
     machine.Protect(path);
-    CHECK(NumberOf([&] { files.Remove(path, false); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.Remove(path, false); }) == runtime::PermissionDenied);
     CHECK(machine.FileContent(path) == "x");
     files.Remove(path, true);
     CHECK(machine.FileContent(path) == std::nullopt);
@@ -226,12 +218,12 @@ TEST_CASE_FIXTURE(FilesFixture, "a file is removed, a read-only one with force o
 TEST_CASE_FIXTURE(FilesFixture, "what is not there or is open here is not removed") {
     const std::string path = machine.FilePath("open.inf");
     const auto file = files.OpenForAppend(path);
-    CHECK(NumberOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.Remove(path, true); }) == runtime::PermissionDenied);
     files.Close(file);
     CHECK(machine.FileContent(path) == "");
-    CHECK(NumberOf([&] { files.Remove(machine.FilePath("absent.inf"), true); }) ==
+    CHECK(FailureOf([&] { files.Remove(machine.FilePath("absent.inf"), true); }) ==
           runtime::FileNotFound);
-    CHECK(NumberOf([&] { files.Remove(machine.FilePath("absent\\x.inf"), true); }) ==
+    CHECK(FailureOf([&] { files.Remove(machine.FilePath("absent\\x.inf"), true); }) ==
           runtime::PathNotFound);
 }
 
@@ -243,13 +235,13 @@ TEST_CASE_FIXTURE(FilesFixture,
     CHECK((machine.FileContent(path) == std::string("a\0\xFF\r\n", 5)));
     files.WriteText(path, "");
     CHECK(machine.FileContent(path) == "");
-    CHECK(NumberOf([&] { files.WriteText("", "x"); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { files.WriteText("", "x"); }) == runtime::PathNotFound);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a text does not go into a file that is open") {
     const std::string path = machine.FilePath("text.inf");
     const auto file = files.OpenForAppend(path);
-    CHECK(NumberOf([&] { files.WriteText(path, "x"); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { files.WriteText(path, "x"); }) == runtime::PermissionDenied);
     files.Close(file);
     CHECK(machine.FileContent(path) == "");
 }

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -23,15 +24,6 @@ struct FoldersFixture {
     std::string In(std::string_view name) const { return top + '\\' + std::string(name); }
     void Put(std::string_view path, std::string_view bytes) {
         machine.Services().files.WriteText(path, bytes);
-    }
-    template <typename Statement>
-    int NumberOf(Statement&& statement) {
-        try {
-            statement();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
     }
     std::optional<FolderEntry> Listed(std::string_view name) {
         const auto entries = folders.List(top);
@@ -109,11 +101,11 @@ TEST_CASE_FIXTURE(FoldersFixture,
 
 TEST_CASE_FIXTURE(FoldersFixture, "what is no folder cannot be listed: absent, a file, nothing") {
     Put(In("file"), "x");
-    CHECK(NumberOf([&] { folders.List(In("absent")); }) == runtime::PathNotFound);
-    CHECK(NumberOf([&] { folders.List(In("absent\\deeper")); }) == runtime::PathNotFound);
-    CHECK(NumberOf([&] { folders.List(In("file")); }) == runtime::PathNotFound);
-    CHECK(NumberOf([&] { folders.List("Q:\\"); }) == runtime::PathNotFound);
-    CHECK(NumberOf([&] { folders.List(""); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.List(In("absent")); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.List(In("absent\\deeper")); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.List(In("file")); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.List("Q:\\"); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.List(""); }) == runtime::PathNotFound);
 }
 
 TEST_CASE_FIXTURE(FoldersFixture, "a path that leaves no room for a search is not found") {
@@ -122,10 +114,10 @@ TEST_CASE_FIXTURE(FoldersFixture, "a path that leaves no room for a search is no
         path += "\\" + std::string(std::min<std::size_t>(10, 250 - path.size()), 'x');
         machine.MakeFolder(path);
     }
-    CHECK(NumberOf([&] { folders.List(path); }) == 0);
+    CHECK(FailureOf([&] { folders.List(path); }) == 0);
     path += "\\" + std::string(257 - path.size(), 'y');
     REQUIRE(path.size() == 258);
-    CHECK(NumberOf([&] { folders.List(path); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.List(path); }) == runtime::PathNotFound);
     CHECK(folders.Find(path + "zz") == std::nullopt);
 }
 
@@ -133,7 +125,7 @@ TEST_CASE_FIXTURE(FoldersFixture, "a folder that is in other hands may not be re
     machine.MakeFolder(In("held"));
     Put(In("held\\a"), "x");
     machine.WithUnreadable(In("held"), [&] {
-        CHECK(NumberOf([&] { folders.List(In("held")); }) == runtime::PermissionDenied);
+        CHECK(FailureOf([&] { folders.List(In("held")); }) == runtime::PermissionDenied);
         CHECK(Listed("held"));
     });
     CHECK(folders.List(In("held")).size() == 1);
@@ -174,8 +166,8 @@ TEST_CASE_FIXTURE(FoldersFixture, "a drive alone is its current directory") {
     folders.MakeCurrent(top);
     // Wine tells it with a backslash at its end.
     CHECK(folders.FullPath(drive).substr(0, top.size()) == top);
-    CHECK(NumberOf([&] { folders.MakeCurrent(In("absent")); }) == runtime::PathNotFound);
-    CHECK(NumberOf([&] { folders.MakeCurrent(""); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.MakeCurrent(In("absent")); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.MakeCurrent(""); }) == runtime::PathNotFound);
     CHECK(folders.FullPath(drive).substr(0, top.size()) == top);
     folders.MakeCurrent(drive + '\\');
     CHECK(folders.FullPath(drive) == drive + '\\');
@@ -186,13 +178,13 @@ TEST_CASE_FIXTURE(FoldersFixture,
                   "an empty folder is removed, a full one, a file and an absent one not") {
     machine.MakeFolder(In("a"));
     Put(In("a\\file"), "x");
-    CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
-    CHECK(NumberOf([&] { folders.Remove(In("a\\file"), true); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { folders.Remove(In("a\\file"), true); }) == runtime::PermissionDenied);
     CHECK(machine.FileContent(In("a\\file")) == "x");
     machine.Services().files.Remove(In("a\\file"), true);
     folders.Remove(In("a"), false);
     CHECK_FALSE(folders.Find(In("a")));
-    CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PathNotFound);
+    CHECK(FailureOf([&] { folders.Remove(In("a"), true); }) == runtime::PathNotFound);
 }
 
 TEST_CASE_FIXTURE(FoldersFixture, "a read-only folder is removed with force") {
@@ -208,8 +200,8 @@ TEST_CASE_FIXTURE(FoldersFixture, "a read-only folder that does not go keeps its
     machine.SetAttributes(In("a"), 16 | 1);
     // Wine knows it of files only.
     const auto before = folders.Find(In("a"))->attributes;
-    CHECK(NumberOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
-    CHECK(NumberOf([&] { machine.Services().files.Remove(In("a"), true); }) ==
+    CHECK(FailureOf([&] { folders.Remove(In("a"), true); }) == runtime::PermissionDenied);
+    CHECK(FailureOf([&] { machine.Services().files.Remove(In("a"), true); }) ==
           runtime::PermissionDenied);
     CHECK(folders.Find(In("a"))->attributes == before);
     machine.SetAttributes(In("a"), 16);
@@ -219,7 +211,7 @@ TEST_CASE_FIXTURE(FoldersFixture, "a read-only file that does not go keeps its a
     Put(In("a"), "x");
     machine.SetAttributes(In("a"), 33);
     const auto file = machine.Services().files.OpenForReading(In("a"));
-    CHECK(NumberOf([&] { machine.Services().files.Remove(In("a"), true); }) ==
+    CHECK(FailureOf([&] { machine.Services().files.Remove(In("a"), true); }) ==
           runtime::PermissionDenied);
     CHECK(folders.Find(In("a"))->attributes == 33);
     machine.Services().files.Close(file);
@@ -243,6 +235,6 @@ TEST_CASE_FIXTURE(FoldersFixture, "what a link leads to is not removed with it")
     machine.MakeFolder(In("target"));
     Put(In("target\\a"), "x");
     machine.MakeLink(In("link"), In("target"));
-    NumberOf([&] { folders.Remove(In("link"), true); });
+    FailureOf([&] { folders.Remove(In("link"), true); });
     CHECK(machine.FileContent(In("target\\a")) == "x");
 }

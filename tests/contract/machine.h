@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "contract/serveranswer.h"
+#include "support/serveranswer.h"
 #include "platform/clock.h"
 #include "platform/machine.h"
 #include "platform/otherwindows.h"

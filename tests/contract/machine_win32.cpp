@@ -14,7 +14,7 @@
 #include "contract/win32/folderuser.h"
 #include "contract/win32/menuuser.h"
 #include "contract/win32/standins.h"
-#include "contract/win32/timeserver.h"
+#include "support/timeserver.h"
 #include "platform/win32/formhandles.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/machine.h"

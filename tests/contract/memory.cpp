@@ -9,6 +9,7 @@
 #include "contract/machine.h"
 #include "platform/display.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -54,13 +55,7 @@ TEST_CASE_FIXTURE(MemoryFixture, "a block that no program has room for is refuse
     for (const std::size_t characters : {0x3FFFFF00u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
         CAPTURE(characters);
         const double before = Resident();
-        int number = 0;
-        try {
-            memory.Blanks(characters);
-        } catch (const runtime::Failure& failure) {
-            number = failure.number;
-        }
-        CHECK(number == runtime::OutOfMemory);
+        CHECK(FailureOf([&] { memory.Blanks(characters); }) == runtime::OutOfMemory);
         CHECK(Resident() - before < 0.02);
     }
 }

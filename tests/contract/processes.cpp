@@ -4,6 +4,7 @@
 
 #include "contract/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -50,12 +51,8 @@ TEST_CASE_FIXTURE(ProcessesFixture, "a process is started by command line alone"
 }
 
 TEST_CASE_FIXTURE(ProcessesFixture, "starting a program that is not there is a file not found") {
-    try {
-        processes.Start(machine.MissingCommand(), 1);
-        FAIL("it was started");
-    } catch (const runtime::Failure& failure) {
-        CHECK(failure.number == runtime::FileNotFound);
-    }
+    CHECK(FailureOf([&] { processes.Start(machine.MissingCommand(), 1); }) ==
+          runtime::FileNotFound);
 }
 
 TEST_CASE_FIXTURE(ProcessesFixture,

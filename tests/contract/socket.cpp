@@ -4,6 +4,7 @@
 
 #include "contract/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -212,13 +213,7 @@ TEST_CASE_FIXTURE(SocketFixture, "an event may close the socket, and none comes 
 
 TEST_CASE_FIXTURE(SocketFixture, "only a closed socket connects") {
     ConnectTo(machine.Serve({{{}, End::Stays}}));
-    int number = 0;
-    try {
-        socket.Connect();
-    } catch (const runtime::Failure& failure) {
-        number = failure.number;
-    }
-    CHECK(number == 5);
+    CHECK(FailureOf([&] { socket.Connect(); }) == 5);
     CHECK(Comes('c'));
 }
 

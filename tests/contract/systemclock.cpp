@@ -6,6 +6,7 @@
 
 #include "contract/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -29,15 +30,6 @@ struct SystemClockFixture {
         };
         const int distance = std::abs(seconds(left) - seconds(right));
         return distance < Day / 2 ? distance : Day - distance;
-    }
-    template <typename Set>
-    int FailureOf(Set set) {
-        try {
-            set();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
     }
 };
 

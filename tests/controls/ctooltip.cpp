@@ -8,6 +8,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -32,16 +33,6 @@ struct Tips {
     bool ShowsBalloons() const { return (Window().style & BalloonBit) != 0; }
     const Lines& Journal() const { return machine.journal.Lines(); }
 };
-
-template <typename Action>
-int FailureOf(Action action) {
-    try {
-        action();
-    } catch (const runtime::Failure& failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 }  // namespace
 

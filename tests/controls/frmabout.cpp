@@ -5,6 +5,7 @@
 #include "controls/chameleonbutton.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/controls.h"
 
 namespace {
@@ -200,13 +201,7 @@ TEST_CASE_FIXTURE(About, "without Internet Explorer a box says so, and nothing e
 TEST_CASE_FIXTURE(About, "a browser that refuses the page is no missing browser") {
     FadeIn();
     machine.faults.FailAll("InternetExplorer.Navigate", 1);
-    int number = 0;
-    try {
-        ClickWebPage();
-    } catch (const runtime::Failure& failure) {
-        number = failure.number;
-    }
-    CHECK(number == 440);
+    CHECK(FailureOf([&] { ClickWebPage(); }) == 440);
     CHECK(machine.messages.Shown().empty());
 }
 

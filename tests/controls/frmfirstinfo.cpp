@@ -5,6 +5,7 @@
 #include "controls/chameleonbutton.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/controls.h"
 
 namespace {
@@ -64,13 +65,7 @@ TEST_CASE("an answer that cannot be stored is a failure that leaves the warning 
     Shown test;
     test.machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
     test.form.Load();
-    int number = 0;
-    try {
-        Press(test.form, "Command2");
-    } catch (const runtime::Failure& failure) {
-        number = failure.number;
-    }
-    CHECK(number == runtime::InvalidProcedureCall);
+    CHECK(FailureOf([&] { Press(test.form, "Command2"); }) == runtime::InvalidProcedureCall);
     CHECK(test.form.Loaded());
     CHECK(test.Accepted() == Setting());
 }

@@ -12,6 +12,7 @@
 #include "endtoend/registrydump.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
+#include "support/golden.h"
 
 // The presets in the real window, and the registry behind an Apply.
 namespace endtoend {
@@ -39,17 +40,10 @@ struct Behaviour {
 };
 
 Behaviour Behind(const std::string& preset, ControlStates states) {
-    std::istringstream lines(ReadFile(OwnFolder() + "\\presets.tsv"));
     std::size_t found = 0;
     ControlStates others;
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream columns(line);
-        std::string name;
-        std::string control;
-        std::string value;
-        std::getline(columns, name, '\t');
-        std::getline(columns, control, '\t');
-        std::getline(columns, value, '\t');
+    for (auto& [name, control, value] :
+         golden::PresetLines(ReadFile(OwnFolder() + "\\presets.tsv"))) {
         if (name != preset) continue;
         ++found;
         if (value == "memory > 256000") value = "1";

@@ -1,8 +1,7 @@
 #include "endtoend/optiontablewords.h"
 
-#include <sstream>
-
 #include "endtoend/workplace.h"
+#include "support/golden.h"
 
 namespace endtoend {
 namespace {
@@ -145,49 +144,28 @@ WriteWords ParseWrite(std::string words, const std::string& control) {
     return write;
 }
 
-Fact ParseLine(const std::string& line) {
-    std::vector<std::string> part;
-    std::istringstream input(line);
-    for (std::string column; std::getline(input, column, '\t');) part.push_back(column);
-    if (part.size() != 10) throw Failed("not ten columns: " + line);
-    return {part[0],
-            part[1],
-            part[2],
-            {part[3], part[4], part[5]},
-            ParseRead(part[7]),
-            ParseWrite(part[8], part[1]),
-            ParseWrite(part[9], part[1])};
+Fact Parsed(const golden::CatalogueLine& line) {
+    return {line.page,
+            line.control,
+            line.caption,
+            {line.root, line.key, line.value},
+            ParseRead(line.read),
+            ParseWrite(line.on, line.control),
+            ParseWrite(line.off, line.control)};
 }
 
-std::vector<std::string> LinesOf(const std::string& fileName) {
-    std::vector<std::string> lines;
-    std::istringstream input(ReadFile(OwnFolder() + '\\' + fileName));
-    for (std::string line; std::getline(input, line);) lines.push_back(line);
-    if (lines.empty()) throw Failed("there is nothing in " + fileName);
-    return lines;
-}
-
-// The names between that heading and the next empty line.
-std::vector<std::string> Order(const std::string& heading) {
-    std::vector<std::string> names;
-    bool under = false;
-    for (const std::string& line : LinesOf("passorder.txt")) {
-        if (line.empty()) under = false;
-        if (under) names.push_back(line);
-        if (line == heading) under = true;
-    }
-    if (names.empty()) throw Failed("no order of the pass " + heading);
-    return names;
+std::vector<std::string> Order(const std::string& pass) {
+    return golden::PassOrder(ReadFile(OwnFolder() + "\\passorder.txt"), pass);
 }
 
 }  // namespace
 
 const std::vector<Fact>& Facts() {
     static const std::vector<Fact> facts = [] {
-        std::vector<std::string> lines = LinesOf("catalogue.tsv");
-        lines.erase(lines.begin());
         std::vector<Fact> parsed;
-        for (const std::string& line : lines) parsed.push_back(ParseLine(line));
+        for (const auto& line : golden::CatalogueLines(ReadFile(OwnFolder() + "\\catalogue.tsv"))) {
+            parsed.push_back(Parsed(line));
+        }
         return parsed;
     }();
     return facts;

@@ -14,8 +14,8 @@ struct RegistryFileEntry {
     std::optional<RegistryValue> value;
 };
 
-// Reads the text of a registry file (version 5, UTF-8): keys, texts, dword, hex with and without a
-// type, comments, continued lines. Anything else throws Failed with the line.
+// The keys and values that a registry file (version 5, UTF-8) puts there, in its order. What is not
+// understood or takes something away throws std::runtime_error.
 std::vector<RegistryFileEntry> ParseRegistryFile(const std::string& text);
 
 // The registry that each test starts from: everything that the program may have written is gone,

@@ -2,7 +2,7 @@
 // test is the real one, but it can neither set a clock nor reach anything beyond this computer.
 #include <doctest/doctest.h>
 
-#include "contract/win32/timeserver.h"
+#include "support/timeserver.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/text.h"

@@ -4,6 +4,7 @@
 
 #include "keys.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using namespace platform_test;
 using platform::simulated::DwordValue;
@@ -69,12 +70,7 @@ TEST_CASE_FIXTURE(Keys, "calls whose contract names no other outcome throw the f
     auto number = [&](const char* call, auto action) {
         machine.faults.Clear();
         machine.faults.FailAll(call, 429);
-        try {
-            action();
-        } catch (const Failure& failure) {
-            return failure.number;
-        }
-        return 0;
+        return FailureOf([&] { action(); });
     };
     auto file = machine.files.OpenForAppend("C:\\a");
     CHECK(number("OpenForAppend", [&] { machine.files.OpenForAppend("C:\\b"); }) == 429);

@@ -3,6 +3,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using Lines = std::vector<std::string>;
 
@@ -60,13 +61,8 @@ TEST_CASE_FIXTURE(Information, "the clipboard keeps what it held when it is refu
 TEST_CASE_FIXTURE(Information,
                   "a browser that cannot be created fails with the platform's number") {
     machine.faults.FailOn("InternetExplorer", 5);
-    int number = 0;
-    try {
-        machine.services.browser.CreateInternetExplorer();
-    } catch (const runtime::Failure& failure) {
-        number = failure.number;
-    }
-    CHECK(number == runtime::CannotCreateObject);
+    CHECK(FailureOf([&] { machine.services.browser.CreateInternetExplorer(); }) ==
+          runtime::CannotCreateObject);
     CHECK(lines == Lines{"CreateObject InternetExplorer -> failure 429"});
 }
 

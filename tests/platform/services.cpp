@@ -3,6 +3,7 @@
 #include "platform/settings.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using Lines = std::vector<std::string>;
 
@@ -11,16 +12,6 @@ namespace {
 struct Services {
     platform::simulated::Machine machine;
     const Lines& lines = machine.journal.Lines();
-
-    template <typename Action>
-    int FailureOf(Action action) {
-        try {
-            action();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
-    }
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/form.h"
 
 using platform::simulated::FolderDialog;
@@ -17,16 +18,6 @@ struct ShellFixture {
     platform::simulated::Machine machine;
     platform::Shell& shell = machine.services.shell;
     toolkit::Form owner{machine.forms, "frmOwner", "Fenster", {}};
-
-    template <typename Action>
-    int FailureOf(Action action) {
-        try {
-            action();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
-    }
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "registry/fixture.h"
 #include "registry/restless.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 // What the object raises, and the file types that it registers. What it stores and reads is stated
 // for both machines by the contract suite.
@@ -43,15 +44,6 @@ struct Object {
             return failure.description;
         }
         return "nothing raised";
-    }
-    template <typename Action>
-    int NumberOf(Action action) {
-        try {
-            action();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
     }
     void Write(std::uint32_t type, const Data& data) {
         object.ValueType = type;
@@ -135,7 +127,7 @@ TEST_CASE_FIXTURE(Object,
                   "data that do not fit the type are a type failure, after the key is made") {
     const auto isRefused = [&](std::uint32_t type, const Data& data) {
         CAPTURE(type);
-        CHECK(NumberOf([&] { Write(type, data); }) == runtime::TypeMismatch);
+        CHECK(FailureOf([&] { Write(type, data); }) == runtime::TypeMismatch);
     };
     isRefused(Service::String, Bytes{65});
     isRefused(Service::ExpandString, Bytes{});

@@ -2,6 +2,7 @@
 
 #include "registry/fixture.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using namespace registry_tests;
 
@@ -41,12 +42,8 @@ TEST_CASE_FIXTURE(RegistryOnMachine, "a negative number fails once the key is ma
     for (std::int32_t number : {-1, -256, INT32_MIN}) {
         CAPTURE(number);
         machine.registry.EraseKey(Service::LocalMachine, "New");
-        try {
-            registry.RegWriteDword(HKLM, "New\\Key", "Value", number);
-            FAIL("nothing was raised");
-        } catch (const runtime::Failure& failure) {
-            CHECK(failure.number == runtime::InvalidProcedureCall);
-        }
+        CHECK(FailureOf([&] { registry.RegWriteDword(HKLM, "New\\Key", "Value", number); }) ==
+              runtime::InvalidProcedureCall);
         CHECK(machine.registry.HasKey(Service::LocalMachine, "New\\Key"));
         CHECK_FALSE(machine.registry.Value(Service::LocalMachine, "New\\Key", "Value"));
     }

@@ -4,10 +4,10 @@
 #include <limits>
 #include <vector>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 #include "runtime/signs.h"
 #include "runtime/text.h"
+#include "support/failureof.h"
 
 using namespace runtime;
 
@@ -27,7 +27,7 @@ class Alone {
 
 TEST_CASE("the lower end of the 32 bits counts after rounding, too") {
     CHECK(ToWholeNumber("-2147483648,5", German) == std::numeric_limits<std::int32_t>::min());
-    CHECK(FailureNumberOf([] { ToWholeNumber("-2147483648,51", German); }) == Overflow);
+    CHECK(FailureOf([] { ToWholeNumber("-2147483648,51", German); }) == Overflow);
 }
 
 TEST_CASE("16 bits round halves to even and count after rounding") {
@@ -35,13 +35,13 @@ TEST_CASE("16 bits round halves to even and count after rounding") {
     CHECK(ToShortNumber("2,5", German) == 2);
     CHECK(ToShortNumber("-3,5", German) == -4);
     CHECK(ToShortNumber("-32768,5", German) == -32768);
-    CHECK(FailureNumberOf([] { ToShortNumber("-32768,51", German); }) == Overflow);
+    CHECK(FailureOf([] { ToShortNumber("-32768,51", German); }) == Overflow);
 }
 
 TEST_CASE("a hexadecimal number of 16 bits is a short number and one of 17 bits is too large") {
     CHECK(ToShortNumber("&HFFFF", German) == -1);
     CHECK(ToShortNumber("&H8000", German) == -32768);
-    CHECK(FailureNumberOf([] { ToShortNumber("&H10000", German); }) == Overflow);
+    CHECK(FailureOf([] { ToShortNumber("&H10000", German); }) == Overflow);
 }
 
 TEST_CASE("the largest single-precision number converts, a smaller one than all of them is 0") {
@@ -56,11 +56,11 @@ TEST_CASE("the largest single-precision number converts, a smaller one than all 
 TEST_CASE("the smallest and the largest double are numbers") {
     CHECK(ParseNumber("5e-324", German) == std::numeric_limits<double>::denorm_min());
     CHECK(ParseNumber("-1,7976931348623157e308", German) == std::numeric_limits<double>::lowest());
-    CHECK(FailureNumberOf([] { ToWholeNumber("1,8e308", German); }) == Overflow);
+    CHECK(FailureOf([] { ToWholeNumber("1,8e308", German); }) == Overflow);
 }
 
 TEST_CASE("an exponent of more than 64 bits is huge, not what is left of it in 64 bits") {
-    CHECK(FailureNumberOf([] { ToWholeNumber("1e18446744073709551617", German); }) == Overflow);
+    CHECK(FailureOf([] { ToWholeNumber("1e18446744073709551617", German); }) == Overflow);
     CHECK(ParseNumber("1e-18446744073709551617", German) == 0.0);
 }
 

@@ -6,10 +6,10 @@
 #include <optional>
 #include <random>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 #include "runtime/signs.h"
 #include "runtime/text.h"
+#include "support/failureof.h"
 
 using namespace runtime;
 
@@ -23,12 +23,12 @@ void CheckPromises(const std::string& text) {
     const bool numeric = IsNumeric(text, German);
     REQUIRE(ParseNumber(text, German).has_value() == numeric);
 
-    const int whole = FailureNumberOf([&] { ToWholeNumber(text, German); });
+    const int whole = FailureOf([&] { ToWholeNumber(text, German); });
     REQUIRE((whole == 0 || whole == Overflow || whole == TypeMismatch));
     if (whole == 0) REQUIRE(numeric);
     if (numeric) REQUIRE(whole != TypeMismatch);
 
-    const int leading = FailureNumberOf([&] { LeadingNumber(text); });
+    const int leading = FailureOf([&] { LeadingNumber(text); });
     REQUIRE((leading == 0 || leading == Overflow));
 
     const std::size_t length = Length(text);

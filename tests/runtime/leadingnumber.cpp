@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
+#include "support/failureof.h"
 
 using runtime::LeadingNumber;
 
@@ -61,8 +61,8 @@ TEST_CASE("a leading number may be hexadecimal or octal") {
 }
 
 TEST_CASE("a leading number beyond the range of a double is an overflow") {
-    CHECK(FailureNumberOf([] { LeadingNumber("1e400"); }) == 6);
-    CHECK(FailureNumberOf([] { LeadingNumber("-1e400 Byte"); }) == 6);
-    CHECK(FailureNumberOf([] { LeadingNumber("&H100000000"); }) == 6);
+    CHECK(FailureOf([] { LeadingNumber("1e400"); }) == 6);
+    CHECK(FailureOf([] { LeadingNumber("-1e400 Byte"); }) == 6);
+    CHECK(FailureOf([] { LeadingNumber("&H100000000"); }) == 6);
     CHECK(LeadingNumber("1e308") == 1e308);
 }

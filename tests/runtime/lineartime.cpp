@@ -5,9 +5,9 @@
 #include <ctime>
 #include <functional>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 #include "runtime/text.h"
+#include "support/failureof.h"
 
 using namespace runtime;
 
@@ -59,7 +59,7 @@ TEST_CASE("the time to read a number grows as its text does") {
 
 TEST_CASE("the time to read a leading number grows as its text does") {
     for (const char* piece : {"9", "0", " ", "1 ", "\xFF"}) {
-        CheckLinear([](const std::string& text) { FailureNumberOf([&] { LeadingNumber(text); }); },
+        CheckLinear([](const std::string& text) { FailureOf([&] { LeadingNumber(text); }); },
                     piece);
     }
 }

@@ -1,9 +1,9 @@
 // Every conversion, in both directions, goes by the signs of the locale that it is given.
 #include <doctest/doctest.h>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 #include "runtime/signs.h"
+#include "support/failureof.h"
 
 using namespace runtime;
 
@@ -28,9 +28,9 @@ TEST_CASE("the same text is a thousand and more in one locale and a fraction in 
 TEST_CASE("the signs of one locale in the wrong order are no number in it") {
     CHECK(IsNumeric("1.234,5", German));
     CHECK_FALSE(IsNumeric("1.234,5", English));
-    CHECK(FailureNumberOf([] { ToWholeNumber("1.234,5", English); }) == TypeMismatch);
-    CHECK(FailureNumberOf([] { ToShortNumber("1.234,5", English); }) == TypeMismatch);
-    CHECK(FailureNumberOf([] { ToSingle("1.234,5", English); }) == TypeMismatch);
+    CHECK(FailureOf([] { ToWholeNumber("1.234,5", English); }) == TypeMismatch);
+    CHECK(FailureOf([] { ToShortNumber("1.234,5", English); }) == TypeMismatch);
+    CHECK(FailureOf([] { ToSingle("1.234,5", English); }) == TypeMismatch);
 }
 
 TEST_CASE("a number's text has the decimal sign of the locale, whatever its precision") {

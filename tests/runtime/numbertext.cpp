@@ -2,9 +2,9 @@
 
 #include <limits>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 #include "runtime/signs.h"
+#include "support/failureof.h"
 
 using runtime::NumberSigns;
 using runtime::ToText;
@@ -68,9 +68,8 @@ TEST_CASE("a number beyond every text is an overflow: infinite on either side, o
     const double infinite = std::numeric_limits<double>::infinity();
     for (double number : {infinite, -infinite, std::numeric_limits<double>::quiet_NaN()}) {
         CAPTURE(number);
-        CHECK(FailureNumberOf([&] { ToText(number, German); }) == runtime::Overflow);
-        CHECK(FailureNumberOf([&] { ToText(static_cast<float>(number), German); }) ==
-              runtime::Overflow);
+        CHECK(FailureOf([&] { ToText(number, German); }) == runtime::Overflow);
+        CHECK(FailureOf([&] { ToText(static_cast<float>(number), German); }) == runtime::Overflow);
     }
     CHECK(ToText(std::numeric_limits<double>::max(), German) == "1,79769313486232E+308");
     CHECK(ToText(std::numeric_limits<double>::lowest(), German) == "-1,79769313486232E+308");

@@ -1,8 +1,8 @@
 #include <doctest/doctest.h>
 
-#include "runtime/failurenumber.h"
 #include "runtime/number.h"
 #include "runtime/signs.h"
+#include "support/failureof.h"
 
 using runtime::NumberSigns;
 using runtime::ToShortNumber;
@@ -15,15 +15,15 @@ constexpr int OverflowNumber = 6;
 constexpr int MismatchNumber = 13;
 
 int FailureOfWhole(std::string_view text) {
-    return FailureNumberOf([&] { ToWholeNumber(text, German); });
+    return FailureOf([&] { ToWholeNumber(text, German); });
 }
 
 int FailureOfShort(std::string_view text) {
-    return FailureNumberOf([&] { ToShortNumber(text, German); });
+    return FailureOf([&] { ToShortNumber(text, German); });
 }
 
 int FailureOfSingle(std::string_view text) {
-    return FailureNumberOf([&] { ToSingle(text, German); });
+    return FailureOf([&] { ToSingle(text, German); });
 }
 
 }  // namespace

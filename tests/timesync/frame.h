@@ -6,6 +6,7 @@
 #include "controls/chameleonbutton.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "timesync/synchronization.h"
 #include "timesync/synchronizeframe.h"
 #include "toolkit/controls.h"
@@ -25,17 +26,6 @@ inline const ShownMessage ServerFailure{
     "Während der Verbindung zum Server ist ein Fehler aufgetreten. Überprüfen Sie den Servernamen "
     "und ob der Server aktiv ist. Sprechen sie ggf. mit dem Administrator.",
     48};
-
-// The number of the failure with which the action ends; 0 when it ends without one.
-template <typename Action>
-int FailureOf(Action action) {
-    try {
-        action();
-    } catch (const runtime::Failure& failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 // Notes in the journal what the label shows when it is painted at once.
 struct LabelWatch final : toolkit::ControlView {

@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "runtime/failure.h"
-#include "toolkit/failureof.h"
+#include "support/failureof.h"
 #include "toolkit/journal.h"
 
 using toolkit::Aspect;

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/controls.h"
-#include "toolkit/failureof.h"
 #include "toolkit/form.h"
 #include "toolkit/journal.h"
 

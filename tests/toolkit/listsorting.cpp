@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "toolkit/failureof.h"
+#include "support/failureof.h"
 #include "toolkit/journal.h"
 #include "toolkit/listview.h"
 

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "toolkit/failureof.h"
+#include "support/failureof.h"
 #include "toolkit/journal.h"
 
 using toolkit::Aspect;

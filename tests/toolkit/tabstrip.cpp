@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/controls.h"
 #include "toolkit/journal.h"
 
@@ -45,13 +46,7 @@ TEST_CASE_FIXTURE(TabStripFixture,
     tabs.SetTab(3);
     for (int tab : {8, 9, -1, -2147483647}) {
         CAPTURE(tab);
-        int number = 0;
-        try {
-            tabs.SetTab(tab);
-        } catch (const runtime::Failure& failure) {
-            number = failure.number;
-        }
-        CHECK(number == 380);
+        CHECK(FailureOf([&] { tabs.SetTab(tab); }) == 380);
         CHECK(tabs.Tab() == 3);
     }
     CHECK(clicks == 1);

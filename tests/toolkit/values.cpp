@@ -2,8 +2,8 @@
 #include <doctest/doctest.h>
 
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/controls.h"
-#include "toolkit/failureof.h"
 #include "toolkit/journal.h"
 
 using namespace toolkit;

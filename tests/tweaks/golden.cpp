@@ -5,20 +5,12 @@
 #include <climits>
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 #include "tweaks/controltext.h"
 
 namespace tweak_tests {
 namespace {
-
-std::vector<std::string> Split(const std::string& line, char delimiter) {
-    std::vector<std::string> parts;
-    std::istringstream stream(line);
-    for (std::string part; std::getline(stream, part, delimiter);) parts.push_back(part);
-    return parts;
-}
 
 // What stands between the first and the last quotation mark.
 std::string Quoted(const std::string& words) {
@@ -86,14 +78,8 @@ namespace {
 
 std::vector<Fact> ReadGoldenFacts() {
     std::vector<Fact> facts;
-    std::istringstream lines(FileText("tests/golden/catalogue.tsv"));
-    std::string line;
-    std::getline(lines, line);
-    while (std::getline(lines, line)) {
-        const auto part = Split(line, '\t');
-        if (part.size() != 10) throw std::runtime_error("not ten columns: " + line);
-        facts.push_back({part[0], part[1], part[2], part[3], part[4], part[5], part[6], part[7],
-                         part[8], part[9]});
+    for (const auto& line : golden::CatalogueLines(FileText("tests/golden/catalogue.tsv"))) {
+        facts.push_back({line});
     }
     return facts;
 }
@@ -149,13 +135,11 @@ namespace {
 
 std::vector<std::pair<std::string, bool>> ReadWindowsDefaults() {
     std::vector<std::pair<std::string, bool>> defaults;
-    std::istringstream lines(FileText("tests/golden/windowsdefaults.tsv"));
-    for (std::string line; std::getline(lines, line);) {
-        const auto part = Split(line, '\t');
-        if (part.size() != 2 || (part[1] != "on" && part[1] != "off")) {
-            throw std::runtime_error("neither on nor off: " + line);
+    for (const auto& row : golden::RowsOf(FileText("tests/golden/windowsdefaults.tsv"), 2)) {
+        if (row[1] != "on" && row[1] != "off") {
+            throw std::runtime_error("neither on nor off: " + row[0]);
         }
-        defaults.emplace_back(part[0], part[1] == "on");
+        defaults.emplace_back(row[0], row[1] == "on");
     }
     return defaults;
 }

@@ -5,26 +5,15 @@
 #include <utility>
 #include <vector>
 
+#include "support/golden.h"
 #include "tweaks/option.h"
 #include "tweaks/pagefixture.h"
 
 namespace tweak_tests {
 
 // One line of tests/golden/catalogue.tsv.
-struct Fact {
-    std::string page;
-    std::string control;
-    std::string caption;
-    std::string root;
-    std::string key;
-    std::string value;
-    std::string kind;
-    std::string read;
-    std::string on;
-    std::string off;
-
+struct Fact : golden::CatalogueLine {
     Service::Key Root() const;
-    bool IsCheckBox() const { return control.starts_with("chk"); }
     // Whether a check box looks at the value.
     bool Decides() const { return read.find("; absent: o") != std::string::npos; }
 };

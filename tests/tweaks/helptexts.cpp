@@ -26,11 +26,8 @@ struct Row {
 
 std::vector<Row> GoldenRows() {
     std::vector<Row> rows;
-    std::istringstream file(FileText("tests/golden/helptexts.tsv"));
-    for (std::string line; std::getline(file, line);) {
-        const auto tab = line.find('\t');
-        REQUIRE(tab != std::string::npos);
-        rows.push_back({line.substr(0, tab), line.substr(tab + 1)});
+    for (const auto& row : golden::RowsOf(FileText("tests/golden/helptexts.tsv"), 2)) {
+        rows.push_back({row[0], row[1]});
     }
     return rows;
 }

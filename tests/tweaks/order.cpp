@@ -13,15 +13,8 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// The names below the given heading of tests/golden/passorder.txt, up to the empty line.
 Names GoldenOrder(const std::string& pass) {
-    std::istringstream lines(FileText("tests/golden/passorder.txt"));
-    std::string line;
-    while (std::getline(lines, line) && line != pass) {
-    }
-    Names names;
-    while (std::getline(lines, line) && !line.empty()) names.push_back(line);
-    return names;
+    return golden::PassOrder(FileText("tests/golden/passorder.txt"), pass);
 }
 
 Names NamesOf(std::span<const std::string_view> order) {

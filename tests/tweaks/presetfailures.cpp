@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "tweaks/presetfixture.h"
 
 using namespace tweak_tests;
@@ -13,13 +14,8 @@ void Fail() {
 }
 
 // The number of the failure that came out of the press; 0 for none.
-int FailureOf(Presets& program, const std::string& preset) {
-    try {
-        program.Press(preset);
-    } catch (const runtime::Failure& failure) {
-        return failure.number;
-    }
-    return 0;
+int FailureOfPress(Presets& program, const std::string& preset) {
+    return FailureOf([&] { program.Press(preset); });
 }
 
 Lines BoxesShown(const Presets& program) {
@@ -43,7 +39,7 @@ TEST_CASE("whichever step fails ends its button there, with all before it set an
             program.Isolate();
             const PresetStates before = program.States();
             program.EventOf(steps[failing].control) = Fail;
-            CHECK(FailureOf(program, preset) == runtime::InvalidProcedureCall);
+            CHECK(FailureOfPress(program, preset) == runtime::InvalidProcedureCall);
             for (std::size_t at = 0; at < steps.size(); ++at) {
                 CAPTURE(steps[at].control);
                 CHECK(program.Shown(steps[at].control) ==
@@ -64,7 +60,7 @@ TEST_CASE("whichever step fails is passed over by AutoTuning, which sets all the
         Presets program;
         program.Isolate();
         program.EventOf(failing.control) = Fail;
-        CHECK(FailureOf(program, AutoTuningButton) == 0);
+        CHECK(FailureOfPress(program, AutoTuningButton) == 0);
         for (const PresetStep& step : steps) {
             CAPTURE(step.control);
             CHECK(program.Shown(step.control) == step.value);
@@ -78,7 +74,7 @@ TEST_CASE("AutoTuning with every step failing still tells success") {
     Presets program;
     program.Isolate();
     for (const auto& [name, shown] : program.States()) program.EventOf(name) = Fail;
-    CHECK(FailureOf(program, AutoTuningButton) == 0);
+    CHECK(FailureOfPress(program, AutoTuningButton) == 0);
     for (const PresetStep& step : GoldenSteps(AutoTuningButton)) {
         CHECK(program.Shown(step.control) == step.value);
     }
@@ -88,7 +84,7 @@ TEST_CASE("AutoTuning with every step failing still tells success") {
 TEST_CASE_FIXTURE(Presets, "a UPnP command that does not start ends the recommendation there") {
     AllOff();
     machine.faults.FailOn("regsvr32.exe", runtime::FileNotFound);
-    CHECK(FailureOf(*this, "cmdOptimalMisc") == runtime::FileNotFound);
+    CHECK(FailureOfPress(*this, "cmdOptimalMisc") == runtime::FileNotFound);
     CHECK(Shown("chkPageFileDelete") == "1");
     CHECK(Shown("chkSecureWindows") == "1");
     CHECK(Shown("chkWindowsUpdate") == "0");
@@ -98,7 +94,7 @@ TEST_CASE_FIXTURE(Presets, "a UPnP command that does not start ends the recommen
 TEST_CASE_FIXTURE(Presets, "a UPnP command that does not start does not hold AutoTuning up") {
     AllOff();
     machine.faults.FailOn("regsvr32.exe", runtime::FileNotFound);
-    CHECK(FailureOf(*this, AutoTuningButton) == 0);
+    CHECK(FailureOfPress(*this, AutoTuningButton) == 0);
     CHECK(Shown("chkSecureWindows") == "1");
     CHECK(Shown("chkClearRecentDocs") == "1");
     CHECK(Shown("txtTTL") == "\"64\"");
@@ -108,7 +104,7 @@ TEST_CASE_FIXTURE(Presets,
                   "a missing Sysoc.inf ends the standard of the page Tweaks in the middle") {
     AllOn();
     machine.files.Take("C:\\WINDOWS\\inf\\Sysoc.inf");
-    CHECK(FailureOf(*this, "cmdNormalWindows2") == runtime::FileNotFound);
+    CHECK(FailureOfPress(*this, "cmdNormalWindows2") == runtime::FileNotFound);
     CHECK(Shown("chkHideWinComponents") == "0");
     CHECK(Shown("chkEncryptionContext") == "0");
     CHECK(Shown("chkCascadeExplorer") == "1");
@@ -118,7 +114,7 @@ TEST_CASE_FIXTURE(Presets,
 TEST_CASE_FIXTURE(Presets, "a failure while Analog is loaded leaves the rest of Analog out") {
     AllOff();
     EventOf("txtTTL") = Fail;
-    CHECK(FailureOf(*this, AnalogOption) == runtime::InvalidProcedureCall);
+    CHECK(FailureOfPress(*this, AnalogOption) == runtime::InvalidProcedureCall);
     CHECK(Shown(AnalogOption) == "selected");
     CHECK(Shown("txtRWIN") == "\"2144\"");
     CHECK(Shown("txtTTL") == "\"128\"");
@@ -129,7 +125,7 @@ TEST_CASE_FIXTURE(Presets, "a failure while Analog is loaded leaves the rest of 
 TEST_CASE_FIXTURE(Presets, "AutoTuning goes on behind an Analog that could not be loaded") {
     AllOff();
     EventOf("txtTTL") = Fail;
-    CHECK(FailureOf(*this, AutoTuningButton) == 0);
+    CHECK(FailureOfPress(*this, AutoTuningButton) == 0);
     CHECK(Shown(AnalogOption) == "selected");
     CHECK(Shown("cboHTTP10") == "\"8\"");
     CHECK(Shown("chkSACK") == "1");
@@ -150,7 +146,7 @@ TEST_CASE("whichever step fails ends the loading of a connection type there") {
             program.EventOf(type) = load;
             const PresetStates before = program.States();
             program.EventOf(steps[failing].control) = Fail;
-            CHECK(FailureOf(program, type) == runtime::InvalidProcedureCall);
+            CHECK(FailureOfPress(program, type) == runtime::InvalidProcedureCall);
             CHECK(program.Shown(type) == "selected");
             for (std::size_t at = 0; at < steps.size(); ++at) {
                 CAPTURE(steps[at].control);
@@ -165,7 +161,7 @@ TEST_CASE_FIXTURE(Presets, "a success that cannot be told is passed over, and al
     Isolate();
     machine.messages.WhileOpen(
         "AutoTuning", [&] { machine.faults.FailAll("MessageBox", runtime::InvalidProcedureCall); });
-    CHECK(FailureOf(*this, AutoTuningButton) == 0);
+    CHECK(FailureOfPress(*this, AutoTuningButton) == 0);
     for (const PresetStep& step : GoldenSteps(AutoTuningButton)) {
         CHECK(Shown(step.control) == step.value);
     }
@@ -176,6 +172,6 @@ TEST_CASE_FIXTURE(Presets, "a question that cannot be shown begins no AutoTuning
     AllOff();
     const PresetStates before = States();
     machine.faults.FailAll("MessageBox", runtime::InvalidProcedureCall);
-    CHECK(FailureOf(*this, AutoTuningButton) == 0);
+    CHECK(FailureOfPress(*this, AutoTuningButton) == 0);
     CHECK(States() == before);
 }

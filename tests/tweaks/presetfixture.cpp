@@ -10,30 +10,8 @@
 namespace tweak_tests {
 namespace {
 
-struct GoldenLine {
-    std::string preset;
-    PresetStep step;
-};
-
-std::vector<GoldenLine> ReadGoldenLines() {
-    std::vector<GoldenLine> all;
-    std::istringstream lines(FileText("tests/golden/presets.tsv"));
-    std::string line;
-    std::getline(lines, line);
-    while (std::getline(lines, line)) {
-        const std::size_t first = line.find('\t');
-        const std::size_t second = line.find('\t', first + 1);
-        if (second == std::string::npos || line.find('\t', second + 1) != std::string::npos) {
-            throw std::runtime_error("not three columns: " + line);
-        }
-        all.push_back({line.substr(0, first),
-                       {line.substr(first + 1, second - first - 1), line.substr(second + 1)}});
-    }
-    return all;
-}
-
-const std::vector<GoldenLine>& GoldenLines() {
-    static const std::vector<GoldenLine> lines = ReadGoldenLines();
+const std::vector<golden::PresetLine>& GoldenLines() {
+    static const auto lines = golden::PresetLines(FileText("tests/golden/presets.tsv"));
     return lines;
 }
 
@@ -76,7 +54,7 @@ std::string DoingOf(std::string line) {
 const Lines& GoldenPresets() {
     static const Lines names = [] {
         Lines found;
-        for (const GoldenLine& line : GoldenLines()) {
+        for (const auto& line : GoldenLines()) {
             if (std::find(found.begin(), found.end(), line.preset) == found.end()) {
                 found.push_back(line.preset);
             }
@@ -88,8 +66,8 @@ const Lines& GoldenPresets() {
 
 std::vector<PresetStep> GoldenSteps(const std::string& preset, bool passesMemoryTest) {
     std::vector<PresetStep> steps;
-    for (const GoldenLine& line : GoldenLines()) {
-        if (line.preset == preset) steps.push_back(line.step);
+    for (const auto& line : GoldenLines()) {
+        if (line.preset == preset) steps.push_back({line.control, line.value});
     }
     if (steps.empty()) throw std::runtime_error("no such preset: " + preset);
     for (PresetStep& step : steps) {

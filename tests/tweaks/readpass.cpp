@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "tweaks/pagefixture.h"
 
 using namespace tweak_tests;
@@ -259,12 +260,7 @@ TEST_CASE_FIXTURE(Options, "a menu delay that does not fit ends the read pass wh
     PutMachine(MemoryKey, "LargeSystemCache", DwordValue(1));
     PutUser(DesktopKey, "MenuShowDelay", TextValue("99999999999"));
     PutMachine(SystemKey, "ProductName", TextValue("Microsoft Windows XP"));
-    try {
-        passes.Read();
-        FAIL("the pass went on");
-    } catch (const runtime::Failure& failure) {
-        CHECK(failure.number == runtime::Overflow);
-    }
+    CHECK(FailureOf([&] { passes.Read(); }) == runtime::Overflow);
     // What came before is done, the box has its text, what comes after is not done.
     CHECK(State("chkLargeSystemCache") == 1);
     CHECK(Text("txtStartmenu") == "99999999999");

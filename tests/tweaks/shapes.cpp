@@ -4,6 +4,7 @@
 #include "platform/messages.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/combobox.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
@@ -245,12 +246,7 @@ TEST_CASE_FIXTURE(Shapes,
 TEST_CASE_FIXTURE(Shapes, "a text that does not convert is a failure and writes nothing") {
     const auto failureOf = [&](const char* content) {
         text.SetText(content);
-        try {
-            WriteOption(pass, CrossedRow);
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
+        return FailureOf([&] { WriteOption(pass, CrossedRow); });
     };
     combo.SetText("1");
     CHECK(failureOf("abc") == runtime::TypeMismatch);

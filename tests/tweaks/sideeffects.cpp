@@ -4,6 +4,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 #include "toolkit/combobox.h"
 #include "toolkit/form.h"
 #include "tweaks/presetfixture.h"
@@ -36,15 +37,6 @@ struct ClickEffects {
         return machine.settings.Stored(section, key).value_or("absent");
     }
     const Lines& Journal() { return machine.journal.Lines(); }
-    template <typename Action>
-    int FailureNumber(Action action) {
-        try {
-            action();
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
-    }
 };
 
 }  // namespace
@@ -79,7 +71,7 @@ TEST_CASE_FIXTURE(ClickEffects, "the grey state counts as not showing and not se
 
 TEST_CASE_FIXTURE(ClickEffects,
                   "a file that cannot be rewritten fails to whoever clicked, silently") {
-    CHECK(FailureNumber([&] { hide.SetValue(1); }) == runtime::FileNotFound);
+    CHECK(FailureOf([&] { hide.SetValue(1); }) == runtime::FileNotFound);
     CHECK(hide.Value() == 1);
     CHECK(Stored("WinComponents", "Show") == "true");
     CHECK(machine.messages.Shown().empty());
@@ -88,8 +80,8 @@ TEST_CASE_FIXTURE(ClickEffects,
 TEST_CASE_FIXTURE(ClickEffects, "a state that cannot be remembered has no effect") {
     machine.files.Put(SysocPath, "a,HIDE,7\r\n");
     machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
-    CHECK(FailureNumber([&] { hide.SetValue(1); }) == runtime::InvalidProcedureCall);
-    CHECK(FailureNumber([&] { secure.SetValue(1); }) == runtime::InvalidProcedureCall);
+    CHECK(FailureOf([&] { hide.SetValue(1); }) == runtime::InvalidProcedureCall);
+    CHECK(FailureOf([&] { secure.SetValue(1); }) == runtime::InvalidProcedureCall);
     CHECK(machine.files.Content(SysocPath) == "a,HIDE,7\r\n");
     CHECK(machine.journal.Calls("OpenTextFile").empty());
     CHECK(Journal().size() == 2);
@@ -118,7 +110,7 @@ TEST_CASE_FIXTURE(ClickEffects, "undoing it starts the registering; two clicks a
 TEST_CASE_FIXTURE(ClickEffects,
                   "a process that does not start fails, and the state stays remembered") {
     machine.faults.FailOn("regsvr32", runtime::FileNotFound);
-    CHECK(FailureNumber([&] { secure.SetValue(1); }) == runtime::FileNotFound);
+    CHECK(FailureOf([&] { secure.SetValue(1); }) == runtime::FileNotFound);
     CHECK(Stored("SecureWindows", "Regged") == "true");
 }
 
@@ -221,7 +213,7 @@ TEST_CASE_FIXTURE(ClickEffects, "the user's own window lasts until the packet si
 TEST_CASE_FIXTURE(ClickEffects,
                   "a packet size beyond every number is an overflow of whoever set it") {
     mtu.SetText("1500");
-    CHECK(FailureNumber([&] { mtu.SetText("1e999"); }) == runtime::Overflow);
+    CHECK(FailureOf([&] { mtu.SetText("1e999"); }) == runtime::Overflow);
     CHECK(rwin.Text() == "5840");
 }
 
@@ -231,10 +223,10 @@ TEST_CASE_FIXTURE(ClickEffects,
     CHECK(rwin.Text() == "1,796E+308");
     for (const char* packet : {"4.5e307", "1e308", "-1.7e308"}) {
         CAPTURE(packet);
-        CHECK(FailureNumber([&] { mtu.SetText(packet); }) == runtime::Overflow);
+        CHECK(FailureOf([&] { mtu.SetText(packet); }) == runtime::Overflow);
         CHECK(mtu.Text() == packet);
     }
-    CHECK(FailureNumber([&] { mtu.SetText(std::string(308, '9')); }) == runtime::Overflow);
+    CHECK(FailureOf([&] { mtu.SetText(std::string(308, '9')); }) == runtime::Overflow);
     CHECK(rwin.Text() == "1,796E+308");
 }
 

@@ -4,6 +4,7 @@
 
 #include "runtime/failure.h"
 #include "runtime/number.h"
+#include "support/failureof.h"
 #include "tweaks/pagefixture.h"
 
 using namespace tweak_tests;
@@ -78,12 +79,7 @@ TEST_CASE_FIXTURE(LinkedControls, "a number that does not fit fails to whoever s
     slider.SetValue(120);
     for (const char* text : {"2147483648", "-2147483649", "1e300"}) {
         CAPTURE(text);
-        try {
-            box.SetText(text);
-            FAIL("nothing was raised");
-        } catch (const runtime::Failure& failure) {
-            CHECK(failure.number == runtime::Overflow);
-        }
+        CHECK(FailureOf([&] { box.SetText(text); }) == runtime::Overflow);
         CHECK(box.Text() == text);
         CHECK(slider.Value() == 120);
     }

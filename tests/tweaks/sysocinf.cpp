@@ -4,6 +4,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using namespace std::string_literals;
 using Lines = std::vector<std::string>;
@@ -26,12 +27,7 @@ struct Windows {
         return Rewritten(content, true);
     }
     int FailureNumber(bool show = true) {
-        try {
-            tweaks::RewriteSysocInf(machine.services, show);
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
+        return FailureOf([&] { tweaks::RewriteSysocInf(machine.services, show); });
     }
 };
 

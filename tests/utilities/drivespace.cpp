@@ -6,6 +6,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using platform::simulated::Machine;
 using utilities::clsGetDriveSpace;
@@ -29,12 +30,7 @@ std::string Bytes(std::initializer_list<int> codes) {
 }
 
 bool Overflows(const std::string& text) {
-    try {
-        clsGetDriveSpace::ver(text);
-    } catch (const runtime::Failure& failure) {
-        return failure.number == runtime::Overflow;
-    }
-    return false;
+    return FailureOf([&] { clsGetDriveSpace::ver(text); }) == runtime::Overflow;
 }
 
 }  // namespace

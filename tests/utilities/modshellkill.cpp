@@ -4,6 +4,7 @@
 
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 using platform::simulated::Machine;
 using namespace utilities;
@@ -19,12 +20,7 @@ struct ShellKillFixture {
     ShellKillFixture() { machine.files.Put(Path, "x"); }
 
     int NumberOf(std::string_view path) {
-        try {
-            FileIsLocked(machine.files, path);
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
+        return FailureOf([&] { FileIsLocked(machine.files, path); });
     }
 };
 

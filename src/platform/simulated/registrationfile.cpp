@@ -1,4 +1,5 @@
-// Reads registration files. They are test data, so anything that is not understood is an error.
+#include "platform/simulated/registrationfile.h"
+
 #include <algorithm>
 #include <charconv>
 #include <stdexcept>
@@ -95,9 +96,57 @@ std::vector<std::uint8_t> HexBytes(const Lines& lines, std::string_view list) {
     return bytes;
 }
 
-// Texts stand in the file in UTF-16, two bytes a unit, and reach the A calls in the code page.
-std::vector<std::uint8_t> NarrowedUnits(const Lines& lines, std::vector<std::uint8_t> units) {
-    if (units.size() % 2 != 0) lines.Refuse("half a character at the end of a text");
+// Takes the value's data into the line.
+void TakeData(const Lines& lines, std::string_view text, RegistrationLine& line) {
+    if (text == "-") {
+        line.removes = true;
+    } else if (text.starts_with('"')) {
+        line.type = platform::Registry::String;
+        line.text = TakeQuoted(lines, text);
+        if (!text.empty()) lines.Refuse("something stands behind the text");
+    } else if (TakePrefix(text, "dword:")) {
+        const StoredValue number = DwordValue(HexNumber(lines, text, 8));
+        line.type = number.type;
+        line.data = number.bytes;
+    } else if (TakePrefix(text, "hex:")) {
+        line.type = platform::Registry::Binary;
+        line.data = HexBytes(lines, text);
+    } else {
+        if (!TakePrefix(text, "hex(")) {
+            lines.Refuse("unknown data \"" + std::string(text) + "\"");
+        }
+        const std::size_t end = text.find("):");
+        if (end == std::string_view::npos) lines.Refuse("the type has no end");
+        line.type = HexNumber(lines, text.substr(0, end), 8);
+        line.data = HexBytes(lines, text.substr(end + 2));
+        if (IsTextType(line.type) && line.data.size() % 2 != 0) {
+            lines.Refuse("half a character at the end of a text");
+        }
+    }
+}
+
+RegistrationLine KeyOf(const Lines& lines, std::string_view text) {
+    constexpr std::pair<std::string_view, Registry::Key> Roots[] = {
+        {"HKEY_CLASSES_ROOT", Registry::ClassesRoot},
+        {"HKEY_CURRENT_USER", Registry::CurrentUser},
+        {"HKEY_LOCAL_MACHINE", Registry::LocalMachine},
+    };
+    if (!text.ends_with(']')) lines.Refuse("the key has no end");
+    text.remove_suffix(1);
+    RegistrationLine line;
+    line.removes = TakePrefix(text, "-");
+    const std::string_view rootName = text.substr(0, text.find('\\'));
+    for (const auto& [name, root] : Roots) {
+        if (rootName == name) line.root = root;
+    }
+    if (line.root == 0) lines.Refuse("unknown root \"" + std::string(rootName) + "\"");
+    line.key = text.substr(std::min(rootName.size() + 1, text.size()));
+    return line;
+}
+
+// Texts in bytes stand in the file in UTF-16, two bytes a unit, and reach the A calls in the code
+// page.
+std::vector<std::uint8_t> NarrowedUnits(const std::vector<std::uint8_t>& units) {
     std::vector<std::uint8_t> bytes;
     for (std::size_t i = 0; i < units.size(); i += 2) {
         auto unit = static_cast<char32_t>(units[i] | units[i + 1] << 8);
@@ -106,75 +155,48 @@ std::vector<std::uint8_t> NarrowedUnits(const Lines& lines, std::vector<std::uin
     return bytes;
 }
 
-StoredValue ValueOf(const Lines& lines, std::string_view text) {
-    if (text.starts_with('"')) {
-        StoredValue value = TextValue(TakeQuoted(lines, text));
-        if (!text.empty()) lines.Refuse("something stands behind the text");
-        return value;
-    }
-    if (TakePrefix(text, "dword:")) return DwordValue(HexNumber(lines, text, 8));
-    if (TakePrefix(text, "hex:")) return {platform::Registry::Binary, HexBytes(lines, text)};
-    if (!TakePrefix(text, "hex(")) lines.Refuse("unknown data \"" + std::string(text) + "\"");
-    const std::size_t end = text.find("):");
-    if (end == std::string_view::npos) lines.Refuse("the type has no end");
-    StoredValue value{HexNumber(lines, text.substr(0, end), 8),
-                      HexBytes(lines, text.substr(end + 2))};
-    if (IsTextType(value.type)) value.bytes = NarrowedUnits(lines, std::move(value.bytes));
-    return value;
-}
-
-struct KeyLine {
-    Registry::Key root = 0;
-    std::string path;
-    bool removes = false;
-};
-
-KeyLine KeyOf(const Lines& lines, std::string_view text) {
-    constexpr std::pair<std::string_view, Registry::Key> Roots[] = {
-        {"HKEY_CLASSES_ROOT", Registry::ClassesRoot},
-        {"HKEY_CURRENT_USER", Registry::CurrentUser},
-        {"HKEY_LOCAL_MACHINE", Registry::LocalMachine},
-    };
-    if (!text.ends_with(']')) lines.Refuse("the key has no end");
-    text.remove_suffix(1);
-    KeyLine key;
-    key.removes = TakePrefix(text, "-");
-    const std::string_view rootName = text.substr(0, text.find('\\'));
-    for (const auto& [name, root] : Roots) {
-        if (rootName == name) key.root = root;
-    }
-    if (key.root == 0) lines.Refuse("unknown root \"" + std::string(rootName) + "\"");
-    key.path = text.substr(std::min(rootName.size() + 1, text.size()));
-    return key;
+StoredValue ValueOf(const RegistrationLine& line) {
+    if (line.text) return TextValue(*line.text);
+    return {line.type, IsTextType(line.type) ? NarrowedUnits(line.data) : line.data};
 }
 
 }  // namespace
 
-void Registry::Load(std::string_view registrationText) {
+std::vector<RegistrationLine> ReadRegistrationFile(std::string_view registrationText) {
     TakePrefix(registrationText, "\xEF\xBB\xBF");
     Lines lines(registrationText);
     std::string line;
     if (!lines.Next(line) || line != Header) lines.Refuse("the header is missing");
-    std::optional<KeyLine> key;
+    std::vector<RegistrationLine> read;
+    std::optional<RegistrationLine> key;
     while (lines.Next(line)) {
         std::string_view text = line;
         if (text.empty() || text.front() == ';') continue;
         if (TakePrefix(text, "[")) {
             key = KeyOf(lines, text);
-            if (key->removes) {
-                EraseKey(key->root, key->path);
-            } else {
-                MakeKey(key->root, key->path);
-            }
+            read.push_back(*key);
             continue;
         }
         if (!key || key->removes) lines.Refuse("a value without a key");
-        const std::string name = TakePrefix(text, "@") ? "" : TakeQuoted(lines, text);
+        RegistrationLine value = *key;
+        value.name = TakePrefix(text, "@") ? "" : TakeQuoted(lines, text);
         if (!TakePrefix(text, "=")) lines.Refuse("the equals sign is missing");
-        if (text == "-") {
-            Erase(key->root, key->path, name);
+        TakeData(lines, text, value);
+        read.push_back(value);
+    }
+    return read;
+}
+
+void Registry::Load(std::string_view registrationText) {
+    for (const RegistrationLine& line : ReadRegistrationFile(registrationText)) {
+        if (!line.name && line.removes) {
+            EraseKey(line.root, line.key);
+        } else if (!line.name) {
+            MakeKey(line.root, line.key);
+        } else if (line.removes) {
+            Erase(line.root, line.key, *line.name);
         } else {
-            Put(key->root, key->path, name, ValueOf(lines, text));
+            Put(line.root, line.key, *line.name, ValueOf(line));
         }
     }
 }

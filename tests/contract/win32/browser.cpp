@@ -10,6 +10,7 @@
 
 #include "platform/win32/text.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -92,16 +93,6 @@ struct Registered {
         CoUninitialize();
     }
 };
-
-template <typename Action>
-int FailureOf(Action action) {
-    try {
-        action();
-    } catch (const runtime::Failure& failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 }  // namespace
 

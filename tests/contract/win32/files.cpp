@@ -7,6 +7,7 @@
 #include "platform/win32/handle.h"
 #include "platform/win32/text.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 // Ways in which a real disk refuses.
 
@@ -19,12 +20,7 @@ struct WindowsFilesFixture {
     platform::Files& files = machine.Services().files;
 
     int NumberOf(std::string_view path) {
-        try {
-            files.Close(files.OpenForAppend(path));
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
+        return FailureOf([&] { files.Close(files.OpenForAppend(path)); });
     }
 };
 

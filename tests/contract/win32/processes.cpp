@@ -8,6 +8,7 @@
 #include "contract/win32/child.h"
 #include "platform/files.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 namespace {
 
@@ -81,12 +82,7 @@ TEST_CASE("a start fails by the number that fits: no file, no path, no program")
     contract::TestMachine machine;
     auto& files = machine.Services().files;
     const auto numberOf = [&](const std::string& commandLine) {
-        try {
-            machine.Services().processes.Start('"' + commandLine + '"', 1);
-        } catch (const runtime::Failure& failure) {
-            return failure.number;
-        }
-        return 0;
+        return FailureOf([&] { machine.Services().processes.Start('"' + commandLine + '"', 1); });
     };
     CHECK(numberOf(machine.FilePath("absent.exe")) == runtime::FileNotFound);
     // Which one of the two it is differs between systems.

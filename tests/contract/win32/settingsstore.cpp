@@ -5,6 +5,7 @@
 #include "contract/machine.h"
 #include "platform/registry.h"
 #include "runtime/failure.h"
+#include "support/failureof.h"
 
 // Where the store lies, and what it makes of what others put there.
 
@@ -92,11 +93,7 @@ TEST_CASE_FIXTURE(WindowsSettingsStoreFixture,
                   "a store that cannot be written fails as an invalid call") {
     // No key may have so long a name.
     const std::string section(300, 'x');
-    try {
-        store.Save(Title, section, "Tab", "1");
-        FAIL("the text was stored");
-    } catch (const runtime::Failure& failure) {
-        CHECK(failure.number == runtime::InvalidProcedureCall);
-    }
+    CHECK(FailureOf([&] { store.Save(Title, section, "Tab", "1"); }) ==
+          runtime::InvalidProcedureCall);
     CHECK(store.Get(Title, section, "Tab", "fallback") == "fallback");
 }

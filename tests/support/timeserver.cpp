@@ -1,4 +1,4 @@
-#include "contract/win32/timeserver.h"
+#include "support/timeserver.h"
 
 #include <utility>
 

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "contract/serveranswer.h"
+#include "support/serveranswer.h"
 
 namespace contract {
 
