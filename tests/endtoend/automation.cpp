@@ -81,9 +81,9 @@ std::string ClassOf(HWND window) {
     return FromWide({name, static_cast<std::size_t>(GetClassNameW(window, name, 256))});
 }
 
-LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam, unsigned patience) {
     DWORD_PTR answer = 0;
-    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, Patience, &answer)) {
+    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, patience, &answer)) {
         throw Failed("no answer from window \"" + NameOf(window) + "\"");
     }
     return static_cast<LRESULT>(answer);

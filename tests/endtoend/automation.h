@@ -107,6 +107,7 @@ class Application {
 };
 
 // Sends the message, waiting a bounded time. Throws Failed when the window does not answer.
-LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0,
+             unsigned patience = Patience);
 
 }  // namespace endtoend

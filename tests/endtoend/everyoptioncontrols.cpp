@@ -33,10 +33,6 @@ bool FollowsAnother(const std::string& name) {
     return name == "txtRWIN";
 }
 
-void ReplaceText(HWND window, const std::wstring& text) {
-    Send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
-}
-
 MessageBox WaitAnyBox(const Application& program, const std::string& title) {
     MessageBox box;
     Until("the message box \"" + title + "\"", [&] {
@@ -53,6 +49,11 @@ bool Fits(const std::string& text, const std::string& expected) {
 }
 
 }  // namespace
+
+void ReplaceText(HWND window, const std::string& text) {
+    Send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(platform::win32::ToWide(text).c_str()),
+         4 * Patience);
+}
 
 OptionControls::OptionControls(const Application& program) : program_(program) {
     for (HWND window : WindowsBelow(program.Wait("frmMain"))) windows_[NameOf(window)] = window;
@@ -77,13 +78,19 @@ ControlStates OptionControls::Shown() const {
     return states;
 }
 
-void OptionControls::SetOne(const std::string& name, const std::string& wanted) const {
+bool OptionControls::IsToChange(const std::string& name, const std::string& wanted) const {
     const HWND window = Window(name);
-    if (name.starts_with("lbl") || !IsWindowEnabled(window)) return;
+    if (name.starts_with("lbl") || !IsWindowEnabled(window)) return false;
+    if (!name.starts_with("chk")) return TextOf(window) != wanted;
+    return (Send(window, BM_GETCHECK) == BST_CHECKED) != (wanted == "1");
+}
+
+void OptionControls::SetOne(const std::string& name, const std::string& wanted) const {
+    if (!IsToChange(name, wanted)) return;
+    const HWND window = Window(name);
     if (!name.starts_with("chk")) {
-        if (TextOf(window) == wanted) return;
-        ReplaceText(window, platform::win32::ToWide(wanted));
-    } else if ((Send(window, BM_GETCHECK) == BST_CHECKED) != (wanted == "1")) {
+        ReplaceText(window, wanted);
+    } else {
         if (!IsWindowVisible(window)) throw Failed(name + " is not to be seen");
         Send(window, BM_CLICK);
     }
@@ -93,7 +100,7 @@ void OptionControls::Set(const ControlStates& wanted) const {
     const std::vector<std::string> tabs = program_.TabCaptions();
     for (std::size_t page = 0; page < tabs.size(); ++page) {
         const bool any = std::any_of(wanted.begin(), wanted.end(), [&](const auto& entry) {
-            return PageOf(entry.first) == tabs[page];
+            return PageOf(entry.first) == tabs[page] && IsToChange(entry.first, entry.second);
         });
         if (!any) continue;
         program_.OpenTab(static_cast<int>(page));

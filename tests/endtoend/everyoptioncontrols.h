@@ -23,16 +23,21 @@ class OptionControls {
     bool Enabled(const std::string& name) const { return IsWindowEnabled(Window(name)) != FALSE; }
 
     // Clicks the check boxes that differ and sets the texts that differ, page after page as a user
-    // comes by them. Labels and disabled boxes stay. The window size, which follows the packet
-    // size, is set behind it.
+    // comes by them, but for the pages on which nothing differs. Labels and disabled boxes stay.
+    // The window size, which follows the packet size, is set behind it.
     void Set(const ControlStates& wanted) const;
 
   private:
+    bool IsToChange(const std::string& name, const std::string& wanted) const;
     void SetOne(const std::string& name, const std::string& wanted) const;
 
     const Application& program_;
     std::map<std::string, HWND> windows_;
 };
+
+// Puts a text in as a program does, visible or not. Wine may take seconds of the processor's time
+// for tens of thousands of characters.
+void ReplaceText(HWND window, const std::string& text);
 
 // One line for each control that is not as it should be.
 std::vector<std::string> WrongStates(const ControlStates& expected, const ControlStates& shown);
