@@ -130,18 +130,18 @@ std::vector<HWND> Application::Forms() const {
     return forms;
 }
 
-// Each step of a walk is a question to Wine's server, which the program waits for as well: a
-// control once found is only looked at again.
+// Each step of a walk is a question to Wine's server, which the program waits for as well: what one
+// walk has found is only looked at again.
 HWND Application::FindBelow(HWND form, ATOM name) const {
-    HWND& known = known_[{form, name}];
-    if (known && NameAtomOf(known) == name && GetAncestor(known, GA_ROOT) == form) return known;
-    known = nullptr;
-    for (HWND window : WindowsBelow(form)) {
-        if (NameAtomOf(window) != name) continue;
-        known = window;
-        break;
+    const auto known = known_.find({form, name});
+    if (known != known_.end() && NameAtomOf(known->second) == name &&
+        GetAncestor(known->second, GA_ROOT) == form) {
+        return known->second;
     }
-    return known;
+    std::erase_if(known_, [&](const auto& entry) { return entry.first.first == form; });
+    for (HWND window : WindowsBelow(form)) known_.try_emplace({form, NameAtomOf(window)}, window);
+    const auto found = known_.find({form, name});
+    return found == known_.end() ? nullptr : found->second;
 }
 
 HWND Application::Find(const std::string& name) const {

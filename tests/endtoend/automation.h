@@ -102,7 +102,7 @@ class Application {
     HWND FindBelow(HWND form, ATOM name) const;
 
     DWORD process_;
-    // Where a name was last found below a form.
+    // Where each name was last found below a form.
     mutable std::map<std::pair<HWND, ATOM>, HWND> known_;
 };
 
