@@ -80,7 +80,7 @@ void ReadKey(const std::string& path, RegistryState& state) {
         state[KeyPath({path.substr(0, 4), path.substr(5) + '\\' + FromWide({name, size}), ""})] =
             std::nullopt;
     }
-    std::string bytes(4 * 65536, '\0');
+    static std::string bytes(4 * 65536, '\0');
     DWORD type = 0;
     auto count = static_cast<DWORD>(bytes.size());
     size = 1024;
