@@ -160,8 +160,8 @@ std::uint16_t TestMachine::RefusingPort() {
     return ++inside_->lastPort;
 }
 
-bool TestMachine::HidesBreaks() const {
-    return false;
+int TestMachine::NumberOfBreak() const {
+    return 10054;
 }
 
 bool TestMachine::LacksWorkstationService() const {

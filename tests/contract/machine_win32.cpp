@@ -19,15 +19,12 @@
 #include "platform/win32/handle.h"
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
+#include "support/wineversion.h"
 #include "toolkit/form.h"
 
 namespace contract {
 
 namespace {
-
-bool IsWine() {
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
 
 namespace win32 = platform::win32;
 
@@ -356,12 +353,13 @@ std::uint16_t TestMachine::RefusingPort() {
     return TimeServer({}).Port();
 }
 
-bool TestMachine::HidesBreaks() const {
-    return IsWine();
+int TestMachine::NumberOfBreak() const {
+    if (WineVersion() == 0) return WSAECONNRESET;
+    return WineVersion() < 10 ? 0 : WSAECONNABORTED;
 }
 
 bool TestMachine::LacksWorkstationService() const {
-    return IsWine();
+    return WineVersion() != 0;
 }
 
 platform::SystemClock& TestMachine::NotingClock() {

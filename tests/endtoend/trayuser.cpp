@@ -75,8 +75,11 @@ void TrayUser::DoubleClickIcon() {
     const HWND taskbar = FindWindowW(L"Shell_TrayWnd", nullptr);
     RECT area = {};
     GetClientRect(taskbar, &area);
-    PostMessageW(taskbar, WM_LBUTTONDBLCLK, MK_LBUTTON,
-                 MAKELPARAM(area.right - HalfAnIcon, area.bottom / 2));
+    POINT middle = {area.right - HalfAnIcon, area.bottom / 2};
+    // Wine 8 draws the icons into the taskbar, Wine 10 gives each a window of its own.
+    const HWND icon = ChildWindowFromPoint(taskbar, middle);
+    MapWindowPoints(taskbar, icon, &middle, 1);
+    PostMessageW(icon, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(middle.x, middle.y));
 }
 
 void TrayUser::TellStart() {
