@@ -1,6 +1,8 @@
 // The program's own dialogs as native windows, over and over.
 #include <doctest/doctest.h>
 
+#include <algorithm>
+
 #include "controls/frmabout.h"
 #include "controls/frmfirstinfo.h"
 #include "controls/frmpassword.h"
@@ -10,6 +12,7 @@
 #include "utilities/frmshowallloggedinusers.h"
 #include "utilities/frmsysteminformation.h"
 #include "utilities/frmvirtualdrive.h"
+#include "utilities/systemreport.h"
 #include "windows/desk.h"
 #include "windows/resources.h"
 
@@ -52,14 +55,36 @@ struct DialogsFixture {
         // One left behind each time would be a thousand; the system keeps a few of its own.
         CHECK(DrawingObjects() <= objects + 20);
         CHECK(Handles() <= handles + 20);
-        CHECK(PrivateMemory() <= memory + 256 * 1024);
+        CHECK(PrivateMemory() <= memory + systemKeeps + 256 * 1024);
     }
 
+    // What the system itself keeps of a thousand windows like those of the dialog.
+    std::size_t systemKeeps = 0;
     Desk desk;
     platform::simulated::Machine simulated;
     platform::Machine machine =
         platform::simulated::With(simulated.services, {.forms = &desk.host});
 };
+
+// A bare edit field with a tab stop, which Wine 10 does not give back as a whole.
+void OpenAndCloseField(const std::wstring& text) {
+    const HWND window = CreateWindowExW(
+        0, L"EDIT", L"",
+        WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
+        0, 0, 640, 400, nullptr, nullptr, nullptr, nullptr);
+    const UINT distance = 80;
+    SendMessageW(window, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&distance));
+    SetWindowTextW(window, text.c_str());
+    ServeQueue();
+    DestroyWindow(window);
+}
+
+std::size_t KeptOfFields(const std::wstring& text) {
+    for (int i = 0; i < 50; ++i) OpenAndCloseField(text);
+    const std::size_t memory = PrivateMemory();
+    for (int i = 0; i < 1000; ++i) OpenAndCloseField(text);
+    return std::max(PrivateMemory(), memory) - memory;
+}
 
 }  // namespace
 
@@ -76,6 +101,7 @@ TEST_CASE_FIXTURE(DialogsFixture, "a thousand questions for the password leave n
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "a thousand reports on the system leave nothing behind") {
+    systemKeeps = KeptOfFields(platform::win32::ToWide(utilities::SystemReport(machine)));
     LeavesNothing<utilities::frmSystemInformation>();
 }
 
