@@ -2,6 +2,7 @@
 
 #include "endtoend/lines.h"
 #include "endtoend/lists.h"
+#include "endtoend/pages.h"
 #include "endtoend/realkeys.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/text.h"
@@ -12,7 +13,6 @@ namespace {
 using platform::win32::FromWide;
 using platform::win32::ToWide;
 
-constexpr int CleanUpPage = 3;
 constexpr int DeselectAll = 2;
 
 std::string WindowsTemp() {

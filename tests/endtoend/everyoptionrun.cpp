@@ -29,7 +29,7 @@ PassOutcome PredictStart(const PredictedRegistry& registry, const Workplace& wor
 }
 
 // What the fields make of texts that come from outside: cut to what they take.
-ControlStates AsShown(ControlStates states) {
+ControlStates TextsAsShown(ControlStates states) {
     for (auto& [name, state] : states) {
         const std::size_t limit = LengthLimitOf(name);
         if (limit) state = FirstCharacters(state, limit);
@@ -141,7 +141,7 @@ void OptionRun::Set(ControlStates wanted) {
     }
     wanted["txtProductId"] = states_["txtProductId"];
     controls_->Set(wanted);
-    states_ = AsShown(wanted);
+    states_ = TextsAsShown(wanted);
     CompareControls("when set: ");
 }
 

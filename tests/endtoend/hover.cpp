@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <functional>
 
+#include "endtoend/pages.h"
 #include "endtoend/workplace.h"
 #include "support/screenpicture.h"
 
 namespace endtoend {
 namespace {
 
-constexpr int UtilitiesPage = 7;
 // As the rows of a picture hold it, not as a COLORREF.
 constexpr DWORD Red = 0xFF0000;
 

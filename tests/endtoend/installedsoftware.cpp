@@ -9,6 +9,7 @@
 #include "endtoend/lines.h"
 #include "endtoend/lists.h"
 #include "endtoend/looks.h"
+#include "endtoend/pages.h"
 #include "endtoend/registrystate.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
@@ -18,8 +19,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr int UtilitiesPage = 7;
-constexpr char Dialog[] = "frmInstalledSoftware";
+constexpr char SoftwareForm[] = "frmInstalledSoftware";
 constexpr char UninstallKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
 // Entries beside those that the system has; they go with this object.
@@ -47,7 +47,7 @@ class Entries {
     Texts made_;
 };
 
-struct Dialogue {
+struct SoftwareDialogue {
     Entries entries;
     Workplace workplace;
     OpenProgram program{workplace};
@@ -57,7 +57,7 @@ struct Dialogue {
     void Open() {
         program.OpenTab(UtilitiesPage);
         program.Click("cmdInstalledSoftware");
-        program.Wait(Dialog);
+        program.Wait(SoftwareForm);
         rows = Rows(program.Wait("lvwSoftware"));
     }
     int RowOf(const std::string& name) const {
@@ -91,11 +91,11 @@ struct Dialogue {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Dialogue, "five hundred entries are listed where they are complete") {
+TEST_CASE_FIXTURE(SoftwareDialogue, "five hundred entries are listed where they are complete") {
     Open();
     const int own = rows.Count();
-    program.PressKey(Dialog, VK_ESCAPE);
-    program.WaitGone(Dialog);
+    program.PressKey(SoftwareForm, VK_ESCAPE);
+    program.WaitGone(SoftwareForm);
     for (int number = 100; number < 600; ++number) {
         const std::string key = "Qm" + std::to_string(number);
         if (number % 5 != 0) entries.Put(key, "DisplayName", "Größe " + key);
@@ -112,21 +112,21 @@ TEST_CASE_FIXTURE(Dialogue, "five hundred entries are listed where they are comp
     CHECK(rows.Texts(row) == Texts{"Größe Qm101", "Qm101", "Qm101.exe"});
     CHECK(RowOf("Größe Qm105") == -1);
     CHECK(RowOf("Größe Qm112") == -1);
-    CHECK(Joined(Crooked(program, program.Find(Dialog))) == "");
+    CHECK(Joined(Crooked(program, program.Find(SoftwareForm))) == "");
 
     program.Click("cmdFindInvalidLinks");
     Until("the empty list", [&] { return rows.Count() == 0; });
     CHECK(Found() == "Gefunden: 0 Anwendungen");
-    program.PressKey(Dialog, VK_F5);
+    program.PressKey(SoftwareForm, VK_F5);
     Until("the full list", [&] { return rows.Count() == own + complete; });
     rows.ClickHeader(0);
     Until("the order", [&] { return rows.Texts(0)[0] > rows.Texts(1)[0]; });
     program.Click("frmInstalledSoftware.cmdOK");
-    program.WaitGone(Dialog);
+    program.WaitGone(SoftwareForm);
     CHECK(workplace.Log() == "");
 }
 
-TEST_CASE_FIXTURE(Dialogue,
+TEST_CASE_FIXTURE(SoftwareDialogue,
                   "an uninstaller is started and watched, and the list read when it ends") {
     const StandIn uninstaller(workplace.Folder() + "\\weg.exe");
     entries.Seed("QmA", "Quillmore A", uninstaller.Path() + " /u");
@@ -144,7 +144,7 @@ TEST_CASE_FIXTURE(Dialogue,
         // Longer than the watch looks away, which is half a second.
         Sleep(750);
         CHECK(RowOf("Quillmore A") == row);
-        CHECK(program.Responds(Dialog));
+        CHECK(program.Responds(SoftwareForm));
         hold.LetGo();
         WaitGone("Quillmore A");
         CHECK(RowOf("Quillmore B") == row);
@@ -153,7 +153,7 @@ TEST_CASE_FIXTURE(Dialogue,
     CHECK(workplace.Log() == "");
 }
 
-TEST_CASE_FIXTURE(Dialogue,
+TEST_CASE_FIXTURE(SoftwareDialogue,
                   "several uninstallers start at once, and the dialog may close meanwhile") {
     const StandIn first(workplace.Folder() + "\\eins.exe");
     const StandIn last(workplace.Folder() + "\\zwei.exe");
@@ -168,14 +168,14 @@ TEST_CASE_FIXTURE(Dialogue,
     last.WaitStart();
     CHECK(first.WasStarted());
     CHECK(last.WasStarted());
-    program.PressKey(Dialog, VK_ESCAPE);
-    program.WaitGone(Dialog);
+    program.PressKey(SoftwareForm, VK_ESCAPE);
+    program.WaitGone(SoftwareForm);
     hold.LetGo();
     program.CloseAndWait();
     CHECK(workplace.Log() == "");
 }
 
-TEST_CASE_FIXTURE(Dialogue, "an uninstaller that cannot be started is told") {
+TEST_CASE_FIXTURE(SoftwareDialogue, "an uninstaller that cannot be started is told") {
     entries.Seed("QmA", "Quillmore A", workplace.Folder() + "\\fehlt.exe");
     Open();
     Select("Quillmore A");
@@ -187,7 +187,7 @@ TEST_CASE_FIXTURE(Dialogue, "an uninstaller that cannot be started is told") {
     CHECK(RowOf("Quillmore A") >= 0);
 }
 
-TEST_CASE_FIXTURE(Dialogue, "entries are deleted by the name that they show") {
+TEST_CASE_FIXTURE(SoftwareDialogue, "entries are deleted by the name that they show") {
     entries.Seed("Quillmore A", "Quillmore A", "x.exe");
     entries.Seed("QmB", "Quillmore B", "x.exe");
     Open();

@@ -1,6 +1,7 @@
 // The main window by the keyboard alone.
 #include <doctest/doctest.h>
 
+#include "endtoend/pages.h"
 #include "endtoend/realkeys.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
@@ -9,7 +10,6 @@ namespace endtoend {
 namespace {
 
 constexpr int LastPage = 7;
-constexpr int ShortcutsPage = 6;
 
 struct Keyboard {
     Workplace workplace;

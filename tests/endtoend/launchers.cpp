@@ -7,6 +7,7 @@
 
 #include "endtoend/lines.h"
 #include "endtoend/looks.h"
+#include "endtoend/pages.h"
 #include "endtoend/registrystate.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
@@ -14,8 +15,6 @@
 namespace endtoend {
 namespace {
 
-constexpr int ShortcutsPage = 6;
-constexpr int UtilitiesPage = 7;
 constexpr char NormalWindow[] = "1";
 
 struct Tool {
@@ -60,14 +59,10 @@ const Tool Others[] = {
 
 constexpr char CheckTitle[] = "Überprüfung der Windows XP Systemdateien";
 
-std::string PathOf(const Tool& tool) {
+std::string PathOfTool(const Tool& tool) {
     const std::string path = WindowsFolder() + tool.file;
     // Started without it, found with it.
     return path.ends_with("msconfig") ? path + ".exe" : path;
-}
-
-std::string FolderOf(const std::string& path) {
-    return path.substr(0, path.find_last_of('\\'));
 }
 
 // The program on its page of tools.
@@ -127,7 +122,7 @@ std::string ConsoleOf(const Started& started) {
 template <typename Place, std::size_t Count>
 std::vector<std::unique_ptr<Place>> At(const Tool (&tools)[Count]) {
     std::vector<std::unique_ptr<Place>> places;
-    for (const Tool& tool : tools) places.push_back(std::make_unique<Place>(PathOf(tool)));
+    for (const Tool& tool : tools) places.push_back(std::make_unique<Place>(PathOfTool(tool)));
     return places;
 }
 
@@ -186,8 +181,8 @@ TEST_CASE_FIXTURE(OpenPage, "a label of a console has the shell open it in the c
         CAPTURE(console.label);
         program.Click(console.label);
         const Started started = host->WaitStart();
-        CHECK(InLowerCase(started.folder) == InLowerCase(FolderOf(PathOf(console))));
-        CHECK(ConsoleOf(started) == InLowerCase(PathOf(console)));
+        CHECK(InLowerCase(started.folder) == InLowerCase(FolderOf(PathOfTool(console))));
+        CHECK(ConsoleOf(started) == InLowerCase(PathOfTool(console)));
         CHECK(started.show == NormalWindow);
     }
     CHECK(workplace.Log() == "");

@@ -24,7 +24,7 @@ const Known WindowButtons[] = {
     {"cmdEnd", "chameleonButton", nullptr},
 };
 
-const Known SystemPage[] = {
+const Known OnSystemPage[] = {
     {"lblTuning", "Static", "Windows Tuning #1"},
     {"fraMemory", "Button", "System Boosts"},
     {"fraAutoLogin", "Button", " "},
@@ -51,7 +51,7 @@ const Known SystemPage[] = {
     {"cmdNormal", "chameleonButton", "Standard"},
 };
 
-const Known UtilitiesPage[] = {
+const Known OnUtilitiesPage[] = {
     {"lblUtilities", "Static", nullptr},
     {"chkTrayIcon", "Button", "Minimieren -> Tray Icon"},
     {"chkCreateAutoStart", "Button", "Zum Autostart hinzufügen"},
@@ -130,9 +130,9 @@ TEST_CASE("each page shows its own controls, and the window's buttons stand unde
             }
         }
     }
-    CheckVisible(program, UtilitiesPage);
+    CheckVisible(program, OnUtilitiesPage);
     program.OpenTab(0);
-    CheckVisible(program, SystemPage);
+    CheckVisible(program, OnSystemPage);
 }
 
 TEST_CASE("the window measures 666 by 528 pixels and snaps back to it") {

@@ -12,7 +12,7 @@ namespace {
 using Candidate = std::optional<RegistryValue>;
 
 constexpr char ForeignKey[] = "QuillmoreTestUnterschlüssel";
-constexpr std::size_t LongText = 5000;
+constexpr std::size_t LongTextSize = 5000;
 
 RegistryValue Typed(DWORD type, RegistryValue value) {
     value.type = type;
@@ -83,7 +83,7 @@ std::vector<Candidate> Oddities() {
         Typed(REG_EXPAND_SZ, TerminatedText("%windir%\\1")),
         BareText(""),
         BareText("ohne Ende"),
-        TerminatedText(std::string(LongText, 'x')),
+        TerminatedText(std::string(LongTextSize, 'x')),
     };
     for (const char* text : {"", "0", "1", "01", " 1 ", "1,0", "1-", "-1", "&H1", "1e0", "abc",
                              "yes", "no", "Y", "1 1", "Grün & Söhne €", "中文"}) {
@@ -187,7 +187,7 @@ std::string RandomText(Dice& dice) {
                                                    "1",
                                                    "http://x",
                                                    std::string(300, 'y'),
-                                                   std::string(LongText, 'z')};
+                                                   std::string(LongTextSize, 'z')};
     return dice.OneOf(texts);
 }
 

@@ -7,8 +7,8 @@
 namespace endtoend {
 namespace {
 
-constexpr char SettingsStore[] = "Software\\VB and VBA Program Settings\\Quillmore";
-constexpr char RunKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr char OwnSettings[] = "Software\\VB and VBA Program Settings\\Quillmore";
+constexpr char AutoStartKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 const char* RootName(platform::Registry::Key root) {
     if (root == platform::Registry::ClassesRoot) return "HKCR";
@@ -38,8 +38,8 @@ void PutBaseline(const std::string& registryFileText, const std::string& catalog
         DeleteValue({line.root, line.key, line.value});
         DeleteEmptyKeys(line.root, line.key);
     }
-    DeleteTree("HKCU", SettingsStore);
-    DeleteValue({"HKCU", RunKey, "Quillmore"});
+    DeleteTree("HKCU", OwnSettings);
+    DeleteValue({"HKCU", AutoStartKey, "Quillmore"});
     for (const RegistryFileEntry& entry : entries) {
         if (entry.value) {
             WriteValue(entry.place, *entry.value);

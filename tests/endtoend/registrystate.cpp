@@ -32,7 +32,7 @@ std::string Bytes(std::wstring_view text) {
     return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)};
 }
 
-std::string Lower(std::wstring text) {
+std::string LowerCaseOf(std::wstring text) {
     CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
     return FromWide(text);
 }
@@ -52,7 +52,7 @@ void ReadValues(HKEY key, const std::string& path, RegistryState& state) {
             continue;
         }
         if (result != ERROR_SUCCESS) return;
-        state[path + '|' + Lower(name.substr(0, nameSize))] =
+        state[path + '|' + LowerCaseOf(name.substr(0, nameSize))] =
             RegistryValue{type, bytes.substr(0, size)};
     }
 }
@@ -69,7 +69,7 @@ void ReadTree(HKEY parent, const std::wstring& child, const std::string& path,
         DWORD size = 256;
         if (RegEnumKeyExW(key.Get(), at, name, &size, nullptr, nullptr, nullptr, nullptr)) return;
         const std::wstring below(name, size);
-        ReadTree(key.Get(), below, path + '\\' + Lower(below), state);
+        ReadTree(key.Get(), below, path + '\\' + LowerCaseOf(below), state);
     }
 }
 
@@ -209,7 +209,7 @@ RegistryState Snapshot(const std::vector<std::string>& keys) {
     for (const std::string& path : keys) {
         const std::size_t cut = path.find('\\');
         const std::string below = cut == std::string::npos ? "" : path.substr(cut + 1);
-        ReadTree(RootOf(path.substr(0, cut)), ToWide(below), Lower(ToWide(path)), state);
+        ReadTree(RootOf(path.substr(0, cut)), ToWide(below), LowerCaseOf(ToWide(path)), state);
     }
     return state;
 }

@@ -4,13 +4,12 @@
 #include <algorithm>
 #include <set>
 
+#include "endtoend/pages.h"
 #include "endtoend/workplace.h"
 #include "support/screenpicture.h"
 
 namespace endtoend {
 namespace {
-
-constexpr int UtilitiesPage = 7;
 
 struct MainWindow {
     Workplace workplace;

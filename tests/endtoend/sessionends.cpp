@@ -2,14 +2,13 @@
 // under test is the real one without its way to end a session.
 #include <doctest/doctest.h>
 
+#include "endtoend/pages.h"
 #include "endtoend/tools.h"
 #include "endtoend/trayuser.h"
 #include "endtoend/workplace.h"
 
 namespace endtoend {
 namespace {
-
-constexpr int UtilitiesPage = 7;
 
 struct SessionlessPlace : Workplace {
     SessionlessPlace() { WriteFile(Executable(), ReadFile(OwnFolder() + "\\sessionless.exe")); }

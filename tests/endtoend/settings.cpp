@@ -8,7 +8,7 @@ namespace {
 
 constexpr char RunKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-RECT PlaceOf(const Program& program) {
+RECT PlaceOfForm(const Program& program) {
     RECT area = {};
     GetWindowRect(program.Wait("frmMain"), &area);
     return area;
@@ -26,7 +26,7 @@ TEST_CASE("a store full of nonsense opens the window as designed") {
     {
         const Workplace workplace;
         const OpenProgram program(workplace);
-        designed = PlaceOf(program);
+        designed = PlaceOfForm(program);
     }
     const Workplace workplace;
     for (const char* key : {"State", "Left", "Top", "Tab", "TrayIcon", "MinimizeAfterStart",
@@ -36,7 +36,7 @@ TEST_CASE("a store full of nonsense opens the window as designed") {
     workplace.Store("TaskBar", "Luminance", "Unsinn");
     workplace.Store("WinComponents", "Show", "Unsinn");
     const OpenProgram program(workplace);
-    const RECT place = PlaceOf(program);
+    const RECT place = PlaceOfForm(program);
     CHECK(EqualRect(&place, &designed));
     CHECK_FALSE(IsZoomed(program.Find("frmMain")));
     CHECK(program.CurrentTab() == 0);
@@ -55,8 +55,8 @@ TEST_CASE("a stored Left of -120 and Top of 300 open the window at 1 and 300 twi
     workplace.Store("Options", "Top", "300");
     const OpenProgram program(workplace);
     // 15 twips to the pixel; one twip is none yet.
-    CHECK(PlaceOf(program).left == 0);
-    CHECK(PlaceOf(program).top == 20);
+    CHECK(PlaceOfForm(program).left == 0);
+    CHECK(PlaceOfForm(program).top == 20);
 }
 
 TEST_CASE("the stored tab opens when there is one, and else the first") {
@@ -71,7 +71,7 @@ TEST_CASE("the window has its fixed size whatever is stored") {
     workplace.Store("Options", "Width", "3000");
     workplace.Store("Options", "Height", "3000");
     const OpenProgram program(workplace);
-    const RECT place = PlaceOf(program);
+    const RECT place = PlaceOfForm(program);
     CHECK(place.right - place.left == 666);
     CHECK(place.bottom - place.top == 528);
 }
@@ -82,7 +82,7 @@ TEST_CASE("closing stores the window and the program's own options") {
     program.OpenTab(7);
     program.SetText("txtSyncServer", "zeit.beispiel.de");
     program.SetChecked("chkForceReboot", true);
-    const RECT place = PlaceOf(program);
+    const RECT place = PlaceOfForm(program);
     program.CloseAndWait();
     const auto stored = [&](const char* key) { return workplace.Stored("Options", key); };
     CHECK(stored("State") == "0");

@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 #include <psapi.h>
 
+#include "endtoend/pages.h"
 #include "endtoend/registrystate.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
@@ -81,10 +82,6 @@ class ComponentsFile {
   private:
     static constexpr wchar_t Path[] = L"C:\\windows\\inf\\Sysoc.inf";
 };
-
-constexpr int TweaksPage = 1;
-constexpr int CleanUpPage = 3;
-constexpr int SecurityPage = 4;
 
 constexpr char BinKey[] =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"

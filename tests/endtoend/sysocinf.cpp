@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "endtoend/pages.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/handle.h"
@@ -13,7 +14,6 @@ using platform::win32::FileHandle;
 using platform::win32::ToWide;
 
 constexpr char Box[] = "chkHideWinComponents";
-constexpr int TweaksPage = 1;
 
 std::string PathOfFile() {
     return WindowsFolder() + "\\inf\\Sysoc.inf";

@@ -2,10 +2,11 @@
 // test is the real one, but it can neither set a clock nor reach anything beyond this computer.
 #include <doctest/doctest.h>
 
-#include "support/timeserver.h"
+#include "endtoend/pages.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/text.h"
+#include "support/timeserver.h"
 
 namespace endtoend {
 namespace {
@@ -14,7 +15,6 @@ using contract::ServerAnswer;
 using contract::TimeServer;
 using End = ServerAnswer::End;
 
-constexpr int UtilitiesPage = 7;
 constexpr char UpdatedTitle[] = "Einstellungen aktualisiert";
 constexpr char FailedTitle[] = "Fehler beim synchronisieren";
 constexpr char Success[] = "Datum und Uhrzeit erfolgreich synchronisiert!";

@@ -6,13 +6,12 @@
 
 #include <functional>
 
+#include "endtoend/pages.h"
 #include "endtoend/workplace.h"
 
 namespace endtoend {
 namespace {
 
-constexpr int CleanUpPage = 3;
-constexpr int NetworkPage = 5;
 constexpr DWORD Balloon = 0x40;
 // A tip comes after a second. One that must not come has had half as long again.
 constexpr DWORD Soon = 3000;
@@ -27,7 +26,7 @@ bool Within(DWORD milliseconds, const std::function<bool()>& come) {
     return true;
 }
 
-struct Mouse {
+struct TipMouse {
     Workplace workplace;
     OpenProgram program{workplace};
 
@@ -69,7 +68,7 @@ struct Mouse {
     }
 };
 
-TEST_CASE_FIXTURE(Mouse, "a check box, a slider and a button tell what they do") {
+TEST_CASE_FIXTURE(TipMouse, "a check box, a slider and a button tell what they do") {
     CHECK(TipOf("chkFastServices") ==
           "Windows XP reserviert 'nur' 512 KB für Serverdienste was die Ein-/Ausgabeleistung "
           "mindert. Ist diese Option aktiviert haben die Serverdienste 12 MB zur Verfügung.");
@@ -79,7 +78,7 @@ TEST_CASE_FIXTURE(Mouse, "a check box, a slider and a button tell what they do")
     CHECK(TipOf("cmdFreeMemory").starts_with("Windows gibt teilweise Speicher nicht mehr frei"));
 }
 
-TEST_CASE_FIXTURE(Mouse, "a combo box tells what it does over its field, too") {
+TEST_CASE_FIXTURE(TipMouse, "a combo box tells what it does over its field, too") {
     program.OpenTab(NetworkPage);
     CHECK(TipOf("cboMTU").starts_with("Die MTU ist die größte Länge eines Datenpakets"));
     MoveTo("SSTab1");
@@ -88,13 +87,14 @@ TEST_CASE_FIXTURE(Mouse, "a combo box tells what it does over its field, too") {
 
 // Of the 3320000 that it is told; 43200 are 43 seconds here, and no time at all to a system that
 // counts 16 bits with a sign.
-TEST_CASE_FIXTURE(Mouse, "the tips' window keeps the lower 16 bits of the time that it is told") {
+TEST_CASE_FIXTURE(TipMouse,
+                  "the tips' window keeps the lower 16 bits of the time that it is told") {
     REQUIRE(TipOf("chkFastServices") != "nothing");
     CHECK(Send(Shown(), TTM_GETDELAYTIME, TTDT_AUTOPOP) == 3320000 % 65536);
     CHECK(Send(Shown(), TTM_GETDELAYTIME, TTDT_INITIAL) == 1000);
 }
 
-TEST_CASE_FIXTURE(Mouse, "a text of several hundred characters stays one plain tip, in lines") {
+TEST_CASE_FIXTURE(TipMouse, "a text of several hundred characters stays one plain tip, in lines") {
     REQUIRE(TipOf("chkLargeSystemCache").size() > 450);
     const HWND tip = Shown();
     REQUIRE(tip);
@@ -105,12 +105,12 @@ TEST_CASE_FIXTURE(Mouse, "a text of several hundred characters stays one plain t
     CHECK((static_cast<DWORD>(GetWindowLongW(tip, GWL_STYLE)) & Balloon) == 0);
 }
 
-TEST_CASE_FIXTURE(Mouse, "the level's box tells nothing, though its slider does") {
+TEST_CASE_FIXTURE(TipMouse, "the level's box tells nothing, though its slider does") {
     REQUIRE(TipOf("Level") != "nothing");
     ExpectNone("txtLevelValue");
 }
 
-TEST_CASE_FIXTURE(Mouse, "the drive list tells nothing while it is disabled") {
+TEST_CASE_FIXTURE(TipMouse, "the drive list tells nothing while it is disabled") {
     program.OpenTab(CleanUpPage);
     program.SetChecked("chkScanAll", true);
     REQUIRE_FALSE(IsWindowEnabled(program.Find("drvSelect")));
@@ -118,7 +118,7 @@ TEST_CASE_FIXTURE(Mouse, "the drive list tells nothing while it is disabled") {
     ExpectNone("drvSelect");
 }
 
-TEST_CASE_FIXTURE(Mouse, "the button AutoTuning says its one line") {
+TEST_CASE_FIXTURE(TipMouse, "the button AutoTuning says its one line") {
     CHECK(TipOf("cmdSetAllOptimal") == "Alle Einstellungen auf 'Empfohlen' setzen.");
 }
 

@@ -21,14 +21,6 @@ std::string Aside(const std::string& path) {
     return path + ".aside";
 }
 
-std::string FolderOf(const std::string& path) {
-    return path.substr(0, path.find_last_of('\\'));
-}
-
-bool Exists(const std::string& path) {
-    return GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
 bool Delete(const std::string& path) {
     return DeleteFileW(ToWide(path).c_str()) || !Exists(path);
 }
@@ -69,6 +61,14 @@ ValuePlace OverrideOf(const std::string& path) {
 }
 
 }  // namespace
+
+std::string FolderOf(const std::string& path) {
+    return path.substr(0, path.find_last_of('\\'));
+}
+
+bool Exists(const std::string& path) {
+    return GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
 
 std::string SystemFolder() {
     wchar_t folder[MAX_PATH];

@@ -13,6 +13,12 @@ namespace endtoend {
 std::string SystemFolder();
 std::string WindowsFolder();
 
+// The path of the folder in which the path lies.
+std::string FolderOf(const std::string& path);
+
+// Whether there is a file or folder.
+bool Exists(const std::string& path);
+
 // Makes the file, and the folders above it. Throws Failed when it cannot be written.
 void WriteFile(const std::string& path, const std::string& bytes);
 

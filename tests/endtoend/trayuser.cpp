@@ -4,10 +4,11 @@
 
 #include <vector>
 
+#include "endtoend/pages.h"
+
 namespace endtoend {
 namespace {
 
-constexpr int UtilitiesPage = 7;
 // The program's numbers for its icon and for the icon's message.
 constexpr UINT IconId = 1;
 constexpr UINT IconMessage = WM_APP + 1;

@@ -3,6 +3,7 @@
 #include "endtoend/everyoptionrun.h"
 #include "endtoend/lines.h"
 #include "endtoend/optiontablewords.h"
+#include "endtoend/pages.h"
 #include "endtoend/realkeys.h"
 #include "platform/win32/text.h"
 
@@ -11,9 +12,6 @@ namespace endtoend {
 namespace {
 
 constexpr std::size_t LongText = 65536;
-constexpr int SystemPage = 0;
-constexpr int TweaksPage = 1;
-constexpr int NetworkPage = 5;
 
 struct Field {
     const char* name;
@@ -34,7 +32,7 @@ HWND TypingPartOf(HWND window) {
     return inner ? inner : window;
 }
 
-HWND FocusOf(const Application& program) {
+HWND FocusIn(const Application& program) {
     GUITHREADINFO thread = {};
     thread.cbSize = sizeof thread;
     GetGUIThreadInfo(GetWindowThreadProcessId(program.Wait("frmMain"), nullptr), &thread);
@@ -65,7 +63,7 @@ void Enter(const Application& program, const std::string& name) {
             SetForegroundWindow(form);
             ClickInto(part);
         }
-        return FocusOf(program) == part;
+        return FocusIn(program) == part;
     });
     // By keys, as they come behind the click whatever that still does.
     Press(VK_HOME);

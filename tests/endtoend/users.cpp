@@ -4,6 +4,7 @@
 #include "endtoend/lines.h"
 #include "endtoend/lists.h"
 #include "endtoend/looks.h"
+#include "endtoend/pages.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 #include "platform/win32/text.h"
@@ -13,8 +14,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr int UtilitiesPage = 7;
-constexpr char Dialog[] = "frmShowAllLoggedInUsers";
+constexpr char UsersForm[] = "frmShowAllLoggedInUsers";
 constexpr char Denied[] = "5";
 
 // With `failure`, the code with which the stand-in's service fails.
@@ -26,7 +26,7 @@ struct CrowdedPlace : Workplace {
     void Fail(const std::string& code) const { WriteFile(Executable() + ".users", code); }
 };
 
-void Open(const Program& program) {
+void OpenUsers(const Program& program) {
     program.OpenTab(UtilitiesPage);
     program.Click("cmdShowAllLoggedOnUsers");
 }
@@ -37,7 +37,7 @@ Texts Shown(const Program& program) {
 
 // Gone with its windows, and the main window takes clicks again.
 void CheckClosed(const Program& program) {
-    program.WaitGone(Dialog);
+    program.WaitGone(UsersForm);
     Until("the main window", [&] { return IsWindowEnabled(program.Find("frmMain")); });
     Until("the end of the dialog's windows", [&] { return !program.Find("lstUsers"); });
 }
@@ -46,7 +46,7 @@ struct Crowded {
     CrowdedPlace workplace;
     OpenProgram program{workplace};
 
-    explicit Crowded(const std::string& failure = "") : workplace(failure) { Open(program); }
+    explicit Crowded(const std::string& failure = "") : workplace(failure) { OpenUsers(program); }
 
     static Texts Crowd() {
         wchar_t name[MAX_COMPUTERNAME_LENGTH + 1];
@@ -77,16 +77,16 @@ struct Crowded {
 TEST_CASE("the button asks the real service, tells its refusal and opens the dialog") {
     const Workplace workplace;
     const OpenProgram program(workplace);
-    Open(program);
+    OpenUsers(program);
     const MessageBox box = program.Answer("Fehler", IDOK);
     CHECK(box.text.starts_with("Fehler:\r\n"));
     CHECK(box.text.find("arameter") != std::string::npos);
-    const HWND window = program.Wait(Dialog);
+    const HWND window = program.Wait(UsersForm);
     Until("the main window to wait", [&] { return !IsWindowEnabled(program.Find("frmMain")); });
     CHECK(Shown(program).empty());
     CHECK(Joined(Crooked(program, window)) == "");
 
-    program.PressKey(Dialog, VK_ESCAPE);
+    program.PressKey(UsersForm, VK_ESCAPE);
     CheckClosed(program);
     CHECK(workplace.Log() == "");
     program.CloseAndWait();
@@ -94,25 +94,25 @@ TEST_CASE("the button asks the real service, tells its refusal and opens the dia
 
 TEST_CASE("a crowd is listed by its last batch, again and again") {
     const Crowded crowded;
-    crowded.program.Wait(Dialog);
+    crowded.program.Wait(UsersForm);
     CHECK(Shown(crowded.program) == Crowded::Crowd());
     CHECK_FALSE(IsWindowVisible(crowded.program.Find("frmShowAllLoggedInUsers.lblWait")));
     crowded.program.Click("cmdRefresh");
     crowded.program.Click("cmdRefresh");
-    CHECK(crowded.program.Responds(Dialog));
+    CHECK(crowded.program.Responds(UsersForm));
     crowded.WaitCrowd();
-    CHECK(Joined(Crooked(crowded.program, crowded.program.Find(Dialog))) == "");
+    CHECK(Joined(Crooked(crowded.program, crowded.program.Find(UsersForm))) == "");
 
     crowded.program.Click("frmShowAllLoggedInUsers.cmdOK");
     CheckClosed(crowded.program);
-    Open(crowded.program);
-    crowded.program.Wait(Dialog);
+    OpenUsers(crowded.program);
+    crowded.program.Wait(UsersForm);
     CHECK(Shown(crowded.program) == Crowded::Crowd());
 }
 
 TEST_CASE("a refusal is told while the list is being read, and leaves it empty until the next") {
     const Crowded crowded;
-    crowded.program.Wait(Dialog);
+    crowded.program.Wait(UsersForm);
     crowded.workplace.Fail(Denied);
     crowded.program.Click("cmdRefresh");
     crowded.program.WaitBox("Fehler");
@@ -132,9 +132,9 @@ TEST_CASE("a refusal is told while the list is being read, and leaves it empty u
 TEST_CASE("a refusal before the dialog is there is told first, then the dialog opens empty") {
     const Crowded crowded(Denied);
     crowded.AnswerDenied();
-    crowded.program.Wait(Dialog);
+    crowded.program.Wait(UsersForm);
     CHECK(Shown(crowded.program).empty());
-    crowded.program.PressKey(Dialog, VK_ESCAPE);
+    crowded.program.PressKey(UsersForm, VK_ESCAPE);
     CheckClosed(crowded.program);
     crowded.program.CloseAndWait();
 }

@@ -7,6 +7,7 @@
 #include "endtoend/lines.h"
 #include "endtoend/lists.h"
 #include "endtoend/looks.h"
+#include "endtoend/pages.h"
 #include "endtoend/registrystate.h"
 #include "endtoend/standin/substshell.h"
 #include "endtoend/tools.h"
@@ -20,8 +21,7 @@ using platform::win32::FromWide;
 using platform::win32::ToWide;
 using Texts = std::vector<std::string>;
 
-constexpr int UtilitiesPage = 7;
-constexpr char Dialog[] = "frmVirtualDrive";
+constexpr char DrivesForm[] = "frmVirtualDrive";
 constexpr char ListLine[] = "command.com /csubst > tmpout.txt";
 constexpr char Output[] = "C:\\tmpout.txt";
 constexpr char Question[] = "Virtuelles Laufwerk löschen";
@@ -97,24 +97,24 @@ class Folder {
     const std::string path = "C:\\Quillmore Übung";
 };
 
-struct Dialogue {
+struct DrivesDialogue {
     SubstShell shell;
     Workplace workplace;
     OpenProgram program;
     Rows rows{nullptr};
 
-    explicit Dialogue(const std::string& output = "", const std::string& arguments = "")
+    explicit DrivesDialogue(const std::string& output = "", const std::string& arguments = "")
         : program(workplace, arguments) {
         DeleteTree("HKCU", StoreKey);
         if (!output.empty()) shell.Print(output);
         Open();
     }
-    ~Dialogue() { DeleteTree("HKCU", StoreKey); }
+    ~DrivesDialogue() { DeleteTree("HKCU", StoreKey); }
 
     void Open() {
         program.OpenTab(UtilitiesPage);
         program.Click("cmdVirtualDrive");
-        program.Wait(Dialog);
+        program.Wait(DrivesForm);
         rows = Rows(program.Wait("lstDrives"));
     }
     // The folder that stands in the box is preselected; the user agrees.
@@ -126,7 +126,7 @@ struct Dialogue {
             for (HWND window : program.TopLevel()) {
                 if (ClassOf(window) == "#32770" && IsWindowVisible(window)) browser = window;
             }
-            return browser != nullptr && program.Responds(Dialog);
+            return browser != nullptr && program.Responds(DrivesForm);
         });
         PostMessageW(browser, WM_COMMAND, IDOK, 0);
         Until("the end of the folder dialog", [&] { return !IsWindow(browser); });
@@ -139,22 +139,18 @@ struct Dialogue {
     }
 };
 
-bool Exists(const std::string& path) {
-    return GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
 }  // namespace
 
 TEST_CASE("a drive is made for a folder, listed, stored and removed again") {
     const Folder folder;
-    Dialogue dialogue;
+    DrivesDialogue dialogue;
     const Program& program = dialogue.program;
     CHECK(dialogue.shell.Lines() == Texts{ListLine});
     CHECK(dialogue.rows.Count() == 0);
     CHECK_FALSE(Exists(Output));
     CHECK_FALSE(IsWindowEnabled(program.Find("cmdcreate")));
     CHECK_FALSE(IsWindowEnabled(program.Find("cmddelete")));
-    CHECK(Joined(Crooked(program, program.Find(Dialog))) == "");
+    CHECK(Joined(Crooked(program, program.Find(DrivesForm))) == "");
 
     dialogue.Browse(folder.path);
     Until("the folder", [&] { return IsWindowEnabled(program.Find("cmdcreate")) != FALSE; });
@@ -179,7 +175,7 @@ TEST_CASE("a drive is made for a folder, listed, stored and removed again") {
     for (const int size : {3, 4, 5}) CHECK(row[static_cast<std::size_t>(size)].ends_with("B"));
     CHECK(program.Text("txtPathName") == "");
     CHECK_FALSE(Exists(Output));
-    CHECK(Joined(Crooked(program, program.Find(Dialog))) == "");
+    CHECK(Joined(Crooked(program, program.Find(DrivesForm))) == "");
 
     program.SetChecked("chkrestore", true);
     Until("the store", [&] { return dialogue.Stored("Restore") != "absent"; });
@@ -201,12 +197,12 @@ TEST_CASE("a drive is made for a folder, listed, stored and removed again") {
     CHECK(Exists(folder.path + "\\marke.txt"));
 
     program.Click("cmdexit");
-    program.WaitGone(Dialog);
+    program.WaitGone(DrivesForm);
     CHECK(dialogue.workplace.Log() == "");
 }
 
 TEST_CASE("what the command tells in the ANSI code page is listed with its commas and blanks") {
-    Dialogue dialogue(
+    DrivesDialogue dialogue(
         "X:\\: => C:\\GR\xD6\xDF"
         "E\r\nY:\\: =>  C:\\Ein Ort, zwei\r\n");
     dialogue.WaitRows(3);
@@ -216,12 +212,12 @@ TEST_CASE("what the command tells in the ANSI code page is listed with its comma
     CHECK(dialogue.rows.Texts(2)[0] == " z");
     CHECK(dialogue.rows.Texts(2)[2] == "C:\\Ein Ort");
     CHECK_FALSE(Exists(Output));
-    dialogue.program.PressKey(Dialog, VK_ESCAPE);
-    dialogue.program.WaitGone(Dialog);
+    dialogue.program.PressKey(DrivesForm, VK_ESCAPE);
+    dialogue.program.WaitGone(DrivesForm);
 }
 
 TEST_CASE("the right button selects a drive and offers to remove it at once") {
-    const Dialogue dialogue("X:\\: => C:\\\r\nY:\\: => C:\\\r\n");
+    const DrivesDialogue dialogue("X:\\: => C:\\\r\nY:\\: => C:\\\r\n");
     dialogue.WaitRows(2);
     CHECK_FALSE(IsWindowEnabled(dialogue.program.Find("cmddelete")));
     dialogue.rows.PressRightButton(1);
@@ -238,7 +234,7 @@ TEST_CASE("output that cannot be read leaves an empty list and no box") {
                                     nullptr, CREATE_ALWAYS, 0, nullptr);
     REQUIRE(file != INVALID_HANDLE_VALUE);
     {
-        Dialogue dialogue("X:\\: => C:\\\r\n");
+        DrivesDialogue dialogue("X:\\: => C:\\\r\n");
         CHECK(dialogue.rows.Count() == 0);
         CHECK(dialogue.program.Box().window == nullptr);
         CHECK(dialogue.shell.Lines() == Texts{ListLine});

@@ -19,14 +19,14 @@ struct Piece {
     bool buried = false;
 };
 
-constexpr DWORD Box = WS_TABSTOP | BS_AUTOCHECKBOX;
+constexpr DWORD ButtonClass = WS_TABSTOP | BS_AUTOCHECKBOX;
 constexpr DWORD Edit = WS_TABSTOP | WS_BORDER;
 
 // The order is the tabulator's.
 const Piece Straight[] = {
     {L"BUTTON", L"Gruppe", BS_GROUPBOX, "fraGroup", {10, 10, 200, 90}},
-    {L"BUTTON", L"&Erstes", Box, "chkFirst", {20, 30, 150, 17}},
-    {L"BUTTON", L"&Zweites && drittes", Box, "chkSecond", {20, 50, 150, 17}},
+    {L"BUTTON", L"&Erstes", ButtonClass, "chkFirst", {20, 30, 150, 17}},
+    {L"BUTTON", L"&Zweites && drittes", ButtonClass, "chkSecond", {20, 50, 150, 17}},
     {L"STATIC", L"&Name", SS_LEFT, "lblName", {220, 30, 60, 16}},
     {L"EDIT", L"", Edit, "txtName", {290, 28, 90, 21}},
     {L"STATIC",
@@ -40,9 +40,9 @@ const Piece Straight[] = {
 const Piece Bent[] = {
     {L"BUTTON", L"Gruppe", BS_GROUPBOX, "fraGroup", {10, 10, 200, 90}},
     // Below the second one, yet before it.
-    {L"BUTTON", L"&Erstes", Box, "chkFirst", {20, 70, 150, 17}},
-    {L"BUTTON", L"Ein &eher langes zweites", Box, "chkSecond", {20, 30, 80, 17}},
-    {L"BUTTON", L"Verschüttet", Box, "chkLost", {10, 40, 150, 17}, true},
+    {L"BUTTON", L"&Erstes", ButtonClass, "chkFirst", {20, 70, 150, 17}},
+    {L"BUTTON", L"Ein &eher langes zweites", ButtonClass, "chkSecond", {20, 30, 80, 17}},
+    {L"BUTTON", L"Verschüttet", ButtonClass, "chkLost", {10, 40, 150, 17}, true},
     {L"STATIC", L"Name", SS_LEFT, "lblName", {220, 30, 60, 16}},
     // Into the label.
     {L"EDIT", L"", Edit, "txtName", {260, 28, 90, 21}},

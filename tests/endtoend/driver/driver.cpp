@@ -83,12 +83,12 @@ void ClickTab(const Words& words) {
     throw Failed("there is no tab " + words[0]);
 }
 
-const std::map<std::string, int> Answers = {
+const std::map<std::string, int> AnswerWords = {
     {"yes", IDYES}, {"no", IDNO}, {"ok", IDOK}, {"cancel", IDCANCEL}};
 
 void AnswerBox(const Words& words) {
-    const auto button = Answers.find(words[1]);
-    if (button == Answers.end()) throw Misused();
+    const auto button = AnswerWords.find(words[1]);
+    if (button == AnswerWords.end()) throw Misused();
     Print(desktop.Answer(words[0], button->second).text);
 }
 
@@ -101,7 +101,7 @@ void ShowBox(const Words&) {
     Print(box.title);
     Print(box.text);
     std::string buttons;
-    for (const auto& [word, id] : Answers) {
+    for (const auto& [word, id] : AnswerWords) {
         for (const int shown : box.buttons) {
             if (shown == id) buttons += (buttons.empty() ? "" : " ") + word;
         }
@@ -156,14 +156,14 @@ void WriteRegistryDump(const Words& words) {
 }
 
 // The catalogue lies beside the driver.
-void PutKnownState(const Words& words) {
+void PutBaselineOf(const Words& words) {
     wchar_t path[MAX_PATH];
     const std::string own = FromWide({path, GetModuleFileNameW(nullptr, path, MAX_PATH)});
     const std::string folder = own.substr(0, own.find_last_of('\\'));
     endtoend::PutBaseline(FileText(words[0]), FileText(folder + "\\catalogue.tsv"));
 }
 
-int Number(const std::string& word) {
+int NumberIn(const std::string& word) {
     char* end = nullptr;
     const long number = std::strtol(word.c_str(), &end, 10);
     if (word.empty() || *end) throw Misused();
@@ -190,12 +190,12 @@ void ShowRows(const Words& words) {
 
 void TickRow(const Words& words) {
     if (words[2] != "0" && words[2] != "1") throw Misused();
-    RowsOf(words).SetTicked(Number(words[1]), words[2] == "1");
+    RowsOf(words).SetTicked(NumberIn(words[1]), words[2] == "1");
 }
 
 void ChooseOfRow(const Words& words) {
-    RowsOf(words).PressRightButton(Number(words[1]));
-    endtoend::ChooseFromMenu(desktop, Number(words[2]));
+    RowsOf(words).PressRightButton(NumberIn(words[1]));
+    endtoend::ChooseFromMenu(desktop, NumberIn(words[2]));
 }
 
 void ShowLines(const Words& words) {
@@ -231,10 +231,10 @@ const std::map<std::string, Command> Commands = {
     {"box", {0, ShowBox}},
     {"answer", {2, AnswerBox}},
     {"rows", {1, ShowRows}},
-    {"row", {2, [](const Words& words) { RowsOf(words).Click(Number(words[1])); }}},
-    {"double", {2, [](const Words& words) { RowsOf(words).DoubleClick(Number(words[1])); }}},
+    {"row", {2, [](const Words& words) { RowsOf(words).Click(NumberIn(words[1])); }}},
+    {"double", {2, [](const Words& words) { RowsOf(words).DoubleClick(NumberIn(words[1])); }}},
     {"tick", {3, TickRow}},
-    {"header", {2, [](const Words& words) { RowsOf(words).ClickHeader(Number(words[1])); }}},
+    {"header", {2, [](const Words& words) { RowsOf(words).ClickHeader(NumberIn(words[1])); }}},
     {"menu", {3, ChooseOfRow}},
     {"lines", {1, ShowLines}},
     {"progress", {1, ShowProgress}},
@@ -242,7 +242,7 @@ const std::map<std::string, Command> Commands = {
     {"looks", {1, ShowLooks}},
     {"shot", {1, Shoot}},
     {"registry", {1, WriteRegistryDump}},
-    {"baseline", {1, PutKnownState}},
+    {"baseline", {1, PutBaselineOf}},
     {"close",
      {0,
       [](const Words&) {
@@ -260,7 +260,7 @@ Words CommandLine() {
     return line;
 }
 
-int Run(Words words) {
+int RunCommand(Words words) {
     if (words.empty()) throw Misused();
     const auto command = Commands.find(words[0]);
     if (command == Commands.end()) throw Misused();
@@ -276,7 +276,7 @@ int Run(Words words) {
 
 int main() {
     try {
-        return Run(CommandLine());
+        return RunCommand(CommandLine());
     } catch (const Misused&) {
         std::fprintf(stderr, "driver: not understood; the commands are in driver/README.md\n");
         return 2;

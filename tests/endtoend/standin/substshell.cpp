@@ -9,7 +9,7 @@
 
 namespace {
 
-std::wstring Beside(const wchar_t* suffix) {
+std::wstring BesideShell(const wchar_t* suffix) {
     wchar_t path[MAX_PATH];
     return std::wstring(path, GetModuleFileNameW(nullptr, path, MAX_PATH)) + suffix;
 }
@@ -26,7 +26,7 @@ std::string Read(const std::wstring& path) {
     return bytes;
 }
 
-bool Write(const std::wstring& path, const std::string& bytes) {
+bool WriteOut(const std::wstring& path, const std::string& bytes) {
     HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, CREATE_ALWAYS, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
@@ -36,9 +36,9 @@ bool Write(const std::wstring& path, const std::string& bytes) {
     return true;
 }
 
-void Note(const std::string& line) {
-    const std::wstring log = Beside(endtoend::SubstLog);
-    Write(log, Read(log) + line + '\n');
+void NoteCall(const std::string& line) {
+    const std::wstring log = BesideShell(endtoend::SubstLog);
+    WriteOut(log, Read(log) + line + '\n');
 }
 
 // What Wine's mount manager takes: as long as it is, a letter, and where in it the path stands in
@@ -91,22 +91,22 @@ std::string UnixPath(const std::string& folder) {
 bool Define(const std::string& drive, const std::string& folder) {
     const std::string path = UnixPath(folder);
     if (path.empty() || !SetDrive(drive[0], path)) return false;
-    const std::wstring list = Beside(endtoend::SubstDrives);
-    return Write(list, Read(list) + drive + "\\: => " + folder + "\r\n");
+    const std::wstring list = BesideShell(endtoend::SubstDrives);
+    return WriteOut(list, Read(list) + drive + "\\: => " + folder + "\r\n");
 }
 
 bool Remove(const std::string& drive) {
-    std::string list = Read(Beside(endtoend::SubstDrives));
+    std::string list = Read(BesideShell(endtoend::SubstDrives));
     const std::size_t start = list.find(drive + "\\:");
     if (start == std::string::npos || !SetDrive(drive[0], "")) return false;
     list.erase(start, list.find('\n', start) + 1 - start);
-    return Write(Beside(endtoend::SubstDrives), list);
+    return WriteOut(BesideShell(endtoend::SubstDrives), list);
 }
 
 bool List(const std::string& file) {
-    const std::string prepared = Read(Beside(endtoend::SubstOutput));
-    return Write({file.begin(), file.end()},
-                 prepared.empty() ? Read(Beside(endtoend::SubstDrives)) : prepared);
+    const std::string prepared = Read(BesideShell(endtoend::SubstOutput));
+    return WriteOut({file.begin(), file.end()},
+                    prepared.empty() ? Read(BesideShell(endtoend::SubstDrives)) : prepared);
 }
 
 bool Run(const std::string& arguments) {
@@ -124,7 +124,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     const bool isHidden =
         (startup.dwFlags & STARTF_USESHOWWINDOW) && startup.wShowWindow == SW_HIDE;
     const std::string line = GetCommandLineA();
-    Note(isHidden ? line : "shown: " + line);
+    NoteCall(isHidden ? line : "shown: " + line);
     const std::string word = "/csubst ";
     const std::size_t start = line.find(word);
     if (start == std::string::npos) return 0;
