@@ -4,7 +4,6 @@
 
 #include "cleanup/fixture.h"
 
-
 namespace {
 
 struct DeleteFolderFixture {

@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
-#include "support/serveranswer.h"
 #include "platform/clock.h"
 #include "platform/machine.h"
 #include "platform/otherwindows.h"
 #include "platform/registry.h"
 #include "platform/tooltips.h"
+#include "support/serveranswer.h"
 
 // One suite for two machines. The cases below know the services by their interfaces only; which
 // machine stands behind them is decided by the source that is linked: machine_simulated.cpp in the

@@ -14,11 +14,11 @@
 #include "contract/win32/folderuser.h"
 #include "contract/win32/menuuser.h"
 #include "contract/win32/standins.h"
-#include "support/timeserver.h"
 #include "platform/win32/formhandles.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
+#include "support/timeserver.h"
 #include "support/wineversion.h"
 #include "toolkit/form.h"
 
