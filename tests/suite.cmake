@@ -1,5 +1,5 @@
 # One test program a room: add_suite(registry SOURCES a.cpp b.cpp USES registry simulated). Cases
-# that take long can be a test of their own: LONG "their names*". A suite that takes long is several
+# that take long can be tests of their own: LONG "their names*" "others*". A suite that takes long is several
 # tests, which run side by side: PARTS "a.cpp b.cpp" "c.cpp" makes the first one of the cases of a.cpp
 # and b.cpp, the second one of those of c.cpp and the last one of all others.
 function(add_suite name)
@@ -15,10 +15,16 @@ function(add_suite name)
     target_compile_options(test_${name} PRIVATE -fno-sanitize=undefined -g1)
   endif()
   set(filter "")
-  if(SUITE_LONG)
-    add_test(NAME ${name}_long COMMAND test_${name} --test-case=${SUITE_LONG})
-    set(filter --test-case-exclude=${SUITE_LONG})
-  endif()
+  set(long "")
+  foreach(cases IN LISTS SUITE_LONG)
+    list(LENGTH long number)
+    list(APPEND long ${name}_long_${number})
+    list(GET long -1 test)
+    add_test(NAME ${test} COMMAND test_${name} --test-case=${cases} ${filter})
+    list(APPEND excluded ${cases})
+    list(JOIN excluded , names)
+    set(filter --test-case-exclude=${names})
+  endforeach()
   # The last part is everything that the others leave out, so that each case is in one and only one.
   set(number 0)
   set(taken "")
@@ -45,8 +51,8 @@ function(add_suite name)
     # They wait more than they compute: the sooner they begin the better.
     get_property(tests DIRECTORY PROPERTY TESTS)
     set_tests_properties(${tests} PROPERTIES COST 100)
-    if(SUITE_LONG)
-      set_tests_properties(${name}_long PROPERTIES COST 200)
+    if(long)
+      set_tests_properties(${long} PROPERTIES COST 200)
     endif()
   endif()
 endfunction()

@@ -93,10 +93,11 @@ TEST_CASE_FIXTURE(AboutDialog, "Escape skips what is left of the fade-out") {
     CHECK(OkIsEnabled() == false);
     GetGUIThreadInfo(thread, &state);
     CHECK(state.hwndFocus == window);
+    // The box may be gone before anybody looks again: then this was the last that was seen.
+    const int before = Alpha();
     Press(VK_ESCAPE);
     const std::vector<int> alphas = AlphasToTheEnd();
-    REQUIRE_FALSE(alphas.empty());
-    CHECK(alphas.back() > Opaque / 4);
+    CHECK((alphas.empty() ? before : alphas.back()) > Opaque / 4);
 }
 
 TEST_CASE_FIXTURE(AboutDialog, "the about box can be read and reached, and opened again") {
