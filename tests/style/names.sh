@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "${1:-$(dirname "$0")/../..}"
 
-mapfile -t rooms < <(grep -lrE --include=CMakeLists.txt '^ *add_(room|suite)\(' . | xargs dirname)
+mapfile -t rooms < <(grep -lrE --include=CMakeLists.txt --exclude-dir=build '^ *add_(room|suite)\(' . | xargs dirname)
 found=0
 for room in "${rooms[@]}"; do
     # Folders with a list of their own are rooms of their own. The macros open the body of a test,
