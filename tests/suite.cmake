@@ -1,7 +1,7 @@
 # One test program a room: add_suite(registry SOURCES a.cpp b.cpp USES registry simulated). Cases
-# that take long can be tests of their own: LONG "their names*" "others*". A suite that takes long is several
-# tests, which run side by side: PARTS "a.cpp b.cpp" "c.cpp" makes the first one of the cases of a.cpp
-# and b.cpp, the second one of those of c.cpp and the last one of all others.
+# that take long can be tests of their own: LONG "their names*" "others*". A suite that takes long is
+# several tests, which run side by side: PARTS "a.cpp b.cpp" "c.cpp" makes the first one of the cases
+# of a.cpp and b.cpp, the second one of those of c.cpp and the last one of all others.
 function(add_suite name)
   cmake_parse_arguments(SUITE "" "" "SOURCES;USES;LONG;PARTS" ${ARGN})
   add_executable(test_${name} ${SUITE_SOURCES})
@@ -16,6 +16,7 @@ function(add_suite name)
   endif()
   set(filter "")
   set(long "")
+  set(excluded "")
   foreach(cases IN LISTS SUITE_LONG)
     list(LENGTH long number)
     list(APPEND long ${name}_long_${number})

@@ -3,7 +3,6 @@
 #include <commctrl.h>
 #include <doctest/doctest.h>
 
-#include <sstream>
 
 #include "endtoend/dialogue.h"
 #include "endtoend/everyoptionrun.h"

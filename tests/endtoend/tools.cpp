@@ -55,9 +55,11 @@ bool IsRunning(const std::string& path) {
     return false;
 }
 
+constexpr char Overrides[] = "Software\\Wine\\DllOverrides";
+
 // Wine starts a tool of its own whatever lies at the place, unless it is told otherwise.
 ValuePlace OverrideOf(const std::string& path) {
-    return {"HKCU", "Software\\Wine\\DllOverrides", path.substr(path.find_last_of('\\') + 1)};
+    return {"HKCU", Overrides, path.substr(path.find_last_of('\\') + 1)};
 }
 
 }  // namespace
@@ -68,6 +70,14 @@ std::string FolderOf(const std::string& path) {
 
 bool Exists(const std::string& path) {
     return GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void ForgetLeftOverrides() {
+    static const bool forgotten = [] {
+        DeleteTree("HKCU", Overrides);
+        return true;
+    }();
+    (void)forgotten;
 }
 
 std::string SystemFolder() {
@@ -125,6 +135,7 @@ std::string Describe(const Started& started) {
 }
 
 StandIn::StandIn(const std::string& path) : place_(path) {
+    ForgetLeftOverrides();
     DeletePatiently(Record());
     WriteFile(Path(), ReadFile(OwnFolder() + "\\recorder.exe"));
     WriteValue(OverrideOf(Path()), TerminatedText("native"));

@@ -9,6 +9,10 @@
 // and what was there comes back, also after a run that was broken off.
 namespace endtoend {
 
+// The first call of a run forgets with whose programs an earlier one, which was broken off, has
+// replaced the system's. Before anything is started.
+void ForgetLeftOverrides();
+
 // "C:\windows\system32", as the system writes it.
 std::string SystemFolder();
 std::string WindowsFolder();

@@ -4,6 +4,7 @@
 
 #include "endtoend/registryfile.h"
 #include "endtoend/registrystate.h"
+#include "endtoend/tools.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/text.h"
 
@@ -70,6 +71,7 @@ struct PutBack {
 
 Workplace::Workplace(Warning warning, const std::string& executable)
     : executable_(executable), folder_(NewFolder()) {
+    ForgetLeftOverrides();
     PutKnownState();
     static const PutBack atTheEnd;
     // Without a window manager around it Wine would wait two seconds after each message box.

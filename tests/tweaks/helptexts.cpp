@@ -7,7 +7,6 @@
 #include <cctype>
 #include <map>
 #include <set>
-#include <sstream>
 #include <string_view>
 #include <utility>
 

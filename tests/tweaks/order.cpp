@@ -3,7 +3,6 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <sstream>
 
 #include "tweaks/golden.h"
 

@@ -1,7 +1,6 @@
 #include "tweaks/presetfixture.h"
 
 #include <algorithm>
-#include <sstream>
 #include <stdexcept>
 
 #include "runtime/number.h"
