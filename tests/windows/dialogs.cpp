@@ -21,6 +21,9 @@ using platform::Registry;
 
 namespace {
 
+constexpr int Warming = 50;
+constexpr int Times = 300;
+
 const char UninstallKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
 // A machine in memory whose windows are real ones, with something to show in every list.
@@ -54,21 +57,21 @@ struct DialogsFixture {
         return std::max(PrivateMemory(), memory) - memory;
     }
 
-    // Opens and closes the dialog a thousand times. The first ones fill what the system keeps.
+    // Opens and closes the dialog over and over. The first ones fill what the system keeps.
     template <typename Dialog, typename... Others>
     void LeavesNothing(const Others&... others) {
-        for (int i = 0; i < 50; ++i) OpenAndClose<Dialog>(others...);
+        for (int i = 0; i < Warming; ++i) OpenAndClose<Dialog>(others...);
         const int objects = DrawingObjects();
         const int handles = Handles();
         const std::size_t memory = PrivateMemory();
-        for (int i = 0; i < 1000; ++i) OpenAndClose<Dialog>(others...);
-        // One left behind each time would be a thousand; the system keeps a few of its own.
+        for (int i = 0; i < Times; ++i) OpenAndClose<Dialog>(others...);
+        // One left behind each time would be hundreds; the system keeps a few of its own.
         CHECK(DrawingObjects() <= objects + 20);
         CHECK(Handles() <= handles + 20);
-        CHECK(PrivateMemory() <= memory + keptElsewhere + 256 * 1024);
+        CHECK(PrivateMemory() <= memory + keptElsewhere + 256 * Times);
     }
 
-    // What a thousand dialogs cost the system, or the machine in memory.
+    // What so many dialogs cost the system, or the machine in memory.
     std::size_t keptElsewhere = 0;
     Desk desk;
     platform::simulated::Machine simulated;
@@ -90,43 +93,43 @@ void OpenAndCloseField(const std::wstring& text) {
 }
 
 std::size_t KeptOfFields(const std::wstring& text) {
-    for (int i = 0; i < 50; ++i) OpenAndCloseField(text);
+    for (int i = 0; i < Warming; ++i) OpenAndCloseField(text);
     const std::size_t memory = PrivateMemory();
-    for (int i = 0; i < 1000; ++i) OpenAndCloseField(text);
+    for (int i = 0; i < Times; ++i) OpenAndCloseField(text);
     return std::max(PrivateMemory(), memory) - memory;
 }
 
 }  // namespace
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand about boxes leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of about boxes leave nothing behind") {
     LeavesNothing<controls::frmAbout>(std::string("2.3.0.8"));
 }
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand first warnings leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of first warnings leave nothing behind") {
     LeavesNothing<controls::frmFirstInfo>();
 }
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand questions for the password leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of questions for the password leave nothing behind") {
     LeavesNothing<controls::frmPassword>();
 }
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand reports on the system leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of reports on the system leave nothing behind") {
     keptElsewhere = KeptOfFields(platform::win32::ToWide(utilities::SystemReport(machine)));
     LeavesNothing<utilities::frmSystemInformation>();
 }
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand lists of users leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of lists of users leave nothing behind") {
     LeavesNothing<utilities::frmShowAllLoggedInUsers>();
 }
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand lists of software leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of lists of software leave nothing behind") {
     // Each value that is read leaves its key open, on purpose: two values of two entries here.
-    keptElsewhere = KeptOfKeys(4 * 1000);
+    keptElsewhere = KeptOfKeys(4 * Times);
     const int open = simulated.registry.OpenHandles();
     LeavesNothing<utilities::frmInstalledSoftware>();
-    CHECK(simulated.registry.OpenHandles() - open == 4 * 1050);
+    CHECK(simulated.registry.OpenHandles() - open == 4 * (Warming + Times));
 }
 
-TEST_CASE_FIXTURE(DialogsFixture, "a thousand lists of virtual drives leave nothing behind") {
+TEST_CASE_FIXTURE(DialogsFixture, "hundreds of lists of virtual drives leave nothing behind") {
     LeavesNothing<utilities::frmVirtualDrive>();
 }

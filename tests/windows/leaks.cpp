@@ -49,8 +49,8 @@ TEST_CASE("a dialog opened again and again leaves nothing behind") {
     for (int i = 0; i < 20; ++i) OpenAndClose(desk);
     const int objects = DrawingObjects();
     const int window = NextWindow();
-    for (int i = 0; i < 1000; ++i) OpenAndClose(desk);
-    // The system keeps a few of its own; one left behind each time would be a thousand.
+    for (int i = 0; i < 500; ++i) OpenAndClose(desk);
+    // The system keeps a few of its own; one left behind each time would be five hundred.
     CHECK(DrawingObjects() <= objects + 20);
     // All programs of the session take from these numbers, those too that are just starting.
     CHECK(NextWindow() <= window + 400);
