@@ -3,7 +3,6 @@
 #include <commctrl.h>
 #include <doctest/doctest.h>
 
-
 #include "endtoend/dialogue.h"
 #include "endtoend/everyoptionrun.h"
 #include "endtoend/lines.h"
