@@ -77,13 +77,14 @@ std::wstring ScratchDirectory() {
     return std::wstring(buffer, GetTempPathW(MAX_PATH, buffer)) + win32::ToWide(Title);
 }
 
-// A program of the system around Wine; Windows itself has none by such a path. Nobody can wait for
-// it, so `done` tells when it has ended.
-void RunUnix(const wchar_t* program, std::wstring commandLine, const std::function<bool()>& done) {
+// Starts a program of the system around Wine, with wide characters that Windows' own code page may
+// not have. Nobody can wait for it, so `done` tells when it has ended.
+void RunUnix(const std::wstring& commandLine, const std::function<bool()>& done) {
+    std::wstring command = win32::ToWide(ChildCommand("unix ")) + commandLine;
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
-    if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                         &startup, &process)) {
         throw std::logic_error("no program of the system around Wine");
     }
@@ -131,7 +132,7 @@ void RemoveScratchDirectory() {
     const std::wstring directory = ScratchDirectory();
     // Wine follows links when it deletes, and does not see those that lead nowhere.
     if (!linksMade) return RemoveTree(directory);
-    RunUnix(L"\\\\?\\unix\\bin\\rm", L"rm -rf \"" + UnixPath(directory) + L'"',
+    RunUnix(L"rm -rf \"" + UnixPath(directory) + L'"',
             [&] { return AttributesOf(directory) == INVALID_FILE_ATTRIBUTES; });
     linksMade = false;
 }
@@ -269,8 +270,7 @@ void TestMachine::SetAttributes(std::string_view path, std::uint32_t attributes)
 void TestMachine::MakeLink(std::string_view path, std::string_view target) {
     const std::wstring link = win32::ToWide(path);
     linksMade = true;
-    RunUnix(L"\\\\?\\unix\\bin\\ln",
-            L"ln -s \"" + UnixPath(win32::ToWide(target)) + L"\" \"" + UnixPath(link) + L'"',
+    RunUnix(L"ln -s \"" + UnixPath(win32::ToWide(target)) + L"\" \"" + UnixPath(link) + L'"',
             [&] { return AttributesOf(link) != INVALID_FILE_ATTRIBUTES; });
 }
 

@@ -15,6 +15,18 @@ void Append(const std::string& path, const std::string& text) {
     files.Write(files.OpenForAppend(path), text);
 }
 
+// Wine makes no process of such a program, but hands out and closes as its handles what happened to
+// lie in their place. So only a process may do this that ends at once.
+void StartUnix(std::wstring commandLine) {
+    const std::wstring program =
+        L"\\\\?\\unix\\bin\\" + commandLine.substr(0, commandLine.find(L' '));
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                   nullptr, &startup, &process);
+}
+
 }  // namespace
 
 int main() {
@@ -32,6 +44,9 @@ int main() {
         GetStartupInfoW(&startup);
         Append(first, "flags " + std::to_string(startup.dwFlags) + " show " +
                           std::to_string(startup.wShowWindow));
+    } else if (verb == "unix") {
+        const std::wstring wide(platform::win32::ArgumentsOf(GetCommandLineW()));
+        StartUnix(wide.substr(wide.find(L' ') + 1));
     } else if (verb == "end") {
         program.End();
         Append(first, "lived on");
