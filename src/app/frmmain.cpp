@@ -8,20 +8,20 @@
 #include "app/traymenu.h"
 #include "app/version.h"
 #include "controls/chameleonbutton.h"
-#include "controls/forminform.h"
+#include "dialogs/forminform.h"
 #include "platform/menus.h"
 #include "platform/program.h"
 #include "platform/settings.h"
 #include "platform/tray.h"
 #include "runtime/failure.h"
 #include "toolkit/controls.h"
+#include "tools/helpfile.h"
+#include "tools/launcherlabels.h"
 #include "tweaks/autotuning.h"
 #include "tweaks/helptexts.h"
 #include "tweaks/networksets.h"
 #include "tweaks/pathspage.h"
 #include "tweaks/presets.h"
-#include "utilities/helpfile.h"
-#include "utilities/launcherlabels.h"
 
 namespace app {
 namespace {
@@ -117,7 +117,7 @@ bool frmMain::OnKeyDown(int virtualKey) {
 }
 
 void frmMain::OnMouseMove() {
-    utilities::ResetLabelColors(*this);
+    tools::ResetLabelColors(*this);
 }
 
 // A session that ends while the warning is still open leaves as little trace as a refusal.
@@ -137,7 +137,7 @@ void frmMain::OnUnload() {
 
 void frmMain::Connect() {
     Find<controls::chameleonButton>("cmdApply").onClick = [this] { apply_.Run(); };
-    Find<controls::chameleonButton>("cmdHilfe").onClick = [this] { utilities::ShowHelp(machine_); };
+    Find<controls::chameleonButton>("cmdHilfe").onClick = [this] { tools::ShowHelp(machine_); };
     Find<controls::chameleonButton>("cmdAbout").onClick = [this] { ShowDialog(about_); };
     Find<controls::chameleonButton>("cmdSysInfo").onClick = [this] {
         ShowDialog(systemInformation_);
@@ -179,7 +179,7 @@ void frmMain::ShowDialog(Form& dialog) {
     if (dialog.Loaded()) return;
     try {
         dialog.Load();
-        controls::fFormInFormZentrieren(dialog, *this, machine_.forms.WorkArea());
+        dialogs::fFormInFormZentrieren(dialog, *this, machine_.forms.WorkArea());
         dialog.ShowModal();
     } catch (...) {
         // Else it would stay loaded and unseen, and could not be opened again.

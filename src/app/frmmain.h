@@ -3,22 +3,22 @@
 #include <optional>
 #include <string>
 
+#include "app/apply.h"
 #include "app/errorlog.h"
 #include "cleanup/cleanuppage.h"
 #include "controls/ctooltip.h"
-#include "controls/frmabout.h"
-#include "controls/frmpassword.h"
+#include "dialogs/frmabout.h"
+#include "dialogs/frminstalledsoftware.h"
+#include "dialogs/frmpassword.h"
+#include "dialogs/frmshowallloggedinusers.h"
+#include "dialogs/frmsysteminformation.h"
+#include "dialogs/frmvirtualdrive.h"
 #include "platform/machine.h"
 #include "timesync/synchronization.h"
 #include "toolkit/form.h"
 #include "toolkit/popupmenu.h"
-#include "tweaks/apply.h"
+#include "tools/launchers.h"
 #include "tweaks/passes.h"
-#include "utilities/frminstalledsoftware.h"
-#include "utilities/frmshowallloggedinusers.h"
-#include "utilities/frmsysteminformation.h"
-#include "utilities/frmvirtualdrive.h"
-#include "utilities/launchers.h"
 
 namespace app {
 
@@ -79,17 +79,17 @@ class frmMain final : public toolkit::Form {
     bool storesAtClosing_ = false;
     std::string version_;
     ErrorLog log_;
-    utilities::Launchers launchers_;
+    tools::Launchers launchers_;
     tweaks::Passes passes_;
     timesync::Synchronization synchronization_;
     std::optional<cleanup::CleanUpPage> cleanUp_;
-    controls::frmPassword password_;
-    controls::frmAbout about_;
-    utilities::frmSystemInformation systemInformation_;
-    utilities::frmShowAllLoggedInUsers loggedInUsers_;
-    utilities::frmInstalledSoftware installedSoftware_;
-    utilities::frmVirtualDrive virtualDrive_;
-    tweaks::Apply apply_;
+    dialogs::frmPassword password_;
+    dialogs::frmAbout about_;
+    dialogs::frmSystemInformation systemInformation_;
+    dialogs::frmShowAllLoggedInUsers loggedInUsers_;
+    dialogs::frmInstalledSoftware installedSoftware_;
+    dialogs::frmVirtualDrive virtualDrive_;
+    app::Apply apply_;
     toolkit::PopupMenu mnuPopUpTray_;
     std::optional<controls::cToolTip> toolTip_;
 };

@@ -7,6 +7,8 @@
 #include "controls/pageheading.h"
 #include "platform/machine.h"
 #include "toolkit/controls.h"
+#include "tools/launcherlabels.h"
+#include "tools/shortcutspage.h"
 #include "tweaks/keyfilters.h"
 #include "tweaks/networkpage.h"
 #include "tweaks/pathspage.h"
@@ -14,18 +16,16 @@
 #include "tweaks/sideeffects.h"
 #include "tweaks/systempage.h"
 #include "tweaks/tweakspage.h"
-#include "utilities/launcherlabels.h"
-#include "utilities/shortcutspage.h"
 
 namespace app {
 using toolkit::Box;
 
-Box AddPages(frmMain& form, const platform::Machine& machine, const utilities::Launchers& launchers,
+Box AddPages(frmMain& form, const platform::Machine& machine, const tools::Launchers& launchers,
              std::optional<cleanup::CleanUpPage>& cleanUp) {
     auto& tabs = form.Add<toolkit::TabStrip>(
         "SSTab1", std::vector<std::string>{" System", " Tweaks", " Pfade", " CleanUp", "Sicherheit",
                                            " DFÜ", " Shortcuts", " Utilities"});
-    tabs.onClick = [&form] { utilities::ResetLabelColors(form); };
+    tabs.onClick = [&form] { tools::ResetLabelColors(form); };
     std::vector<Box> pages;
     pages.push_back(tweaks::AddSystemPage(form, machine));
     pages.push_back(tweaks::AddTweaksPage(form, machine));
@@ -35,7 +35,7 @@ Box AddPages(frmMain& form, const platform::Machine& machine, const utilities::L
         toolkit::Column({std::move(heading), Stretch(cleanUp.emplace(form, machine).Layout())}));
     pages.push_back(tweaks::AddSecurityPage(form, machine));
     pages.push_back(tweaks::AddNetworkPage(form, machine));
-    pages.push_back(utilities::AddShortcutsPage(form));
+    pages.push_back(tools::AddShortcutsPage(form));
     pages.push_back(AddUtilitiesPage(form, machine.clock, launchers));
     for (Box& page : pages) page.margin = 8;
     tweaks::ConnectSideEffects(form, machine);

@@ -6,7 +6,7 @@
 #include "platform/machine.h"
 #include "toolkit/layout.h"
 
-namespace utilities {
+namespace tools {
 class Launchers;
 }
 
@@ -17,7 +17,7 @@ class frmMain;
 // Makes the tab control with its eight pages; a page's controls come from the room of their tool.
 // `launchers` must live as long as the form. Makes `cleanUp`, which must, too.
 toolkit::Box AddPages(frmMain& form, const platform::Machine& machine,
-                      const utilities::Launchers& launchers,
+                      const tools::Launchers& launchers,
                       std::optional<cleanup::CleanUpPage>& cleanUp);
 
 // Makes the row of buttons below the pages.

@@ -5,8 +5,8 @@
 
 #include "app/frmmain.h"
 #include "app/programoptions.h"
-#include "controls/forminform.h"
-#include "controls/frmfirstinfo.h"
+#include "dialogs/forminform.h"
+#include "dialogs/frmfirstinfo.h"
 #include "platform/locale.h"
 #include "platform/messages.h"
 #include "platform/operatingsystem.h"
@@ -42,9 +42,9 @@ bool WarningAccepted(const Settings& settings) {
 void AskForAcceptance(frmMain& form, const platform::Machine& machine, const Settings& settings) {
     if (WarningAccepted(settings)) return;
     Skip([&] {
-        controls::frmFirstInfo warning(machine);
+        dialogs::frmFirstInfo warning(machine);
         warning.Load();
-        controls::fFormInFormZentrieren(warning, form, machine.forms.WorkArea());
+        dialogs::fFormInFormZentrieren(warning, form, machine.forms.WorkArea());
         warning.ShowModal();
     });
     if (!WarningAccepted(settings)) machine.program.End();

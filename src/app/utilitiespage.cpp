@@ -6,7 +6,7 @@
 #include "controls/pageheading.h"
 #include "timesync/synchronizeframe.h"
 #include "toolkit/controls.h"
-#include "utilities/launcherlabels.h"
+#include "tools/launcherlabels.h"
 
 namespace app {
 namespace {
@@ -46,16 +46,16 @@ Box AddDialogButtons(frmMain& form, platform::Clock& clock) {
 Box AddHeading(frmMain& form) {
     Box heading = controls::PageHeading(form, "lblUtilities", "Utilities");
     form.Find<toolkit::Label>("lblUtilities").onMouseMove = [&form] {
-        utilities::ResetLabelColors(form);
+        tools::ResetLabelColors(form);
     };
     return heading;
 }
 
 }  // namespace
 
-Box AddUtilitiesPage(frmMain& form, platform::Clock& clock, const utilities::Launchers& launchers) {
+Box AddUtilitiesPage(frmMain& form, platform::Clock& clock, const tools::Launchers& launchers) {
     Box heading = AddHeading(form);
-    Box programs = utilities::AddLauncherLabels(form, launchers);
+    Box programs = tools::AddLauncherLabels(form, launchers);
     std::vector<Box> cells;
     cells.push_back(toolkit::Stretch(timesync::AddSynchronizeFrame(form, clock)));
     cells.push_back(toolkit::Stretch(AddOptions(form)));

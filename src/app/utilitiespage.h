@@ -5,7 +5,7 @@
 namespace platform {
 class Clock;
 }
-namespace utilities {
+namespace tools {
 class Launchers;
 }
 
@@ -17,6 +17,6 @@ class frmMain;
 // program's own options, the ends of the session and the ways to the dialogs. `launchers` must live
 // as long as the form.
 toolkit::Box AddUtilitiesPage(frmMain& form, platform::Clock& clock,
-                              const utilities::Launchers& launchers);
+                              const tools::Launchers& launchers);
 
 }  // namespace app

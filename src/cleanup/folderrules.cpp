@@ -5,8 +5,8 @@
 
 #include "platform/machine.h"
 #include "runtime/text.h"
-#include "utilities/systemdirectorypaths.h"
-#include "utilities/systemfacts.h"
+#include "system/specialfolders.h"
+#include "system/systemdirectorypaths.h"
 
 namespace cleanup {
 
@@ -29,10 +29,10 @@ constexpr std::array<std::string_view, 5> AsSpelled = {
 }  // namespace
 
 FolderRules::FolderRules(const platform::Machine& machine) {
-    const utilities::clsGetSystemDirectoryPaths directories(machine.facts);
+    const sys::clsGetSystemDirectoryPaths directories(machine.facts);
     const std::string windows = runtime::ToUpper(directories.WindowsDirectory());
     const std::string system = runtime::ToUpper(directories.SystemDirectory());
-    whole_ = {runtime::ToUpper(utilities::GetSpecialFolderPath(machine.shell, SendToFolder)),
+    whole_ = {runtime::ToUpper(sys::GetSpecialFolderPath(machine.shell, SendToFolder)),
               windows + "\\ALL USERS", windows + "\\SENDTO", system + "\\SECURITY"};
     // The first of these covers the other two and the last one above, which stand for themselves
     // all the same.

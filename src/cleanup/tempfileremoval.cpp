@@ -14,8 +14,9 @@
 #include "platform/machine.h"
 #include "platform/messages.h"
 #include "runtime/failure.h"
+#include "system/filelock.h"
+#include "system/shelldelete.h"
 #include "toolkit/form.h"
-#include "utilities/modshellkill.h"
 
 namespace cleanup {
 
@@ -107,7 +108,7 @@ bool Removal::MayTouch(const std::string& path) const {
 // that names something else by now is not opened at all.
 bool Removal::IsInUse(const std::string& path) const {
     bool inUse = false;
-    Skip([&] { inUse = MayTouch(path) && utilities::FileIsLocked(machine_.files, path); });
+    Skip([&] { inUse = MayTouch(path) && sys::FileIsLocked(machine_.files, path); });
     return inUse;
 }
 
@@ -142,7 +143,7 @@ void Removal::MoveToBin(const std::string& path) const {
     if (!entry) return;
     if (entry->IsFolder()) DropLinks(machine_.folders, machine_.files, path);
     if (entry->IsFolder() && entry->IsLink()) return;
-    utilities::ShellDeleteFile(machine_.shell, path, false);
+    sys::ShellDeleteFile(machine_.shell, path, false);
 }
 
 }  // namespace

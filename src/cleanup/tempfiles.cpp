@@ -4,8 +4,8 @@
 #include "cleanup/recyclebin.h"
 #include "platform/machine.h"
 #include "runtime/text.h"
-#include "utilities/driveentries.h"
-#include "utilities/systemdirectorypaths.h"
+#include "system/driveentries.h"
+#include "system/systemdirectorypaths.h"
 
 namespace cleanup {
 
@@ -23,8 +23,8 @@ TempFiles::TempFiles(toolkit::Form& form, const platform::Machine& machine)
 }
 
 void TempFiles::Start() {
-    frame_.drvSelect.SetDrives(utilities::DriveEntries(machine_.information));
-    const utilities::clsGetSystemDirectoryPaths directories(machine_.facts);
+    frame_.drvSelect.SetDrives(sys::DriveEntries(machine_.information));
+    const sys::clsGetSystemDirectoryPaths directories(machine_.facts);
     frame_.drvSelect.SetDrive(runtime::Left(directories.WindowsDirectory(), 3));
 }
 

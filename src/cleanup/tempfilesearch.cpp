@@ -15,9 +15,9 @@
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "runtime/text.h"
+#include "system/specialfolders.h"
+#include "system/systemdirectorypaths.h"
 #include "toolkit/listhelpers.h"
-#include "utilities/systemdirectorypaths.h"
-#include "utilities/systemfacts.h"
 
 namespace cleanup {
 
@@ -116,16 +116,15 @@ void TempFileSearch::Begin() {
 
 void TempFileSearch::Collect() {
     if (frame_.chkRecentDocFolder.Value() == 1) {
-        SkipMissing(
-            [&] { Scan(utilities::GetSpecialFolderPath(machine_.shell, RecentFolder), true); });
+        SkipMissing([&] { Scan(sys::GetSpecialFolderPath(machine_.shell, RecentFolder), true); });
     }
     if (frame_.chkCleanUserTempFolder.Value() == 1) {
-        const std::string path = utilities::GetTempDirectory(machine_.facts);
+        const std::string path = sys::GetTempDirectory(machine_.facts);
         SkipMissing([&] { Scan(path, true); });
         AddSubFolderRows(path);
     }
     // Always, whatever is ticked: these folders lie on the system's drive.
-    const utilities::clsGetSystemDirectoryPaths directories(machine_.facts);
+    const sys::clsGetSystemDirectoryPaths directories(machine_.facts);
     const std::string windows = directories.WindowsDirectory();
     // Without it the path would name a folder of whatever drive is the current one.
     if (!windows.empty()) AddSubFolderRows(windows + "\\Temp");

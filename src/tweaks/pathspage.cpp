@@ -10,11 +10,11 @@
 #include "platform/messages.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
+#include "system/currentuser.h"
+#include "system/folderdialog.h"
+#include "system/systemdirectorypaths.h"
 #include "toolkit/form.h"
 #include "tweaks/pageparts.h"
-#include "utilities/moddirdialog.h"
-#include "utilities/systemdirectorypaths.h"
-#include "utilities/systemfacts.h"
 
 namespace tweaks {
 namespace {
@@ -72,7 +72,7 @@ std::string Member(const char* group, std::size_t index) {
 void BrowseForPath(Form& form, const platform::Machine& machine, std::size_t index) {
     auto& path = form.Find<Label>(Member("lblVerwaltung", index));
     const std::string name = form.Find<Label>(Member("lblPathNames", index)).Caption();
-    const std::string chosen = utilities::BrowseForFolderPath(
+    const std::string chosen = sys::BrowseForFolderPath(
         machine.shell, form, "Bitte Ordner für " + name + " auswählen", path.Caption());
     if (!chosen.empty()) path.SetCaption(chosen);
 }
@@ -106,10 +106,9 @@ std::string DefaultPath(const PathRow& row, const platform::SystemFacts& facts) 
         case Base::AllUsers:
             return std::string(Profiles) + "All Users" + row.folder;
         case Base::User:
-            return Profiles + utilities::GetCurrentUserName(facts) + row.folder;
+            return Profiles + sys::GetCurrentUserName(facts) + row.folder;
         default:
-            return runtime::Left(utilities::clsGetSystemDirectoryPaths(facts).WindowsDirectory(),
-                                 2) +
+            return runtime::Left(sys::clsGetSystemDirectoryPaths(facts).WindowsDirectory(), 2) +
                    row.folder;
     }
 }

@@ -1,4 +1,4 @@
-#include "tweaks/apply.h"
+#include "app/apply.h"
 
 #include <doctest/doctest.h>
 
@@ -326,11 +326,11 @@ TEST_CASE("a second press runs everything again, questions included") {
 
 TEST_CASE("the message of success follows a write pass that raises a failure") {
     Dialogue dialogue;
-    controls::frmPassword password(dialogue.machine.services);
+    dialogs::frmPassword password(dialogue.machine.services);
     bool saved = false;
-    tweaks::Apply apply(*dialogue.form, password, dialogue.machine.services,
-                        {.saveProgramOptions = [&] { saved = true; },
-                         .writeRegistry = [] { throw runtime::Failure(runtime::Overflow); }});
+    app::Apply apply(*dialogue.form, password, dialogue.machine.services,
+                     {.saveProgramOptions = [&] { saved = true; },
+                      .writeRegistry = [] { throw runtime::Failure(runtime::Overflow); }});
     dialogue.Answer(6, 7, 7);
     apply.Run();
     CHECK(saved);

@@ -13,7 +13,7 @@ for room in "${rooms[@]}"; do
     # which is nobody's name.
     find "$room" -mindepth 1 -type d -exec test -e {}/CMakeLists.txt \; -prune -o \
         -name '*.cpp' -print0 |
-        xargs -0 ctags -o - --sort=no --languages=C++ --kinds-C++=cefgpsuv --fields=+Z \
+        xargs -0r ctags -o - --sort=no --languages=C++ --kinds-C++=cefgpsuv --fields=+Z \
             -D 'TEST_CASE(name)=void Case()' -D 'TEST_CASE_FIXTURE(type,name)=void Case()' |
         awk -F'\t' '
             $1 != "Case" && !seen[$1, $2] {

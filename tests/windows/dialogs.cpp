@@ -3,16 +3,16 @@
 
 #include <algorithm>
 
-#include "controls/frmabout.h"
-#include "controls/frmfirstinfo.h"
-#include "controls/frmpassword.h"
+#include "dialogs/frmabout.h"
+#include "dialogs/frmfirstinfo.h"
+#include "dialogs/frminstalledsoftware.h"
+#include "dialogs/frmpassword.h"
+#include "dialogs/frmshowallloggedinusers.h"
+#include "dialogs/frmsysteminformation.h"
+#include "dialogs/frmvirtualdrive.h"
+#include "dialogs/systemreport.h"
 #include "platform/simulated/machine.h"
 #include "platform/simulated/withservices.h"
-#include "utilities/frminstalledsoftware.h"
-#include "utilities/frmshowallloggedinusers.h"
-#include "utilities/frmsysteminformation.h"
-#include "utilities/frmvirtualdrive.h"
-#include "utilities/systemreport.h"
 #include "windows/desk.h"
 #include "windows/resources.h"
 
@@ -102,34 +102,34 @@ std::size_t KeptOfFields(const std::wstring& text) {
 }  // namespace
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of about boxes leave nothing behind") {
-    LeavesNothing<controls::frmAbout>(std::string("2.3.0.8"));
+    LeavesNothing<dialogs::frmAbout>(std::string("2.3.0.8"));
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of first warnings leave nothing behind") {
-    LeavesNothing<controls::frmFirstInfo>();
+    LeavesNothing<dialogs::frmFirstInfo>();
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of questions for the password leave nothing behind") {
-    LeavesNothing<controls::frmPassword>();
+    LeavesNothing<dialogs::frmPassword>();
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of reports on the system leave nothing behind") {
-    keptElsewhere = KeptOfFields(platform::win32::ToWide(utilities::SystemReport(machine)));
-    LeavesNothing<utilities::frmSystemInformation>();
+    keptElsewhere = KeptOfFields(platform::win32::ToWide(dialogs::SystemReport(machine)));
+    LeavesNothing<dialogs::frmSystemInformation>();
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of lists of users leave nothing behind") {
-    LeavesNothing<utilities::frmShowAllLoggedInUsers>();
+    LeavesNothing<dialogs::frmShowAllLoggedInUsers>();
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of lists of software leave nothing behind") {
     // Each value that is read leaves its key open, on purpose: two values of two entries here.
     keptElsewhere = KeptOfKeys(4 * Times);
     const int open = simulated.registry.OpenHandles();
-    LeavesNothing<utilities::frmInstalledSoftware>();
+    LeavesNothing<dialogs::frmInstalledSoftware>();
     CHECK(simulated.registry.OpenHandles() - open == 4 * (Warming + Times));
 }
 
 TEST_CASE_FIXTURE(DialogsFixture, "hundreds of lists of virtual drives leave nothing behind") {
-    LeavesNothing<utilities::frmVirtualDrive>();
+    LeavesNothing<dialogs::frmVirtualDrive>();
 }

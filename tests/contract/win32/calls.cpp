@@ -19,7 +19,7 @@
 #include "platform/win32/messages.h"
 #include "platform/win32/shell.h"
 #include "support/standinfunction.h"
-#include "utilities/shellwait.h"
+#include "system/shellwait.h"
 
 // Where the code of this program finds the system's functions.
 extern "C" {
@@ -201,8 +201,7 @@ TEST_CASE("after a process has been awaited its handle is closed, and that of it
     const StandInFunction function(entryOfCreateProcess, NoteProcess);
     realCreateProcess = reinterpret_cast<decltype(CreateProcessA)*>(function.Real());
     lastProcess = {};
-    CHECK(utilities::ShellWait(machine.Services().processes, contract::ChildCommand("sleep 1"),
-                               false));
+    CHECK(sys::ShellWait(machine.Services().processes, contract::ChildCommand("sleep 1"), false));
     REQUIRE(lastProcess.hThread);
     CHECK_FALSE(IsOpen(lastProcess.hProcess));
     CHECK(IsOpen(lastProcess.hThread));

@@ -1,4 +1,4 @@
-#include "utilities/memoryrelease.h"
+#include "tweaks/memoryrelease.h"
 
 #include <doctest/doctest.h>
 
@@ -39,7 +39,7 @@ struct WindowsMemoryReleaseFixture {
     SmallMemory memory{machine};
 
     void Release() {
-        utilities::ReleaseMemory(machine.Services().forms, memory, machine.Services().locale);
+        tweaks::ReleaseMemory(machine.Services().forms, memory, machine.Services().locale);
     }
 };
 

@@ -7,7 +7,8 @@
 
 namespace {
 
-using namespace platform;
+namespace message = platform::message;
+namespace win32 = platform::win32;
 
 win32::WindowHandle VisibleWindow() {
     return win32::WindowHandle(CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPED | WS_VISIBLE,

@@ -18,9 +18,10 @@
 #include "platform/win32/messages.h"
 #include "platform/win32/text.h"
 #include "runtime/failure.h"
+#include "system/filelock.h"
+#include "system/folderdialog.h"
+#include "system/shelldelete.h"
 #include "toolkit/form.h"
-#include "utilities/moddirdialog.h"
-#include "utilities/modshellkill.h"
 
 // What the real shell does with windows, files and programs.
 
@@ -71,7 +72,7 @@ struct WindowsShellFixture {
 TEST_CASE_FIXTURE(WindowsPicker, "the folder picker lies over its owner and shows title and path") {
     const std::string start = shell.SpecialFolder(0x25);
     contract::FolderUser user(true);
-    CHECK(utilities::BrowseForFolderPath(shell, owner, "Wählen Sie einen Ordner", start) == start);
+    CHECK(sys::BrowseForFolderPath(shell, owner, "Wählen Sie einen Ordner", start) == start);
     CHECK(user.dialogs == 1);
     CHECK(user.owner == forms.window.Get());
     CHECK(Contains(user.labels, "Wählen Sie einen Ordner"));
@@ -80,7 +81,7 @@ TEST_CASE_FIXTURE(WindowsPicker, "the folder picker lies over its owner and show
 
 TEST_CASE_FIXTURE(WindowsPicker, "the cancelled folder picker gives the empty text") {
     contract::FolderUser user(false);
-    CHECK(utilities::BrowseForFolderPath(shell, owner, "Ordner", shell.SpecialFolder(0x24)) == "");
+    CHECK(sys::BrowseForFolderPath(shell, owner, "Ordner", shell.SpecialFolder(0x24)) == "");
     CHECK(user.dialogs == 1);
 }
 
@@ -115,7 +116,7 @@ TEST_CASE_FIXTURE(WindowsShellFixture, "a program runs in the directory that it 
 TEST_CASE_FIXTURE(WindowsShellFixture, "a real file goes by the silent deletion, and no other") {
     const std::string path = NewFile("Größe mit Leerzeichen.tmp");
     const std::string other = NewFile("Größe.tmp");
-    CHECK(utilities::ShellDeleteFile(shell, path, true));
+    CHECK(sys::ShellDeleteFile(shell, path, true));
     CHECK(machine.FileContent(path) == std::nullopt);
     CHECK(machine.FileContent(other) == "");
 }
@@ -127,9 +128,9 @@ TEST_CASE_FIXTURE(WindowsShellFixture,
         const win32::FileHandle held(CreateFileW(win32::ToWide(path).c_str(), GENERIC_READ, 0,
                                                  nullptr, OPEN_EXISTING, 0, nullptr));
         REQUIRE(held);
-        CHECK(utilities::FileIsLocked(machine.Services().files, path));
+        CHECK(sys::FileIsLocked(machine.Services().files, path));
     }
-    CHECK_FALSE(utilities::FileIsLocked(machine.Services().files, path));
+    CHECK_FALSE(sys::FileIsLocked(machine.Services().files, path));
 }
 
 TEST_CASE_FIXTURE(WindowsShellFixture, "a file that another program only reads is locked too") {
@@ -138,5 +139,5 @@ TEST_CASE_FIXTURE(WindowsShellFixture, "a file that another program only reads i
                                              FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                              OPEN_EXISTING, 0, nullptr));
     REQUIRE(held);
-    CHECK(utilities::FileIsLocked(machine.Services().files, path));
+    CHECK(sys::FileIsLocked(machine.Services().files, path));
 }

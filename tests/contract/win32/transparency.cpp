@@ -1,4 +1,4 @@
-#include "utilities/transparency.h"
+#include "tweaks/transparency.h"
 
 #include <doctest/doctest.h>
 #include <shlwapi.h>
@@ -35,13 +35,13 @@ TEST_CASE_FIXTURE(Shell, "the taskbar and the topmost other bar take the level")
     const auto taskbar = machine.OpenWindow("Shell_TrayWnd", "");
     const auto below = machine.OpenWindow("BaseBar", "");
     const auto above = machine.OpenWindow("BaseBar", "");
-    utilities::SetTaskbarOpacity(services, 100);
+    tweaks::SetTaskbarOpacity(services, 100);
     for (const auto window : {taskbar, above}) {
         CHECK(machine.LookAt(window).alpha == 100);
         CHECK((machine.LookAt(window).extendedStyle & LayeredStyle) != 0);
     }
     CHECK((machine.LookAt(below).extendedStyle & LayeredStyle) == 0);
-    utilities::SetTaskbarOpacity(services, 255);
+    tweaks::SetTaskbarOpacity(services, 255);
     CHECK(machine.LookAt(taskbar).alpha == 255);
     CHECK((machine.LookAt(taskbar).extendedStyle & LayeredStyle) != 0);
     CHECK(machine
@@ -54,19 +54,19 @@ TEST_CASE_FIXTURE(Shell, "the icon list is found, cleared, spread over the scree
     const auto desktop = machine.OpenWindow("Progman", "Program Manager");
     const auto view = machine.OpenWindow("SHELLDLL_DefView", "", desktop);
     const auto list = machine.OpenWindow("SysListView32", "FolderView", view);
-    CHECK(utilities::FindDesktopListView(services.windows) == list);
-    utilities::IconsChosen(services, 1);
+    CHECK(tweaks::FindDesktopListView(services.windows) == list);
+    tweaks::IconsChosen(services, 1);
     CHECK(machine.LookAt(list).textBackground == 0xFFFFFFFF);
     CHECK(machine.LookAt(list).visible);
     CHECK(machine.LookAt(list).place ==
           toolkit::Rect{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
-    utilities::IconsChosen(services, 0);
+    tweaks::IconsChosen(services, 0);
     CHECK(machine.LookAt(list).textBackground == 1);
 }
 
 TEST_CASE_FIXTURE(Shell, "without the desktop there is no icon list") {
-    CHECK(utilities::FindDesktopListView(services.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(services.windows) == 0);
     const auto desktop = machine.OpenWindow("Progman", "Programm-Manager");
     machine.OpenWindow("SHELLDLL_DefView", "", desktop);
-    CHECK(utilities::FindDesktopListView(services.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(services.windows) == 0);
 }
