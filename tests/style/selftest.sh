@@ -45,4 +45,43 @@ Own 'int Thrice(int number) { return 3 * number; } using Word = int;' >"$work/ro
 if ! "$here/names.sh" "$work"; then
     failures=$((failures + 1))
 fi
+
+# A house of two rooms and a suite; each change of it breaks one rule of its plan.
+House() {
+    rm -rf "$work/house"
+    mkdir -p "$work"/house/{src/{low,high,program},tests/low}
+    cd "$work/house"
+    printf 'add_room(low FLOOR 0\n  SOURCES\n    a.cpp\n    b.cpp)\n' >src/low/CMakeLists.txt
+    printf 'add_room(high FLOOR 1\n  SOURCES\n    c.cpp\n  USES\n    low)\n' \
+        >src/high/CMakeLists.txt
+    printf 'add_suite(low\n  SOURCES\n    a.cpp\n    b.cpp)\n' >tests/low/CMakeLists.txt
+    touch src/low/{a,b}.cpp src/low/a.h src/high/c.h
+    echo '#include "low/a.h"' >src/high/c.cpp
+    echo '#include <windows.h>' >src/program/main.cpp
+}
+House
+if ! python3 "$here/rooms.py" "$work/house"; then
+    failures=$((failures + 1))
+fi
+Breaks() {
+    House
+    eval "$1"
+    if python3 "$here/rooms.py" "$work/house" 2>/dev/null; then
+        echo "not found: $1" >&2
+        failures=$((failures + 1))
+    fi
+}
+Breaks "echo '#include \"high/c.h\"' >src/low/a.cpp"
+Breaks "sed -i 's/FLOOR 0/FLOOR 1/' src/low/CMakeLists.txt"
+Breaks "sed -i 's/ FLOOR 1//' src/high/CMakeLists.txt"
+Breaks "sed -i '/USES/,\$ d; s/c.cpp/c.cpp)/' src/high/CMakeLists.txt"
+Breaks "echo >src/high/c.cpp"
+Breaks "echo '#include <windows.h>' >src/low/a.h"
+Breaks "echo '#include \"nowhere/a.h\"' >src/low/a.cpp"
+Breaks "touch src/low/c.cpp"
+Breaks "rm src/low/b.cpp"
+Breaks "touch src/loose.cpp"
+Breaks "mkdir src/new && touch src/new/a.cpp"
+Breaks "printf 'add_suite(low\n  SOURCES\n    b.cpp\n    a.cpp)\n' >tests/low/CMakeLists.txt"
+Breaks "printf 'add_suite(low\n  SOURCES\n    a.cpp b.cpp)\n' >tests/low/CMakeLists.txt"
 exit $((failures > 0))
