@@ -2,7 +2,7 @@
 # Instructions a file for the rules of names and attributes, on ten thousand files.
 # Call: cleanuprules.sh <folder of the built measuring programs>
 set -eu
-limit=300
+. "$(dirname "$0")/limits.txt"
 files=10000
 
 work=$(mktemp -d)
@@ -17,7 +17,7 @@ test "${count:-0}" -gt 0 || {
     echo "cleanuprules: nothing counted" >&2
     exit 1
 }
-awk -v count="$count" -v files=$files -v limit=$limit 'BEGIN {
+awk -v count="$count" -v files=$files -v limit="$cleanup_rules" 'BEGIN {
     each = count / files
     printf "clean-up rules instructions a file %d limit %d ratio %.2f %s\n", each, limit, each / limit,
            each <= limit ? "ok" : "TOO SLOW"

@@ -3,8 +3,7 @@
 # little more, since sorting and looking one up pass more of them, but not as many times more.
 # Call: listrows.sh <folder of the built measuring programs>
 set -eu
-# The cost of a row at 40,000 rows over that at 10,000.
-limit=1.30
+. "$(dirname "$0")/limits.txt"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -29,7 +28,7 @@ for step in Fill Sort SortedFill FirstRowRemoval; do
         echo "listrows: nothing counted" >&2
         exit 1
     }
-    awk -v name="$step" -v few="$few" -v more="$more" -v many="$many" -v limit="$limit" 'BEGIN {
+    awk -v name="$step" -v few="$few" -v more="$more" -v many="$many" -v limit="$list_rows" 'BEGIN {
         ratio = many / few
         printf "%-16s instructions a row %d %d %d ratio %.2f limit %.2f %s\n", name, few, more,
                many, ratio, limit, ratio <= limit ? "ok" : "TOO SLOW"

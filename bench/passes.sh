@@ -3,19 +3,17 @@
 # Call: passes.sh <folder of the built measuring programs>
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
-# Ours over bare. A pass does more than call: it builds paths, converts texts and numbers, compares
-# and sets controls.
-limit=1.50
+. "$here/limits.txt"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-passes=$1/passes
+program=$1/passes
 baseline=$here/../resources/xp-baseline.reg
 
 # Instructions within the given function and all that it calls.
 Instructions() {
     valgrind --tool=callgrind --callgrind-out-file="$work/out" --collect-atstart=no \
-        --toggle-collect="$1" "$passes" "$baseline" >"$work/log" 2>&1 || {
+        --toggle-collect="$1" "$program" "$baseline" >"$work/log" 2>&1 || {
         cat "$work/log" >&2
         exit 1
     }
@@ -29,7 +27,7 @@ Compare() {
         echo "passes: nothing counted" >&2
         exit 1
     }
-    awk -v name="$1" -v ours="$ours" -v bare="$bare" -v limit="$limit" 'BEGIN {
+    awk -v name="$1" -v ours="$ours" -v bare="$bare" -v limit="$passes" 'BEGIN {
         ratio = ours / bare
         printf "%-10s instructions ours %d bare %d ratio %.2f limit %.2f %s\n", name " pass", ours,
                bare, ratio, limit, ratio <= limit ? "ok" : "TOO SLOW"
@@ -38,7 +36,7 @@ Compare() {
 }
 
 failed=0
-"$passes" "$baseline" prove || failed=1
+"$program" "$baseline" prove || failed=1
 Compare Read || failed=1
 Compare Write || failed=1
 exit $failed

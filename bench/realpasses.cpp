@@ -28,7 +28,7 @@ namespace {
 using bench::Call;
 using Calls = std::vector<Call>;
 
-constexpr double Limit = 1.2;
+constexpr double Limit = LIMIT_REAL_PASSES;
 // The type by which a dump tells a key without values.
 constexpr std::uint32_t NoValues = 0xFFFFFFFF;
 constexpr char ScratchKey[] = "Software\\QuillmorePasses";

@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr double StartLimit = 1.5;
-constexpr double MemoryLimitMegabytes = 7;
+constexpr double StartLimit = LIMIT_STARTUP;
+constexpr double MemoryLimitMegabytes = LIMIT_PRIVATE_MEMORY;
 constexpr DWORD Patience = 20000;
 
 struct Run {

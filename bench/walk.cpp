@@ -31,7 +31,7 @@
 
 namespace {
 
-constexpr double Limit = 1.15;
+constexpr double Limit = LIMIT_WALK;
 constexpr int FilesInFolder = 100;
 constexpr int FilesForAHit = 5;
 constexpr int FoldersWithoutScreen = 100;

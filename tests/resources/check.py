@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""check.py: the icon, the pictures of the tabs and the version block are what Windows XP shows."""
+"""check.py GENERATED: the icon, the pictures of the tabs and the version block are what Windows XP shows."""
 
 import pathlib
 import re
@@ -9,6 +9,7 @@ import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 RESOURCES = ROOT / "resources"
+GENERATED = pathlib.Path(sys.argv[1])
 PNG = b"\x89PNG"
 SIZES = (16, 32, 48)
 TABS = 8
@@ -59,18 +60,19 @@ class Resources(unittest.TestCase):
             self.assertIn(0, part, f"picture {tab} leaves nothing free")
             self.assertGreater(sum(byte != 0 for byte in part), 30, f"picture {tab} is empty")
 
-    def test_the_version_block_is_german_and_tells_the_version_of_project_and_program(self):
+    def test_the_version_block_is_german_and_tells_the_version_of_the_project(self):
         script = (RESOURCES / "Quillmore.rc").read_text(encoding="utf-8")
         project = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
         version = re.search(r"VERSION ([\d.]+) LANGUAGES", project).group(1)
         for name in ("FILEVERSION", "PRODUCTVERSION"):
-            self.assertIn(f"{name} {version.replace('.', ',')}\n", script)
+            self.assertIn(f"{name} VERSION_NUMBERS\n", script)
         for name in ("FileVersion", "ProductVersion"):
-            self.assertIn(f'VALUE "{name}", "{version}"\n', script)
-        source = (ROOT / "src" / "app" / "version.h").read_text(encoding="utf-8")
-        told = [re.search(rf"int {name} = (\d+);", source).group(1)
-                for name in ("MajorVersion", "MinorVersion", "Revision")]
-        self.assertEqual(version.split("."), [*told[:2], "0", told[2]])
+            self.assertIn(f'VALUE "{name}", VERSION_TEXT\n', script)
+        told = (GENERATED / "version.rc.h").read_text(encoding="utf-8")
+        self.assertIn(f"#define VERSION_NUMBERS {version.replace('.', ',')}\n", told)
+        self.assertIn(f'#define VERSION_TEXT "{version}"\n', told)
+        manifest = (GENERATED / "Quillmore.manifest").read_text(encoding="utf-8")
+        self.assertIn(f'name="Quillmore" version="{version}"', manifest)
         self.assertIn("LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\n", script)
         self.assertIn(f'VALUE "Translation", 0x{GERMAN:04x}, 1200\n', script)
         self.assertIn(f'BLOCK "{GERMAN:04X}04B0"\n', script)
