@@ -22,5 +22,12 @@ function(add_room name)
     set(scope INTERFACE)
   endif()
   target_include_directories(${name} ${scope} ${PROJECT_SOURCE_DIR}/src)
+  # For ./test, which compiles each header alone: those that know Windows for Windows, the others not.
+  file(GLOB headers CONFIGURE_DEPENDS *.h)
+  target_sources(${name} ${scope}
+    FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${headers})
+  if(NOT WIN32 OR name MATCHES "^win32")
+    set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  endif()
   target_link_libraries(${name} ${scope} ${ROOM_USES} ${ROOM_SYSTEM})
 endfunction()

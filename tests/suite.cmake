@@ -12,7 +12,7 @@ function(add_suite name)
   if(QUILLMORE_SANITIZE)
     # What is watched for undefined behaviour is the program; watching the framework's macros too
     # would double the time that a suite takes to compile.
-    target_compile_options(test_${name} PRIVATE -fno-sanitize=undefined -g1)
+    target_compile_options(test_${name} PRIVATE -fno-sanitize=undefined)
   endif()
   set(filter "")
   set(long "")
