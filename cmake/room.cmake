@@ -3,6 +3,26 @@
 # Files that a program of the tests replaces by one of its own are ALONE: each stays an object of its
 # own. A BUSY room is one in which the suites spend their time: optimised, it takes longer to compile
 # and less than half to run. A room of headers alone has no SOURCES.
+set(ROOM_WARNINGS
+  -Wcast-qual
+  -Wctor-dtor-privacy
+  -Wdeprecated-copy-dtor
+  -Wduplicated-branches
+  -Wduplicated-cond
+  -Wextra-semi
+  -Wformat-security
+  -Wlogical-op
+  -Wmissing-declarations
+  -Wnon-virtual-dtor
+  -Wold-style-cast
+  -Woverloaded-virtual
+  -Wredundant-decls
+  -Wsuggest-override
+  -Wundef
+  -Wunused-const-variable
+  -Wunused-macros
+  -Wzero-as-null-pointer-constant)
+
 function(add_room name)
   cmake_parse_arguments(ROOM "BUSY" "FLOOR" "SOURCES;ALONE;USES;SYSTEM" ${ARGN})
   set(scope PUBLIC)
@@ -10,6 +30,7 @@ function(add_room name)
     add_library(${name} STATIC ${ROOM_SOURCES} ${ROOM_ALONE})
     set_target_properties(${name} PROPERTIES UNITY_BUILD ${QUILLMORE_UNITY})
     set_source_files_properties(${ROOM_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    target_compile_options(${name} PRIVATE ${ROOM_WARNINGS})
     if(ROOM_BUSY)
       target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-O1>)
     endif()
