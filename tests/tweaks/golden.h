@@ -47,6 +47,10 @@ std::vector<std::pair<std::string, bool>> ReadingOtherwiseThanWindows();
 // yes. The stored value's text is taken by this function's own understanding, not the program's.
 bool ReadsAsOn(const Fact& fact, const std::optional<StoredValue>& stored);
 
+// The caption that the user sees: a check box's own, of all others that of the label or frame in
+// front.
+std::string CaptionOf(const toolkit::Form& form, const std::string& name);
+
 // The program's own rows in the words of the file.
 std::vector<Fact> FactsOfProgram(toolkit::Form& form);
 

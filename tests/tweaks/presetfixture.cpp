@@ -1,9 +1,11 @@
 #include "tweaks/presetfixture.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 #include "runtime/number.h"
+#include "support/golden.h"
 #include "toolkit/combobox.h"
 
 namespace tweak_tests {

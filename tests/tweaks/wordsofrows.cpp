@@ -214,19 +214,6 @@ std::string KindOf(const Option& option) {
     }
 }
 
-std::string CaptionOf(toolkit::Form& form, const std::string& name) {
-    std::string above;
-    for (const auto& control : form.Controls()) {
-        if (control->Name() == name) {
-            return dynamic_cast<toolkit::CheckBox*>(control.get()) ? control->Caption() : above;
-        }
-        const bool names = control->Kind() == toolkit::ControlKind::Label ||
-                           control->Kind() == toolkit::ControlKind::Frame;
-        if (names) above = control->Caption();
-    }
-    return "(not on the form)";
-}
-
 // The box whose text a check box writes to that place, which goes along with it.
 const char* BoxAlong(const Option& option, const ValuePlace& own, const ValuePlace& place) {
     for (const Step& step : option.on) {
@@ -289,6 +276,19 @@ std::vector<Fact> FactsOf(const Option& option) {
 }
 
 }  // namespace
+
+std::string CaptionOf(const toolkit::Form& form, const std::string& name) {
+    std::string above;
+    for (const auto& control : form.Controls()) {
+        if (control->Name() == name) {
+            return dynamic_cast<toolkit::CheckBox*>(control.get()) ? control->Caption() : above;
+        }
+        const bool names = control->Kind() == toolkit::ControlKind::Label ||
+                           control->Kind() == toolkit::ControlKind::Frame;
+        if (names) above = control->Caption();
+    }
+    return "(not on the form)";
+}
 
 std::vector<Fact> FactsOfProgram(toolkit::Form& form) {
     std::vector<Fact> facts;
