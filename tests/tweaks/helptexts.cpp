@@ -90,7 +90,7 @@ bool Writes(const std::string& control, bool on) {
 
 TEST_CASE("the help texts belong to the golden list's controls, in its order") {
     const auto golden = GoldenRows();
-    REQUIRE(golden.size() == 105);
+    REQUIRE_FALSE(golden.empty());
     REQUIRE(tweaks::HelpTexts().size() == golden.size());
     for (std::size_t i = 0; i < golden.size(); ++i) {
         CHECK(tweaks::HelpTexts()[i].control == golden[i].control);
@@ -118,13 +118,15 @@ TEST_CASE("two pairs of controls share one text, and no other two") {
     CHECK(shared == std::set<std::string>{"txtStartmenu = sldStartmenu", "cboHTTP11 = cboHTTP10"});
     std::set<std::string> texts;
     for (const tweaks::HelpText& row : tweaks::HelpTexts()) texts.insert(row.text);
-    CHECK(texts.size() == 103);
+    CHECK(texts.size() + shared.size() == tweaks::HelpTexts().size());
 }
 
 TEST_CASE("no control has two help texts, and some have none") {
     std::set<std::string> names;
     for (const tweaks::HelpText& row : tweaks::HelpTexts()) names.insert(row.control);
-    CHECK(names.size() == 105);
+    REQUIRE_FALSE(names.empty());
+    CHECK(names.size() == GoldenRows().size());
+    CHECK(names.size() == tweaks::HelpTexts().size());
     for (const char* none : {"txtLevelValue", "drvSelect", "txtExtensions", "chkDatensicherheit(0)",
                              "cmdApply", "cmdSetAllOptimal", "cmdSearchTempFiles"}) {
         CHECK_FALSE(names.contains(none));

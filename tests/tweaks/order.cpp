@@ -30,13 +30,11 @@ std::size_t IndexOf(const Names& names, const std::string& name) {
 
 }  // namespace
 
-TEST_CASE("the read pass knows 99 names in the golden order") {
-    CHECK(NamesOf(tweaks::ReadOrder()).size() == 99);
+TEST_CASE("the read pass takes every control of the golden order in that order") {
     CHECK(NamesOf(tweaks::ReadOrder()) == GoldenOrder("read"));
 }
 
-TEST_CASE("the write pass knows 98 names in the golden order") {
-    CHECK(NamesOf(tweaks::WriteOrder()).size() == 98);
+TEST_CASE("the write pass takes every control of the golden order in that order") {
     CHECK(NamesOf(tweaks::WriteOrder()) == GoldenOrder("write"));
 }
 

@@ -3,6 +3,7 @@
 
 #include "runtime/failure.h"
 #include "support/failureof.h"
+#include "support/golden.h"
 #include "tweaks/presetfixture.h"
 
 using namespace tweak_tests;
@@ -16,6 +17,14 @@ void Fail() {
 // The number of the failure that came out of the press; 0 for none.
 int FailureOfPress(Presets& program, const std::string& preset) {
     return FailureOf([&] { program.Press(preset); });
+}
+
+std::size_t GoldenLinesOfPageButtons() {
+    std::size_t count = 0;
+    for (const auto& line : golden::PresetLines(FileText("tests/golden/presets.tsv"))) {
+        count += line.preset.starts_with("cmd") && line.preset != AutoTuningButton;
+    }
+    return count;
 }
 
 Lines BoxesShown(const Presets& program) {
@@ -49,12 +58,13 @@ TEST_CASE("whichever step fails ends its button there, with all before it set an
             ++tried;
         }
     }
-    CHECK(tried == 166);
+    CHECK(tried > 0);
+    CHECK(tried == GoldenLinesOfPageButtons());
 }
 
 TEST_CASE("whichever step fails is passed over by AutoTuning, which sets all the others") {
     const std::vector<PresetStep> steps = GoldenSteps(AutoTuningButton);
-    CHECK(steps.size() == 78);
+    REQUIRE_FALSE(steps.empty());
     for (const PresetStep& failing : steps) {
         CAPTURE(failing.control);
         Presets program;
