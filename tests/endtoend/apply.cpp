@@ -67,7 +67,7 @@ TEST_CASE("the dialogue of Apply asks in its own words and writes between the qu
     CHECK(CacheIsWritten());
     CHECK(workplace.Stored("Options", "TrayIcon") == "0");
     DeclineRestart(program);
-    CHECK(program.Responds("frmMain"));
+    Until("the window to be free", [&] { return program.Responds("frmMain"); });
     CHECK(program.Running());
 }
 

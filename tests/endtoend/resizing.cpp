@@ -16,13 +16,17 @@ struct MainWindow {
     OpenProgram program{workplace};
     HWND form = program.Find("frmMain");
 
-    // As soon as it does not change any more, but for the clock, which goes on. What a window has
-    // drawn Wine hands to the display 50 milliseconds later at the latest.
+    // As soon as it does not change any more, but for the clock, which goes on. All that waits to
+    // be drawn is drawn first. What a window has drawn Wine hands to the display 50 milliseconds
+    // later, or when the program gets its next turn, which the two answers show that it had.
     std::vector<DWORD> Picture() const {
+        RedrawWindow(form, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
         const RECT area = support::ClientOnScreen(form);
         std::vector<DWORD> picture;
         Until("a picture that stays", [&] {
+            Send(form, WM_NULL);
             Sleep(80);
+            Send(form, WM_NULL);
             auto next = support::ScreenPixels(area);
             HideClock(next, area);
             std::swap(picture, next);

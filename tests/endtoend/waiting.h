@@ -11,8 +11,9 @@ struct Failed : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// Milliseconds: how long anything may take, and the distance of two looks.
-inline constexpr unsigned Patience = 15000;
+// Milliseconds: how long anything may take, also on a machine with ten times as much to do as it
+// can, and the distance of two looks.
+inline constexpr unsigned Patience = 60000;
 inline constexpr unsigned Step = 10;
 
 // Looks until `come` says true. Throws Failed with `what` when that takes longer than `patience`.
