@@ -36,9 +36,25 @@ def lists_of(text):
         yield call, call[2], lists
 
 
+def check_sources(place, text):
+    """One source a line, and neighbours in order."""
+    last = ""
+    for number, line in enumerate(text.split("\n"), 1):
+        words = line.rstrip(")").split()
+        sources = [word for word in words if word.endswith(".cpp")] if '"' not in line else []
+        if len(sources) > 1:
+            fault(f"{place}:{number}", "more than one source")
+        alone = words[0] if len(words) == 1 and sources else ""
+        if alone and last > alone:
+            fault(f"{place}:{number}", f"{alone} behind {last}")
+        last = alone
+
+
 rooms = {}  # by folder: name, floor, used rooms
-for path in sorted([*ROOT.glob("src/**/CMakeLists.txt"), *ROOT.glob("tests/**/CMakeLists.txt")]):
+scripts = [ROOT.glob(f"{top}/**/CMakeLists.txt") for top in ("src", "tests", "bench")]
+for path in sorted(script for found in scripts for script in found):
     place = path.relative_to(ROOT)
+    check_sources(place, path.read_text(encoding="utf-8"))
     for call, name, lists in lists_of(path.read_text(encoding="utf-8")):
         for keyword, entries in lists.items():
             if any(" " in entry for entry in entries):

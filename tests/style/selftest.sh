@@ -84,4 +84,6 @@ Breaks "touch src/loose.cpp"
 Breaks "mkdir src/new && touch src/new/a.cpp"
 Breaks "printf 'add_suite(low\n  SOURCES\n    b.cpp\n    a.cpp)\n' >tests/low/CMakeLists.txt"
 Breaks "printf 'add_suite(low\n  SOURCES\n    a.cpp b.cpp)\n' >tests/low/CMakeLists.txt"
+Breaks "printf 'add_library(x a.cpp b.cpp)\n' >tests/low/CMakeLists.txt"
+Breaks "printf 'set(CASES\n  b.cpp\n  a.cpp)\n' >tests/low/CMakeLists.txt"
 exit $((failures > 0))
