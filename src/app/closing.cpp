@@ -35,7 +35,7 @@ void StoreWindowFacts(const toolkit::Form& form, const platform::Machine& machin
 
 void CloseProgram(toolkit::Form& form, const platform::Machine& machine,
                   std::optional<controls::cToolTip>& tips) {
-    platform::Settings settings(machine.settings);
+    platform::Settings settings(machine.settingsStore);
 
     // A window that hides in the tray has no place worth remembering; that the server name typed
     // before is lost with it is meant to be so.

@@ -159,7 +159,8 @@ void frmMain::Connect() {
         tweaks::AutoTuning(*this, machine_);
     };
     Find<controls::chameleonButton>("cmdPathDefault").onClick = [this] {
-        log_.Report("cmdPathDefault", [&] { tweaks::SetDefaultPaths(*this, machine_.facts); });
+        log_.Report("cmdPathDefault",
+                    [&] { tweaks::SetDefaultPaths(*this, machine_.systemFacts); });
     };
     tweaks::ConnectPresets(*this, machine_.memory);
     tweaks::ConnectNetworkSets(*this);

@@ -102,7 +102,7 @@ void DressTrayIcon(const platform::Machine& machine) {
 }
 
 void SaveProgramOptions(toolkit::Form& form, const platform::Machine& machine) {
-    Settings settings(machine.settings);
+    Settings settings(machine.settingsStore);
 
     Store(form, "chkTrayIcon", settings, "TrayIcon");
     if (IsSet(form, "chkTrayIcon")) DressTrayIcon(machine);
@@ -122,7 +122,7 @@ void SaveProgramOptions(toolkit::Form& form, const platform::Machine& machine) {
 }
 
 void RestoreProgramOptions(toolkit::Form& form, const platform::Machine& machine) {
-    const Settings settings(machine.settings);
+    const Settings settings(machine.settingsStore);
 
     RestoreTrue(form, "chkHideWinComponents", settings, "WinComponents", "Show");
     Restore(form, "chkIcons", settings, "Desktop", "TransparentIcons");

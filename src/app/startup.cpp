@@ -75,7 +75,7 @@ void RestoreWindow(frmMain& form, const platform::Machine& machine, const Settin
 // Only the build number counts. A system that does not tell it is not the right one.
 bool OperatingSystemFits(const platform::Machine& machine) {
     platform::OperatingSystemFacts facts;
-    Skip([&] { facts = machine.system.Facts(); });
+    Skip([&] { facts = machine.operatingSystem.Facts(); });
     if (facts.build == WindowsXpBuild) return true;
     Skip([&] {
         machine.messages.Show(
@@ -131,7 +131,7 @@ void ChooseTimeSource(frmMain& form, const Settings& settings) {
 }  // namespace
 
 void StartUp(frmMain& form, const platform::Machine& machine) {
-    const Settings settings(machine.settings);
+    const Settings settings(machine.settingsStore);
 
     AskForAcceptance(form, machine, settings);
     form.StoreAtClosing();

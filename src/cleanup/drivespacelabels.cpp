@@ -18,7 +18,7 @@ std::string Line(const char* title, const std::string& bytes) {
 
 void ShowDriveSpace(TempFilesFrame& frame, const platform::Machine& machine) {
     const bool shown = runtime::Skip([&] {
-        const sys::clsGetDriveSpace space(machine.facts, machine.locale);
+        const sys::clsGetDriveSpace space(machine.systemFacts, machine.locale);
         const std::string root = runtime::Left(frame.Drive(), 3);
         frame.lblGesamt.SetCaption(Line("Gesamt: ", space.TotalSize(root)));
         frame.lblFreeDriveSpace.SetCaption(Line("Belegt: ", space.UsedSize(root)));

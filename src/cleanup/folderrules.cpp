@@ -29,7 +29,7 @@ constexpr std::array<std::string_view, 5> AsSpelled = {
 }  // namespace
 
 FolderRules::FolderRules(const platform::Machine& machine) {
-    const sys::clsGetSystemDirectoryPaths directories(machine.facts);
+    const sys::clsGetSystemDirectoryPaths directories(machine.systemFacts);
     const std::string windows = runtime::ToUpper(directories.WindowsDirectory());
     const std::string system = runtime::ToUpper(directories.SystemDirectory());
     whole_ = {runtime::ToUpper(sys::GetSpecialFolderPath(machine.shell, SendToFolder)),

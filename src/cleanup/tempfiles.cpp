@@ -23,8 +23,8 @@ TempFiles::TempFiles(toolkit::Form& form, const platform::Machine& machine)
 }
 
 void TempFiles::Start() {
-    frame_.drvSelect.SetDrives(sys::DriveEntries(machine_.information));
-    const sys::clsGetSystemDirectoryPaths directories(machine_.facts);
+    frame_.drvSelect.SetDrives(sys::DriveEntries(machine_.systemInformation));
+    const sys::clsGetSystemDirectoryPaths directories(machine_.systemFacts);
     frame_.drvSelect.SetDrive(runtime::Left(directories.WindowsDirectory(), 3));
 }
 

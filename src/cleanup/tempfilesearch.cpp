@@ -119,12 +119,12 @@ void TempFileSearch::Collect() {
         SkipMissing([&] { Scan(sys::GetSpecialFolderPath(machine_.shell, RecentFolder), true); });
     }
     if (frame_.chkCleanUserTempFolder.Value() == 1) {
-        const std::string path = sys::GetTempDirectory(machine_.facts);
+        const std::string path = sys::GetTempDirectory(machine_.systemFacts);
         SkipMissing([&] { Scan(path, true); });
         AddSubFolderRows(path);
     }
     // Always, whatever is ticked: these folders lie on the system's drive.
-    const sys::clsGetSystemDirectoryPaths directories(machine_.facts);
+    const sys::clsGetSystemDirectoryPaths directories(machine_.systemFacts);
     const std::string windows = directories.WindowsDirectory();
     // Without it the path would name a folder of whatever drive is the current one.
     if (!windows.empty()) AddSubFolderRows(windows + "\\Temp");
@@ -137,7 +137,7 @@ void TempFileSearch::ScanDrives() {
         Scan(RootOf(frame_.Drive()), false);
         return;
     }
-    const std::vector<platform::Drive> drives = machine_.information.Drives();
+    const std::vector<platform::Drive> drives = machine_.systemInformation.Drives();
     for (const std::string& entry : frame_.drvSelect.Items()) {
         const std::string root = RootOf(entry);
         const bool isHardDisk = std::any_of(drives.begin(), drives.end(), [&](const auto& drive) {

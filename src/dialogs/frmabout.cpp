@@ -127,7 +127,7 @@ void frmAbout::Label1_Click() {
     }
     browser->SetVisible(true);
     browser->Navigate(WebPage);
-    const auto screen = machine_.information.MainScreen();
+    const auto screen = machine_.systemInformation.MainScreen();
     if (!screen) return;
     browser->SetWidth(screen->width);
     browser->SetHeight(screen->height - BelowBrowser);

@@ -28,7 +28,7 @@ constexpr const char* Declaration =
 }  // namespace
 
 frmFirstInfo::frmFirstInfo(const platform::Machine& machine)
-    : Form(machine.forms, "frmFirstInfo", "Warnung", {}), settings_(machine.settings) {
+    : Form(machine.forms, "frmFirstInfo", "Warnung", {}), settings_(machine.settingsStore) {
     auto& warning = Add<toolkit::Label>("Label1", Warning);
     auto& declaration = Add<toolkit::Label>("Label2", Declaration);
     auto& accept = Add<chameleonButton>("Command2", Persisted{"TX=Akzeptieren"}, machine.clock);

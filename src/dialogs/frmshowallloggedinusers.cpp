@@ -73,7 +73,7 @@ void frmShowAllLoggedInUsers::FillUserList() {
     lblWait.SetVisible(true);
     // The thread is busy until the list is there, so nothing else would paint it.
     if (lblWait.View()) lblWait.View()->PaintNow();
-    const std::string ServerName = "\\\\" + GetComputerName(machine_.information);
+    const std::string ServerName = "\\\\" + GetComputerName(machine_.systemInformation);
     Skip([&] { ReadLoggedOnUsers(ServerName); });
     lstUsers.Clear();
     // All of them on purpose: who has several sessions, and the services, have a line each.

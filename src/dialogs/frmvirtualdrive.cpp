@@ -117,8 +117,8 @@ void frmVirtualDrive::OnLoad() {
     ResetControls();
     // A stored number that is no state of the box leaves it off.
     Skip([&] {
-        const auto stored =
-            runtime::LeadingNumber(machine_.settings.Get(StoreTitle, StoreSection, "Restore", ""));
+        const auto stored = runtime::LeadingNumber(
+            machine_.settingsStore.Get(StoreTitle, StoreSection, "Restore", ""));
         chkrestore_.SetValue(stored == 1 ? 1 : stored == 2 ? 2 : 0);
     });
     // Read and not used, on purpose: the switch that asks for the stored drives has no effect.
@@ -159,7 +159,7 @@ void frmVirtualDrive::RefreshDrives() {
 
 void frmVirtualDrive::FillFreeLetters(toolkit::ComboBox& combo) {
     combo.Clear();
-    const auto drives = machine_.information.Drives();
+    const auto drives = machine_.systemInformation.Drives();
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
         const bool isTaken = std::any_of(drives.begin(), drives.end(), [&](const auto& drive) {
             return drive.root.front() == letter;
@@ -213,7 +213,7 @@ void frmVirtualDrive::AddRows(const std::string& output, int reading) {
 }
 
 void frmVirtualDrive::AddRow(int number, const std::string& drive, const std::string& path) {
-    const platform::Volume volume = machine_.information.VolumeOn(drive + '\\');
+    const platform::Volume volume = machine_.systemInformation.VolumeOn(drive + '\\');
     const auto signs = machine_.locale.Signs();
     const auto size = [&](std::optional<std::uint64_t> bytes) {
         return bytes ? SizeText(*bytes, signs) : "";
@@ -340,13 +340,13 @@ void frmVirtualDrive::StoreDrives() {
     machine_.folders.MakeCurrent(AppFolder_);
     if (chkrestore_.Value() == 0) {
         RunKeyDelete(machine_.registry, RunRoot, RunKey, RunName);
-        machine_.settings.DeleteSection(StoreTitle, StoreSection);
+        machine_.settingsStore.DeleteSection(StoreTitle, StoreSection);
         return;
     }
     RunKeyWrite(machine_, RunRoot, RunKey, RunName,
                 AppFolder_ + machine_.program.ExecutableName() + ".exe -r");
     const auto save = [&](const std::string& key, const std::string& text) {
-        machine_.settings.Save(StoreTitle, StoreSection, key, text);
+        machine_.settingsStore.Save(StoreTitle, StoreSection, key, text);
     };
     for (int row = 0; row < lstDrives_.Count(); ++row) {
         save("Drives" + runtime::ToText(row + 1),
@@ -358,7 +358,7 @@ void frmVirtualDrive::StoreDrives() {
 
 void frmVirtualDrive::RestoreDrives() {
     const auto stored = [&](const std::string& key) {
-        return machine_.settings.Get(StoreTitle, StoreSection, key, "");
+        return machine_.settingsStore.Get(StoreTitle, StoreSection, key, "");
     };
     const int count = static_cast<int>(
         std::clamp<double>(runtime::LeadingNumber(stored("Count")), 0, MaximumCount));

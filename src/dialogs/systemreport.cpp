@@ -68,12 +68,12 @@ std::string OperatingSystemLines(const platform::Machine& machine) {
     Text name;
     Text version;
     runtime::Skip([&] {
-        const auto facts = machine.system.Facts();
+        const auto facts = machine.operatingSystem.Facts();
         name = facts.name;
         version = std::to_string(facts.major) + '.' + std::to_string(facts.minor) + " (Build " +
                   std::to_string(facts.build) + ')';
     });
-    Text servicePack = machine.information.ServicePack();
+    Text servicePack = machine.systemInformation.ServicePack();
     if (servicePack && servicePack->empty()) servicePack = "keines";
     return Line("Betriebssystem", name) + Line("Version", version) +
            Line("Service Pack", servicePack);
@@ -82,12 +82,12 @@ std::string OperatingSystemLines(const platform::Machine& machine) {
 std::string ProcessorLines(const platform::Machine& machine) {
     std::string lines = Line("Prozessor", ProcessorName(machine));
     lines += Line("Taktfrequenz", ProcessorSpeed(machine));
-    const auto count = machine.information.ProcessorCount();
+    const auto count = machine.systemInformation.ProcessorCount();
     return lines + Line("Prozessoren", count ? Text(std::to_string(*count)) : std::nullopt);
 }
 
 std::string MemoryLines(const platform::Machine& machine) {
-    const auto memory = machine.information.Memory();
+    const auto memory = machine.systemInformation.Memory();
     const auto signs = machine.locale.Signs();
     const auto text = [&](auto bytes) {
         return memory ? Text(SizeText(*memory.*bytes, signs)) : std::nullopt;
@@ -99,7 +99,7 @@ std::string MemoryLines(const platform::Machine& machine) {
 std::string ScreenLines(const platform::Machine& machine) {
     Text resolution;
     Text depth;
-    if (const auto screen = machine.information.MainScreen()) {
+    if (const auto screen = machine.systemInformation.MainScreen()) {
         resolution =
             std::to_string(screen->width) + " x " + std::to_string(screen->height) + " Pixel";
         depth = std::to_string(screen->colourDepth) + " Bit";
@@ -139,18 +139,18 @@ std::string DriveText(const platform::Drive& drive, const platform::Volume& volu
 }
 
 std::string NameLines(const platform::Machine& machine) {
-    const std::string user = machine.facts.UserName();
+    const std::string user = machine.systemFacts.UserName();
     std::string lines = Line("Benutzer", user.empty() ? std::nullopt : Text(user));
-    return lines + Line("Computer", machine.information.ComputerName());
+    return lines + Line("Computer", machine.systemInformation.ComputerName());
 }
 
 std::string DriveLines(const platform::Machine& machine) {
-    const auto drives = machine.information.Drives();
+    const auto drives = machine.systemInformation.Drives();
     if (drives.empty()) return Line("Laufwerke", std::nullopt);
     const auto signs = machine.locale.Signs();
     std::string lines;
     for (const platform::Drive& drive : drives) {
-        const auto volume = machine.information.VolumeOn(drive.root);
+        const auto volume = machine.systemInformation.VolumeOn(drive.root);
         lines +=
             Line(("Laufwerk " + drive.root.substr(0, 1)).c_str(), DriveText(drive, volume, signs));
     }

@@ -279,7 +279,7 @@ void cRegistry::WriteClassText(const std::string& key, std::string_view text) {
 }
 
 std::string cRegistry::ExpandEnvStr(std::string_view text) const {
-    return machine_.facts.ExpandEnvironment(text);
+    return machine_.systemFacts.ExpandEnvironment(text);
 }
 
 std::string cRegistry::Source() const {

@@ -20,7 +20,7 @@ constexpr int SystemObject = 2;
 }  // namespace
 
 void WaitForRestoreTool(const platform::Machine& machine) {
-    const sys::clsGetSystemDirectoryPaths paths(machine.facts);
+    const sys::clsGetSystemDirectoryPaths paths(machine.systemFacts);
     sys::ShellWait(machine.processes, paths.SystemDirectory() + "\\restore\\rstrui.exe", true);
 }
 
@@ -54,7 +54,7 @@ void Launchers::cmdMSConfig_Click() const {
 }
 
 std::string Launchers::WindowsDirectory() const {
-    return sys::clsGetSystemDirectoryPaths(machine_.facts).WindowsDirectory();
+    return sys::clsGetSystemDirectoryPaths(machine_.systemFacts).WindowsDirectory();
 }
 
 void Launchers::Start(std::string_view filename) const {

@@ -26,7 +26,7 @@ void WritePreviewLibrary(const PassContext& pass, const Option& option) {
     WriteByRow(pass, option);
     const bool previewOff = IsOn(pass, option.control);
     RegisterLibrary(pass.machine.processes, "shmedia.dll", !previewOff);
-    platform::Settings settings(pass.machine.settings);
+    platform::Settings settings(pass.machine.settingsStore);
     settings.SaveSetting("VideoPrv", "Regged", previewOff ? "false" : "true");
 }
 

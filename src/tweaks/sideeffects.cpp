@@ -31,7 +31,7 @@ constexpr double SegmentsInWindow = 4;
 
 // A state is remembered before its effect is tried.
 void Remember(const Machine& machine, const char* section, const char* key, bool on) {
-    Settings(machine.settings).SaveSetting(section, key, on ? "true" : "false");
+    Settings(machine.settingsStore).SaveSetting(section, key, on ? "true" : "false");
 }
 
 void HideWinComponents(const CheckBox& box, const Machine& machine) {

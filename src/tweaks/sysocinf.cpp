@@ -56,7 +56,7 @@ std::string LinesOf(std::string_view content) {
 }  // namespace
 
 void RewriteSysocInf(const platform::Machine& machine, bool show) {
-    const std::string path = machine.facts.WindowsDirectory() + "\\inf\\Sysoc.inf";
+    const std::string path = machine.systemFacts.WindowsDirectory() + "\\inf\\Sysoc.inf";
     std::string text = LinesOf(machine.files.Read(path));
     // Nothing puts the word back, on purpose: a component once shown is never hidden again.
     if (show) text = Without("Hide", text);

@@ -40,7 +40,7 @@ OtherWindows::Handle FindDesktopListView(const OtherWindows& windows) {
 }
 
 void SetIconsTransparent(const platform::Machine& machine, std::int16_t on) {
-    OtherWindows& windows = machine.windows;
+    OtherWindows& windows = machine.otherWindows;
     const OtherWindows::Handle list = FindDesktopListView(windows);
     if (list == 0) return;
     if (on != 0) {
@@ -56,16 +56,16 @@ void SetIconsTransparent(const platform::Machine& machine, std::int16_t on) {
 }
 
 void IconsChosen(const platform::Machine& machine, int value) {
-    platform::Settings(machine.settings)
+    platform::Settings(machine.settingsStore)
         .SaveSetting("Desktop", "TransparentIcons", value == 1 ? "1" : "0");
     SetIconsTransparent(machine, static_cast<std::int16_t>(value));
 }
 
 void SetTaskbarOpacity(const platform::Machine& machine, std::uint8_t level) {
-    platform::Settings(machine.settings)
+    platform::Settings(machine.settingsStore)
         .SaveSetting("TaskBar", "Luminance", runtime::ToText(std::int32_t{level}));
-    SetOpacity(machine.windows, "Shell_TrayWnd", level);
-    SetOpacity(machine.windows, "BaseBar", level);
+    SetOpacity(machine.otherWindows, "Shell_TrayWnd", level);
+    SetOpacity(machine.otherWindows, "BaseBar", level);
 }
 
 }  // namespace tweaks

@@ -42,11 +42,11 @@ TEST_CASE("an empty Internet cache leaves nothing to delete") {
 
 TEST_CASE("the start selects the drive of Windows and shows its size") {
     Program program;
-    program.machine.information.drives = {{"A:\\", platform::DriveKind::Removable},
-                                          {"C:\\", platform::DriveKind::Fixed},
-                                          {"D:\\", platform::DriveKind::Fixed}};
-    program.machine.facts.windowsDirectory = "D:\\WINDOWS";
-    program.machine.facts.SetSpace('D', {0, 1000, 400});
+    program.machine.systemInformation.drives = {{"A:\\", platform::DriveKind::Removable},
+                                                {"C:\\", platform::DriveKind::Fixed},
+                                                {"D:\\", platform::DriveKind::Fixed}};
+    program.machine.systemFacts.windowsDirectory = "D:\\WINDOWS";
+    program.machine.systemFacts.SetSpace('D', {0, 1000, 400});
     REQUIRE(program.Start());
     CHECK(program.form->Find<toolkit::DriveListBox>("drvSelect").Drive() == "d:");
     CHECK(CaptionOf(program, "lblGesamt") == "Gesamt: 1.000 Bytes");
@@ -55,7 +55,7 @@ TEST_CASE("the start selects the drive of Windows and shows its size") {
 
 TEST_CASE("a drive that cannot be selected or measured does not keep the program from starting") {
     Program program;
-    program.machine.facts.windowsDirectory = "";
+    program.machine.systemFacts.windowsDirectory = "";
     REQUIRE(program.Start());
     CHECK(CaptionOf(program, "lblFreeDriveSpace") == "Belegt: 0 Bytes");
     CHECK(program.form->Visible());

@@ -33,10 +33,10 @@ TEST_CASE("after the first closing every key of the program's options exists") {
          {"State", "Left", "Top", "Width", "Height", "ServerName", "Tab", "TrayIcon", "AutoStart",
           "MinimizeAfterStart", "RebootQuestion", "ForceReboot"}) {
         CAPTURE(key);
-        CHECK(program.machine.settings.Stored("Options", key).has_value());
+        CHECK(program.machine.settingsStore.Stored("Options", key).has_value());
     }
-    CHECK_FALSE(program.machine.settings.Stored("Options", "SyncAtom").has_value());
-    CHECK_FALSE(program.machine.settings.Stored("Options", "SyncServer").has_value());
+    CHECK_FALSE(program.machine.settingsStore.Stored("Options", "SyncAtom").has_value());
+    CHECK_FALSE(program.machine.settingsStore.Stored("Options", "SyncServer").has_value());
 }
 
 TEST_CASE("closing stores the window's facts as number texts") {

@@ -116,7 +116,7 @@ TEST_CASE("a closing that stops on its way releases the tips before the window g
 
 TEST_CASE("a program that ends before its window is there makes no tips") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "No");
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
     program.machine.forms.WhenModal("frmFirstInfo", [](toolkit::Form& form) { form.Unload(); });
     CHECK_FALSE(program.Start());
     CHECK(program.machine.journal.Calls("InitCommonControlsEx").empty());

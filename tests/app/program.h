@@ -26,7 +26,7 @@ struct Program {
 
     // Complaints about numbers are answered with Cancel, which cancels nothing.
     Program() {
-        machine.settings.Put("Options", "Accepted", "Yes");
+        machine.settingsStore.Put("Options", "Accepted", "Yes");
         machine.messages.AnswerAll("Fehler", platform::message::Cancel);
     }
 
@@ -66,7 +66,7 @@ struct Program {
     void Press(const char* name) { form->Find<controls::chameleonButton>(name).Press(); }
 
     std::string Stored(const char* key) const {
-        return machine.settings.Stored("Options", key).value_or("absent");
+        return machine.settingsStore.Stored("Options", key).value_or("absent");
     }
 };
 

@@ -70,7 +70,7 @@ TEST_CASE("saving with the autostart box clear removes the entry") {
 
 TEST_CASE("AutoStart set by hand in the store has no effect on the box") {
     Program program;
-    program.machine.settings.Put("Options", "AutoStart", "1");
+    program.machine.settingsStore.Put("Options", "AutoStart", "1");
     REQUIRE(program.Start());
     CHECK(program.Check("chkCreateAutoStart").Value() == 0);
 }
@@ -88,7 +88,7 @@ TEST_CASE("saving with the tray box set dresses the tray icon without showing it
 TEST_CASE("a store that cannot be written keeps the old values and reports nothing") {
     Program program;
     REQUIRE(program.Start());
-    program.machine.settings.Put("Options", "ForceReboot", "1");
+    program.machine.settingsStore.Put("Options", "ForceReboot", "1");
     program.machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
     app::SaveProgramOptions(*program.form, program.machine.services);
     CHECK(program.Stored("ForceReboot") == "1");
@@ -129,12 +129,12 @@ TEST_CASE("the boxes but the autostart one come back from the store") {
         if (option.key == Options[1].key) continue;
         CAPTURE(option.control);
         Program set;
-        set.machine.settings.Put("Options", option.key, "1");
+        set.machine.settingsStore.Put("Options", option.key, "1");
         REQUIRE(set.Start());
         CHECK(set.Check(option.control).Value() == 1);
 
         Program other;
-        other.machine.settings.Put("Options", option.key, "true");
+        other.machine.settingsStore.Put("Options", option.key, "true");
         REQUIRE(other.Start());
         CHECK(other.Check(option.control).Value() == 0);
 
@@ -146,7 +146,7 @@ TEST_CASE("the boxes but the autostart one come back from the store") {
 
 TEST_CASE("a stored transparency level goes to its box and from there to the slider") {
     Program program;
-    program.machine.settings.Put("TaskBar", "Luminance", "100");
+    program.machine.settingsStore.Put("TaskBar", "Luminance", "100");
     REQUIRE(program.Start());
     CHECK(program.Text("txtLevelValue").Text() == "100");
     CHECK(program.form->Find<toolkit::Slider>("Level").Value() == 100);
@@ -160,15 +160,15 @@ TEST_CASE("an absent transparency level gives 255") {
 
 TEST_CASE("transparent icons come back from the store") {
     Program program;
-    program.machine.settings.Put("Desktop", "TransparentIcons", "1");
+    program.machine.settingsStore.Put("Desktop", "TransparentIcons", "1");
     REQUIRE(program.Start());
     CHECK(program.Check("chkIcons").Value() == 1);
 }
 
 TEST_CASE("a start minimised with the tray option hides in the tray") {
     Program program;
-    program.machine.settings.Put("Options", "MinimizeAfterStart", "1");
-    program.machine.settings.Put("Options", "TrayIcon", "1");
+    program.machine.settingsStore.Put("Options", "MinimizeAfterStart", "1");
+    program.machine.settingsStore.Put("Options", "TrayIcon", "1");
     REQUIRE(program.Start());
     CHECK(program.form->State() == WindowState::Minimised);
     CHECK_FALSE(program.form->InTaskbar());
@@ -180,8 +180,8 @@ TEST_CASE("a start minimised with the tray option hides in the tray") {
 
 TEST_CASE("a start minimised without the tray option keeps the taskbar entry") {
     Program program;
-    program.machine.settings.Put("Options", "MinimizeAfterStart", "1");
-    program.machine.settings.Put("Options", "TrayIcon", "0");
+    program.machine.settingsStore.Put("Options", "MinimizeAfterStart", "1");
+    program.machine.settingsStore.Put("Options", "TrayIcon", "0");
     REQUIRE(program.Start());
     CHECK(program.form->State() == WindowState::Minimised);
     CHECK(program.form->InTaskbar());
@@ -191,7 +191,7 @@ TEST_CASE("a start minimised without the tray option keeps the taskbar entry") {
 
 TEST_CASE("a stored MinimizeAfterStart of 0 makes the taskbar entry visible") {
     Program program;
-    program.machine.settings.Put("Options", "MinimizeAfterStart", "0");
+    program.machine.settingsStore.Put("Options", "MinimizeAfterStart", "0");
     program.form = std::make_unique<app::frmMain>(program.machine.services);
     program.form->SetInTaskbar(false);
     program.form->Load();

@@ -12,18 +12,18 @@ namespace {
 constexpr char SysocPath[] = "C:\\WINDOWS\\inf\\Sysoc.inf";
 
 struct Start : Program {
-    platform::OtherWindows::Handle taskbar = machine.windows.Open("Shell_TrayWnd");
+    platform::OtherWindows::Handle taskbar = machine.otherWindows.Open("Shell_TrayWnd");
 
-    int Alpha() { return machine.windows.At(taskbar).alpha; }
+    int Alpha() { return machine.otherWindows.At(taskbar).alpha; }
     std::string Setting(const char* section, const char* key) {
-        return machine.settings.Stored(section, key).value_or("absent");
+        return machine.settingsStore.Stored(section, key).value_or("absent");
     }
 };
 
 }  // namespace
 
 TEST_CASE_FIXTURE(Start, "a stored level is applied to the taskbar and stored again") {
-    machine.settings.Put("TaskBar", "Luminance", "100");
+    machine.settingsStore.Put("TaskBar", "Luminance", "100");
     REQUIRE(Program::Start());
     CHECK(Alpha() == 100);
     CHECK(machine.journal.Calls("SaveSetting") ==
@@ -31,22 +31,22 @@ TEST_CASE_FIXTURE(Start, "a stored level is applied to the taskbar and stored ag
 }
 
 TEST_CASE_FIXTURE(Start, "a stored level of 255 asks nothing of the shell") {
-    machine.settings.Put("TaskBar", "Luminance", "255");
+    machine.settingsStore.Put("TaskBar", "Luminance", "255");
     REQUIRE(Program::Start());
     CHECK(machine.journal.Calls("FindWindowA").empty());
 }
 
 TEST_CASE_FIXTURE(Start, "closing leaves the taskbar and the icons as they were made") {
-    const auto desktop = machine.windows.Open("Progman", "Program Manager");
-    const auto view = machine.windows.Open("SHELLDLL_DefView", "", desktop);
-    const auto icons = machine.windows.Open("SysListView32", "", view);
-    machine.settings.Put("TaskBar", "Luminance", "100");
-    machine.settings.Put("Desktop", "TransparentIcons", "1");
+    const auto desktop = machine.otherWindows.Open("Progman", "Program Manager");
+    const auto view = machine.otherWindows.Open("SHELLDLL_DefView", "", desktop);
+    const auto icons = machine.otherWindows.Open("SysListView32", "", view);
+    machine.settingsStore.Put("TaskBar", "Luminance", "100");
+    machine.settingsStore.Put("Desktop", "TransparentIcons", "1");
     REQUIRE(Program::Start());
     machine.journal.Clear();
     CHECK(Close());
     CHECK(Alpha() == 100);
-    CHECK(machine.windows.At(icons).textBackground == 0xFFFFFFFF);
+    CHECK(machine.otherWindows.At(icons).textBackground == 0xFFFFFFFF);
     for (const char* call :
          {"FindWindow", "SetWindowLongA", "SetLayered", "SetWindowPos", "InvalidateRect"}) {
         CAPTURE(call);
@@ -57,8 +57,8 @@ TEST_CASE_FIXTURE(Start, "closing leaves the taskbar and the icons as they were 
 }
 
 TEST_CASE_FIXTURE(Start, "the opacity is asked of no other section and of no command line") {
-    machine.settings.Put("Settings", "TransparencyLevel", "77");
-    machine.settings.Put("Settings", "DesktopTransparent", "1");
+    machine.settingsStore.Put("Settings", "TransparencyLevel", "77");
+    machine.settingsStore.Put("Settings", "DesktopTransparent", "1");
     machine.program.commandLine = "/silent /TransLevel:77 /transicons:1";
     REQUIRE(Program::Start());
     CHECK(Alpha() == 255);
@@ -82,14 +82,14 @@ TEST_CASE_FIXTURE(Start, "a start without settings touches neither shell nor fil
 }
 
 TEST_CASE_FIXTURE(Start, "a stored level that is no number stays in the box and does nothing") {
-    machine.settings.Put("TaskBar", "Luminance", "hell");
+    machine.settingsStore.Put("TaskBar", "Luminance", "hell");
     REQUIRE(Program::Start());
     CHECK(Text("txtLevelValue").Text() == "hell");
     CHECK(Alpha() == 255);
 }
 
 TEST_CASE_FIXTURE(Start, "a stored level outside the slider's range does nothing either") {
-    machine.settings.Put("TaskBar", "Luminance", "30");
+    machine.settingsStore.Put("TaskBar", "Luminance", "30");
     REQUIRE(Program::Start());
     CHECK(Text("txtLevelValue").Text() == "30");
     CHECK(machine.journal.Calls("FindWindowA").empty());
@@ -97,30 +97,30 @@ TEST_CASE_FIXTURE(Start, "a stored level outside the slider's range does nothing
 }
 
 TEST_CASE_FIXTURE(Start, "a stored level beyond 32 bits is passed over, and the start goes on") {
-    machine.settings.Put("TaskBar", "Luminance", "99999999999");
-    machine.settings.Put("Options", "ForceReboot", "1");
+    machine.settingsStore.Put("TaskBar", "Luminance", "99999999999");
+    machine.settingsStore.Put("Options", "ForceReboot", "1");
     REQUIRE(Program::Start());
     CHECK(Alpha() == 255);
     CHECK(Check("chkForceReboot").Value() == 1);
 }
 
 TEST_CASE_FIXTURE(Start, "a stored 1 makes the icons transparent again, a stored 0 does nothing") {
-    machine.settings.Put("Desktop", "TransparentIcons", "1");
-    const auto list = machine.windows.Open(
+    machine.settingsStore.Put("Desktop", "TransparentIcons", "1");
+    const auto list = machine.otherWindows.Open(
         "SysListView32", "",
-        machine.windows.Open("SHELLDLL_DefView", "",
-                             machine.windows.Open("Progman", "Program Manager")));
+        machine.otherWindows.Open("SHELLDLL_DefView", "",
+                                  machine.otherWindows.Open("Progman", "Program Manager")));
     REQUIRE(Program::Start());
-    CHECK(machine.windows.At(list).textBackground == 0xFFFFFFFF);
+    CHECK(machine.otherWindows.At(list).textBackground == 0xFFFFFFFF);
 
     Program other;
-    other.machine.settings.Put("Desktop", "TransparentIcons", "0");
+    other.machine.settingsStore.Put("Desktop", "TransparentIcons", "0");
     REQUIRE(other.Start());
     CHECK(other.machine.journal.Calls("FindWindowA").empty());
 }
 
 TEST_CASE_FIXTURE(Start, "a stored true in any case rewrites the components' file at each start") {
-    machine.settings.Put("WinComponents", "Show", "True");
+    machine.settingsStore.Put("WinComponents", "Show", "True");
     machine.files.Put(SysocPath, "a,hide\r\n");
     REQUIRE(Program::Start());
     CHECK(Check("chkHideWinComponents").Value() == 1);
@@ -129,7 +129,7 @@ TEST_CASE_FIXTURE(Start, "a stored true in any case rewrites the components' fil
 }
 
 TEST_CASE_FIXTURE(Start, "a stored false leaves the components' file alone") {
-    machine.settings.Put("WinComponents", "Show", "false");
+    machine.settingsStore.Put("WinComponents", "Show", "false");
     machine.files.Put(SysocPath, "a,hide\r\n");
     REQUIRE(Program::Start());
     CHECK(Check("chkHideWinComponents").Value() == 0);
@@ -138,8 +138,8 @@ TEST_CASE_FIXTURE(Start, "a stored false leaves the components' file alone") {
 
 TEST_CASE_FIXTURE(Start,
                   "a components' file that cannot be rewritten is passed over by the start") {
-    machine.settings.Put("WinComponents", "Show", "true");
-    machine.settings.Put("TaskBar", "Luminance", "100");
+    machine.settingsStore.Put("WinComponents", "Show", "true");
+    machine.settingsStore.Put("TaskBar", "Luminance", "100");
     REQUIRE(Program::Start());
     CHECK(Check("chkHideWinComponents").Value() == 1);
     CHECK(Alpha() == 100);
@@ -148,7 +148,7 @@ TEST_CASE_FIXTURE(Start,
 }
 
 TEST_CASE_FIXTURE(Start, "a stored true for the UPnP service starts its process at each start") {
-    machine.settings.Put("SecureWindows", "Regged", "TRUE");
+    machine.settingsStore.Put("SecureWindows", "Regged", "TRUE");
     REQUIRE(Program::Start());
     CHECK(Check("chkSecureWindows").Value() == 1);
     REQUIRE(machine.processes.launched.size() == 1);
@@ -161,7 +161,7 @@ TEST_CASE_FIXTURE(Start, "a stored false or nonsense for the UPnP service starts
     for (const char* stored : {"false", "1", "wahr"}) {
         CAPTURE(stored);
         Program other;
-        other.machine.settings.Put("SecureWindows", "Regged", stored);
+        other.machine.settingsStore.Put("SecureWindows", "Regged", stored);
         REQUIRE(other.Start());
         CHECK(other.Check("chkSecureWindows").Value() == 0);
         CHECK(other.machine.processes.launched.empty());
@@ -169,10 +169,10 @@ TEST_CASE_FIXTURE(Start, "a stored false or nonsense for the UPnP service starts
 }
 
 TEST_CASE_FIXTURE(Start, "the effects come back in their order: file, icons, level, process") {
-    machine.settings.Put("SecureWindows", "Regged", "true");
-    machine.settings.Put("TaskBar", "Luminance", "100");
-    machine.settings.Put("Desktop", "TransparentIcons", "1");
-    machine.settings.Put("WinComponents", "Show", "true");
+    machine.settingsStore.Put("SecureWindows", "Regged", "true");
+    machine.settingsStore.Put("TaskBar", "Luminance", "100");
+    machine.settingsStore.Put("Desktop", "TransparentIcons", "1");
+    machine.settingsStore.Put("WinComponents", "Show", "true");
     machine.files.Put(SysocPath, "hide\r\n");
     REQUIRE(Program::Start());
     const auto saves = machine.journal.Calls("SaveSetting");

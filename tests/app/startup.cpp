@@ -33,19 +33,19 @@ void Seed(Program& program) {
                          TextValue("Service Pack 3"));
     machine.internetCache.Add({.url = "http://a/"});
     machine.autostart.entries["Quillmore"] = "anything";
-    machine.information.drives = {{"C:\\", platform::DriveKind::Fixed}};
-    machine.facts.SetSpace('C', {0, 1000, 400});
-    machine.settings.Put("TaskBar", "Luminance", "100");
-    machine.settings.Put("Desktop", "TransparentIcons", "1");
-    machine.settings.Put("VideoPrv", "Regged", "true");
+    machine.systemInformation.drives = {{"C:\\", platform::DriveKind::Fixed}};
+    machine.systemFacts.SetSpace('C', {0, 1000, 400});
+    machine.settingsStore.Put("TaskBar", "Luminance", "100");
+    machine.settingsStore.Put("Desktop", "TransparentIcons", "1");
+    machine.settingsStore.Put("VideoPrv", "Regged", "true");
     for (const char* key : {"TrayIcon", "RebootQuestion", "ForceReboot", "SyncServer"}) {
-        machine.settings.Put("Options", key, "1");
+        machine.settingsStore.Put("Options", key, "1");
     }
-    machine.settings.Put("Options", "State", "2");
-    machine.settings.Put("Options", "Left", "120");
-    machine.settings.Put("Options", "Top", "300");
-    machine.settings.Put("Options", "ServerName", "zeit");
-    machine.settings.Put("Options", "Tab", "7");
+    machine.settingsStore.Put("Options", "State", "2");
+    machine.settingsStore.Put("Options", "Left", "120");
+    machine.settingsStore.Put("Options", "Top", "300");
+    machine.settingsStore.Put("Options", "ServerName", "zeit");
+    machine.settingsStore.Put("Options", "Tab", "7");
 }
 
 // What a start on that machine has not brought about.
@@ -100,24 +100,24 @@ TEST_CASE("a fresh store brings the warning up") {
 
 TEST_CASE("a session that ends while the warning is open leaves no trace") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "No");
-    const auto settings = program.machine.settings.All();
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
+    const auto settings = program.machine.settingsStore.All();
     program.machine.forms.WhenModal("frmFirstInfo",
                                     [&](toolkit::Form&) { program.form->Unload(); });
     CHECK_FALSE(program.Start());
-    CHECK(program.machine.settings.All() == settings);
+    CHECK(program.machine.settingsStore.All() == settings);
     CHECK(program.machine.journal.Calls("AutoStartRemove").empty());
 }
 
 TEST_CASE("refusing the warning at the first start leaves no trace") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "No");
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
     RefuseWarning(program);
-    const auto settings = program.machine.settings.All();
+    const auto settings = program.machine.settingsStore.All();
     const auto registry = program.machine.registry.Dump();
 
     CHECK_FALSE(program.Start());
-    CHECK(program.machine.settings.All() == settings);
+    CHECK(program.machine.settingsStore.All() == settings);
     CHECK(program.machine.registry.Dump() == registry);
     CHECK(program.machine.journal.Calls("RegOpenKeyExA").empty());
     CHECK(program.machine.journal.Calls("SaveSetting").empty());
@@ -126,7 +126,7 @@ TEST_CASE("refusing the warning at the first start leaves no trace") {
 
 TEST_CASE("closing the warning by its close box counts as refusal") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "No");
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
     program.machine.forms.WhenModal("frmFirstInfo", [](toolkit::Form& form) { form.Unload(); });
     CHECK_FALSE(program.Start());
     CHECK(program.Stored("Accepted") == "No");
@@ -134,7 +134,7 @@ TEST_CASE("closing the warning by its close box counts as refusal") {
 
 TEST_CASE("accepting the warning stores it and opens the window") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "");
+    program.machine.settingsStore.Put("Options", "Accepted", "");
     program.machine.forms.WhenModal("frmFirstInfo", [](toolkit::Form& form) {
         form.Find<controls::chameleonButton>("Command2").Press();
     });
@@ -145,7 +145,7 @@ TEST_CASE("accepting the warning stores it and opens the window") {
 
 TEST_CASE("an accepted warning is exactly the text Yes") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "yes");
+    program.machine.settingsStore.Put("Options", "Accepted", "yes");
     RefuseWarning(program);
     CHECK_FALSE(program.Start());
 }
@@ -158,8 +158,8 @@ TEST_CASE("the warning is not shown again once accepted") {
 
 TEST_CASE("a stored Left of -120 opens the window at 1, a stored Top of 300 at 300") {
     Program program;
-    program.machine.settings.Put("Options", "Left", "-120");
-    program.machine.settings.Put("Options", "Top", "300");
+    program.machine.settingsStore.Put("Options", "Left", "-120");
+    program.machine.settingsStore.Put("Options", "Top", "300");
     REQUIRE(program.Start());
     CHECK(program.form->Place().left == 1);
     CHECK(program.form->Place().top == 300);
@@ -167,8 +167,8 @@ TEST_CASE("a stored Left of -120 opens the window at 1, a stored Top of 300 at 3
 
 TEST_CASE("a stored Left and Top of 0 are no negative numbers") {
     Program program;
-    program.machine.settings.Put("Options", "Left", "0");
-    program.machine.settings.Put("Options", "Top", "0");
+    program.machine.settingsStore.Put("Options", "Left", "0");
+    program.machine.settingsStore.Put("Options", "Top", "0");
     REQUIRE(program.Start());
     CHECK(program.form->Place().left == 0);
     CHECK(program.form->Place().top == 0);
@@ -176,14 +176,14 @@ TEST_CASE("a stored Left and Top of 0 are no negative numbers") {
 
 TEST_CASE("a stored negative Top opens the window at 1") {
     Program program;
-    program.machine.settings.Put("Options", "Top", "-1");
+    program.machine.settingsStore.Put("Options", "Top", "-1");
     REQUIRE(program.Start());
     CHECK(program.form->Place().top == 1);
 }
 
 TEST_CASE("a stored Left with a decimal comma is taken as it is") {
     Program program;
-    program.machine.settings.Put("Options", "Left", "120,5");
+    program.machine.settingsStore.Put("Options", "Left", "120,5");
     REQUIRE(program.Start());
     CHECK(program.form->Place().left == 120.5f);
 }
@@ -196,10 +196,10 @@ TEST_CASE("a settings store full of nonsense starts the program with designed va
         Program program;
         for (const char* key : {"State", "Left", "Top", "Tab", "TrayIcon", "RebootQuestion",
                                 "ForceReboot", "MinimizeAfterStart", "SyncAtom", "SyncServer"}) {
-            program.machine.settings.Put("Options", key, nonsense);
+            program.machine.settingsStore.Put("Options", key, nonsense);
         }
-        program.machine.settings.Put("TaskBar", "Luminance", "abc");
-        program.machine.settings.Put("Desktop", "TransparentIcons", nonsense);
+        program.machine.settingsStore.Put("TaskBar", "Luminance", "abc");
+        program.machine.settingsStore.Put("Desktop", "TransparentIcons", nonsense);
         REQUIRE(program.Start());
         CHECK(program.form->State() == WindowState::Normal);
         CHECK(Tab(program) == 0);
@@ -216,7 +216,7 @@ TEST_CASE("a stored Left, Top or State that is no number keeps the designed valu
     REQUIRE(plain.Start());
     Program program;
     for (const char* key : {"State", "Left", "Top"})
-        program.machine.settings.Put("Options", key, "x");
+        program.machine.settingsStore.Put("Options", key, "x");
     REQUIRE(program.Start());
     CHECK(program.form->Place() == plain.form->Place());
     CHECK(program.form->State() == WindowState::Normal);
@@ -224,14 +224,14 @@ TEST_CASE("a stored Left, Top or State that is no number keeps the designed valu
 
 TEST_CASE("a stored State of 2 without MinimizeAfterStart opens maximised") {
     Program program;
-    program.machine.settings.Put("Options", "State", "2");
+    program.machine.settingsStore.Put("Options", "State", "2");
     REQUIRE(program.Start());
     CHECK(program.form->State() == WindowState::Maximised);
 }
 
 TEST_CASE("a window opened maximised snaps to 9990 by 7920 when it is restored") {
     Program program;
-    program.machine.settings.Put("Options", "State", "2");
+    program.machine.settingsStore.Put("Options", "State", "2");
     REQUIRE(program.Start());
     program.form->WindowMoved(WindowState::Maximised, {0, 0, 15360, 11100});
     CHECK(program.form->Place().width == 15360);
@@ -242,8 +242,8 @@ TEST_CASE("a window opened maximised snaps to 9990 by 7920 when it is restored")
 
 TEST_CASE("a stored State of 2 with MinimizeAfterStart 0 opens normal") {
     Program program;
-    program.machine.settings.Put("Options", "State", "2");
-    program.machine.settings.Put("Options", "MinimizeAfterStart", "0");
+    program.machine.settingsStore.Put("Options", "State", "2");
+    program.machine.settingsStore.Put("Options", "MinimizeAfterStart", "0");
     REQUIRE(program.Start());
     CHECK(program.form->State() == WindowState::Normal);
 }
@@ -251,7 +251,7 @@ TEST_CASE("a stored State of 2 with MinimizeAfterStart 0 opens normal") {
 TEST_CASE("a stored State that no window has is passed over") {
     for (const char* state : {"3", "-1", "32767"}) {
         Program program;
-        program.machine.settings.Put("Options", "State", state);
+        program.machine.settingsStore.Put("Options", "State", state);
         REQUIRE(program.Start());
         CHECK(program.form->State() == WindowState::Normal);
     }
@@ -259,8 +259,8 @@ TEST_CASE("a stored State that no window has is passed over") {
 
 TEST_CASE("stored Width and Height have no effect") {
     Program program;
-    program.machine.settings.Put("Options", "Width", "100");
-    program.machine.settings.Put("Options", "Height", "100");
+    program.machine.settingsStore.Put("Options", "Width", "100");
+    program.machine.settingsStore.Put("Options", "Height", "100");
     REQUIRE(program.Start());
     CHECK(program.form->Place().width == 9990);
     CHECK(program.form->Place().height == 7920);
@@ -272,7 +272,7 @@ TEST_CASE("stored Width and Height have no effect") {
 
 TEST_CASE("another build than 2600 brings the message and closes the window") {
     Program program;
-    program.machine.system.facts = {"Microsoft Windows 2000", 5, 0, 2195};
+    program.machine.operatingSystem.facts = {"Microsoft Windows 2000", 5, 0, 2195};
     CHECK_FALSE(program.Start());
     REQUIRE(program.machine.messages.Shown().size() == 1);
     CHECK(program.machine.messages.Shown()[0] ==
@@ -286,13 +286,13 @@ TEST_CASE("another build than 2600 brings the message and closes the window") {
 
 TEST_CASE("the gate looks at the build number only") {
     Program program;
-    program.machine.system.facts = {"Windows 98", 4, 10, 2600};
+    program.machine.operatingSystem.facts = {"Windows 98", 4, 10, 2600};
     CHECK(program.Start());
 }
 
 TEST_CASE("a window refused by the gate closes as every window does and stores its facts") {
     Program program;
-    program.machine.system.facts.build = 3790;
+    program.machine.operatingSystem.facts.build = 3790;
     CHECK_FALSE(program.Start());
     CHECK(program.Stored("Tab") == "0");
     CHECK(program.Stored("State") == "0");
@@ -307,7 +307,7 @@ TEST_CASE("a system that does not tell its build number is refused") {
 
 TEST_CASE("-RAW passes the gate on another build, shows its notice, and the start goes on") {
     Program program;
-    program.machine.system.facts.build = 2195;
+    program.machine.operatingSystem.facts.build = 2195;
     program.machine.program.commandLine = "-RAW";
     Seed(program);
     CHECK(program.Start());
@@ -323,7 +323,7 @@ TEST_CASE("only the whole command line -RAW is the switch") {
     for (const char* line : {"-raw", "-RAW ", " -RAW", "-RAW x", "/RAW", "\"-RAW\"", ""}) {
         CAPTURE(line);
         Program program;
-        program.machine.system.facts.build = 2195;
+        program.machine.operatingSystem.facts.build = 2195;
         program.machine.program.commandLine = line;
         CHECK_FALSE(program.Start());
         CHECK(program.machine.messages.Shown().at(0).title == GateTitle);
@@ -362,7 +362,7 @@ TEST_CASE("without a service pack both its labels are hidden") {
 
 TEST_CASE("the stored tab is shown") {
     Program program;
-    program.machine.settings.Put("Options", "Tab", "7");
+    program.machine.settingsStore.Put("Options", "Tab", "7");
     REQUIRE(program.Start());
     CHECK(Tab(program) == 7);
 }
@@ -371,7 +371,7 @@ TEST_CASE("a stored tab outside 0 to 8, the spare 8, or no number opens the firs
     for (const char* tab : {"9", "8", "-1", "x", "", "70000"}) {
         CAPTURE(tab);
         Program program;
-        program.machine.settings.Put("Options", "Tab", tab);
+        program.machine.settingsStore.Put("Options", "Tab", tab);
         REQUIRE(program.Start());
         CHECK(Tab(program) == 0);
     }
@@ -386,7 +386,7 @@ TEST_CASE("each start comes up with the atomic clock as time source") {
 
 TEST_CASE("SyncServer set to 1 by hand selects the server at the next start") {
     Program program;
-    program.machine.settings.Put("Options", "SyncServer", "1");
+    program.machine.settingsStore.Put("Options", "SyncServer", "1");
     REQUIRE(program.Start());
     CHECK(program.form->Find<toolkit::OptionButton>("optSynServer").Value());
     CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
@@ -394,8 +394,8 @@ TEST_CASE("SyncServer set to 1 by hand selects the server at the next start") {
 
 TEST_CASE("where both time sources are set to 1 by hand, the server wins, being read last") {
     Program program;
-    program.machine.settings.Put("Options", "SyncAtom", "1");
-    program.machine.settings.Put("Options", "SyncServer", "1");
+    program.machine.settingsStore.Put("Options", "SyncAtom", "1");
+    program.machine.settingsStore.Put("Options", "SyncServer", "1");
     REQUIRE(program.Start());
     CHECK(program.form->Find<toolkit::OptionButton>("optSynServer").Value());
     CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
@@ -405,7 +405,7 @@ TEST_CASE("a SyncAtom that is not 1 leaves no time source selected") {
     for (const char* stored : {"0", "", "2", "True", " 1"}) {
         CAPTURE(stored);
         Program program;
-        program.machine.settings.Put("Options", "SyncAtom", stored);
+        program.machine.settingsStore.Put("Options", "SyncAtom", stored);
         REQUIRE(program.Start());
         CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optSynServer").Value());
         CHECK_FALSE(program.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
@@ -414,7 +414,7 @@ TEST_CASE("a SyncAtom that is not 1 leaves no time source selected") {
 
 TEST_CASE("the server's name comes back") {
     Program program;
-    program.machine.settings.Put("Options", "ServerName", "zeit-ü");
+    program.machine.settingsStore.Put("Options", "ServerName", "zeit-ü");
     REQUIRE(program.Start());
     CHECK(program.Text("txtSyncServer").Text() == "zeit-ü");
 }
@@ -454,7 +454,7 @@ TEST_CASE("a session that ends behind a message of start-up closes as ever, with
     Program program;
     program.machine.registry.Put(Registry::CurrentUser, "Control Panel\\Desktop", "MenuShowDelay",
                                  TextValue("3000000000"));
-    program.machine.settings.Put("Options", "ForceReboot", "1");
+    program.machine.settingsStore.Put("Options", "ForceReboot", "1");
     program.machine.messages.WhileOpen("Fehler 6", [&] { program.form->Unload(); });
     CHECK_FALSE(program.Start());
     CHECK(program.Stored("ForceReboot") == "0");
@@ -485,7 +485,7 @@ TEST_CASE("a read pass that fails is logged as ReadRegistry, and start-up goes o
     Program program;
     program.machine.registry.Put(Registry::CurrentUser, "Control Panel\\Desktop", "MenuShowDelay",
                                  TextValue("3000000000"));
-    program.machine.settings.Put("Options", "Tab", "7");
+    program.machine.settingsStore.Put("Options", "Tab", "7");
     REQUIRE(program.Start());
     REQUIRE(program.machine.messages.Shown().size() == 1);
     CHECK(program.machine.messages.Shown()[0].title == "Fehler 6");
@@ -537,7 +537,7 @@ TEST_CASE("the steps of start-up stand in their order") {
 
 TEST_CASE("the warning comes up in the middle of the designed window") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "No");
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
     toolkit::Bounds place;
     program.machine.forms.WhenModal("frmFirstInfo", [&](toolkit::Form& form) {
         place = form.Place();

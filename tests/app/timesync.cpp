@@ -27,7 +27,7 @@ TEST_CASE("date and time run while the window is open, once a second") {
 
 TEST_CASE("the clock runs from the start on, also behind the first warning") {
     Program program;
-    program.machine.settings.Put("Options", "Accepted", "No");
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
     std::string behind;
     program.machine.forms.WhenModal("frmFirstInfo", [&](toolkit::Form& warning) {
         program.machine.clock.Advance(1000);
@@ -78,8 +78,8 @@ TEST_CASE("an answer that comes long after the message still sets the clock") {
 
 TEST_CASE("the computer named in the text box is asked when it is chosen") {
     Program program;
-    program.machine.settings.Put("Options", "ServerName", "zeit");
-    program.machine.settings.Put("Options", "SyncServer", "1");
+    program.machine.settingsStore.Put("Options", "ServerName", "zeit");
+    program.machine.settingsStore.Put("Options", "SyncServer", "1");
     REQUIRE(program.Start());
     program.machine.network.SetTimeOf("\\\\zeit", {.hours = 1, .day = 2, .month = 3, .year = 2005});
     program.Press("cmdSynchronizeDateTime");
@@ -97,7 +97,7 @@ TEST_CASE("after a restart the time server is chosen again, and the name is the 
     CHECK(first.Stored("SyncServer") == "absent");
 
     Program second;
-    second.machine.settings.Put("Options", "ServerName", first.Stored("ServerName"));
+    second.machine.settingsStore.Put("Options", "ServerName", first.Stored("ServerName"));
     REQUIRE(second.Start());
     CHECK(second.form->Find<toolkit::OptionButton>("optAtomUhr").Value());
     CHECK_FALSE(second.form->Find<toolkit::OptionButton>("optSynServer").Value());
@@ -117,10 +117,10 @@ TEST_CASE("the synchronisation waits for no Apply and leaves no setting behind")
     Program program;
     REQUIRE(program.Start());
     const auto registry = program.machine.registry.Dump();
-    const auto settings = program.machine.settings.All();
+    const auto settings = program.machine.settingsStore.All();
     program.form->Find<toolkit::OptionButton>("optSynServer").SetValue(true);
     program.Press("cmdSynchronizeDateTime");
     CHECK(program.machine.journal.Calls("SetLocalTime").size() == 1);
     CHECK(program.machine.registry.Dump() == registry);
-    CHECK(program.machine.settings.All() == settings);
+    CHECK(program.machine.settingsStore.All() == settings);
 }

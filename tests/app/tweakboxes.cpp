@@ -8,7 +8,7 @@ using namespace app_test;
 namespace {
 
 std::string Components(const Program& program) {
-    return program.machine.settings.Stored("WinComponents", "Show").value_or("absent");
+    return program.machine.settingsStore.Stored("WinComponents", "Show").value_or("absent");
 }
 
 }  // namespace
@@ -17,7 +17,7 @@ TEST_CASE("a store without the preview's setting shows the preview as off") {
     Program program;
     REQUIRE(program.Start());
     CHECK(program.Check("chkSHMediaDLL").Value() == 1);
-    CHECK_FALSE(program.machine.settings.Stored("VideoPrv", "Regged"));
+    CHECK_FALSE(program.machine.settingsStore.Stored("VideoPrv", "Regged"));
 }
 
 TEST_CASE("only a registered preview of exactly true clears its box") {
@@ -26,7 +26,7 @@ TEST_CASE("only a registered preview of exactly true clears its box") {
     for (const auto& [text, state] : stored) {
         CAPTURE(text);
         Program program;
-        program.machine.settings.Put("VideoPrv", "Regged", text);
+        program.machine.settingsStore.Put("VideoPrv", "Regged", text);
         REQUIRE(program.Start());
         CHECK(program.Check("chkSHMediaDLL").Value() == state);
     }
@@ -34,7 +34,7 @@ TEST_CASE("only a registered preview of exactly true clears its box") {
 
 TEST_CASE("starting runs no command for the preview") {
     Program program;
-    program.machine.settings.Put("VideoPrv", "Regged", "true");
+    program.machine.settingsStore.Put("VideoPrv", "Regged", "true");
     REQUIRE(program.Start());
     CHECK(program.machine.processes.launched.empty());
 }
@@ -46,7 +46,7 @@ TEST_CASE("a first Apply that leaves the preview's box alone unregisters the lib
     REQUIRE(program.machine.processes.launched.size() == 1);
     CHECK(program.machine.processes.launched[0].commandLine ==
           "regsvr32.exe %windir%\\system32\\shmedia.dll /u /s");
-    CHECK(program.machine.settings.Stored("VideoPrv", "Regged") == "false");
+    CHECK(program.machine.settingsStore.Stored("VideoPrv", "Regged") == "false");
 }
 
 TEST_CASE("a preview command that does not start is reported as WriteRegistry") {
@@ -72,7 +72,7 @@ TEST_CASE("true in any case sets the box of the Windows components, any other te
     for (const auto& [text, state] : stored) {
         CAPTURE(text);
         Program program;
-        program.machine.settings.Put("WinComponents", "Show", text);
+        program.machine.settingsStore.Put("WinComponents", "Show", text);
         REQUIRE(program.Start());
         CHECK(program.Check("chkHideWinComponents").Value() == state);
     }

@@ -15,7 +15,7 @@ TEST_CASE_FIXTURE(Fixture, "at the start the current drive is selected and its s
 }
 
 TEST_CASE_FIXTURE(Fixture, "another drive shows its own space, one without a medium 0 bytes") {
-    machine.facts.SetSpace('D', {0, 1000, 1000});
+    machine.systemFacts.SetSpace('D', {0, 1000, 1000});
     frame.drvSelect.SetDrive("D:\\");
     CHECK(frame.lblGesamt.Caption() == "Gesamt: 1.000 Bytes");
     CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 0 Bytes");
@@ -25,7 +25,7 @@ TEST_CASE_FIXTURE(Fixture, "another drive shows its own space, one without a med
 }
 
 TEST_CASE_FIXTURE(Fixture, "scrolling the list of drives shows the space anew") {
-    machine.facts.SetSpace('C', {0, 3000, 1000});
+    machine.systemFacts.SetSpace('C', {0, 3000, 1000});
     frame.drvSelect.ScrollList();
     CHECK(frame.lblGesamt.Caption() == "Gesamt: 3.000 Bytes");
     CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 2.000 Bytes");
@@ -46,10 +46,11 @@ TEST_CASE_FIXTURE(Fixture, "a drive without a medium is passed over") {
 }
 
 TEST_CASE_FIXTURE(Fixture, "all drives means all hard disks, in the order of the list") {
-    machine.information.drives = {{"A:\\", DriveKind::Removable},   {"C:\\", DriveKind::Fixed},
-                                  {"D:\\", DriveKind::OpticalDisc}, {"E:\\", DriveKind::Fixed},
-                                  {"F:\\", DriveKind::Network},     {"G:\\", DriveKind::MemoryDisk},
-                                  {"H:\\", DriveKind::Fixed}};
+    machine.systemInformation.drives = {
+        {"A:\\", DriveKind::Removable},   {"C:\\", DriveKind::Fixed},
+        {"D:\\", DriveKind::OpticalDisc}, {"E:\\", DriveKind::Fixed},
+        {"F:\\", DriveKind::Network},     {"G:\\", DriveKind::MemoryDisk},
+        {"H:\\", DriveKind::Fixed}};
     tool.Start();
     for (const char* drive : {"A", "C", "D", "F", "G", "H"}) {
         File(std::string(drive) + ":\\x.tmp");
@@ -62,7 +63,7 @@ TEST_CASE_FIXTURE(Fixture, "all drives means all hard disks, in the order of the
 }
 
 TEST_CASE_FIXTURE(Fixture, "an unknown Windows directory and no drive name no folder at all") {
-    machine.facts.windowsDirectory = "";
+    machine.systemFacts.windowsDirectory = "";
     disk.MakeFolder("C:\\Temp\\precious");
     File("C:\\x.tmp");
     frame.drvSelect.SetDrives({});
@@ -108,7 +109,7 @@ TEST_CASE_FIXTURE(Fixture, "a drive that cannot be looked at is passed over") {
     File("C:\\x.tmp");
     Tick(frame.chkScanAll);
     disk.MakeFolder("D:\\Win\\Temp");
-    machine.facts.windowsDirectory = "D:\\Win";
+    machine.systemFacts.windowsDirectory = "D:\\Win";
     machine.faults.FailOn("c:\\", 5);
     CHECK(Found().empty());
     CHECK(machine.messages.Shown().empty());

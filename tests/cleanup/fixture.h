@@ -25,7 +25,7 @@ struct Fixture {
     toolkit::ListView& list = frame.lvwFiles;
 
     Fixture() {
-        machine.facts.tempPath = "C:\\UserTemp\\";
+        machine.systemFacts.tempPath = "C:\\UserTemp\\";
         disk.MakeFolder("C:\\WINDOWS\\Temp");
         form.Load();
         tool.Start();

@@ -12,8 +12,8 @@ struct FolderRulesFixture {
     // Only what a test names can be the reason of a hit.
     FolderRulesFixture() {
         machine.shell.specialFolders[9] = "C:\\Profil\\An Senden";
-        machine.facts.windowsDirectory = "D:\\Win";
-        machine.facts.systemDirectory = "D:\\Win\\Sys";
+        machine.systemFacts.windowsDirectory = "D:\\Win";
+        machine.systemFacts.systemDirectory = "D:\\Win\\Sys";
     }
     bool Excluded(const char* path) {
         return cleanup::FolderRules(machine.services).IsExcludedFolder(path);
@@ -90,7 +90,7 @@ TEST_CASE_FIXTURE(
 }
 
 TEST_CASE_FIXTURE(FolderRulesFixture, "a system directory that is not told leaves out everything") {
-    machine.facts.systemDirectory = "";
+    machine.systemFacts.systemDirectory = "";
     CHECK(Excluded("C:\\"));
     CHECK(Excluded("E:\\x"));
 }
@@ -112,7 +112,7 @@ TEST_CASE_FIXTURE(FolderRulesFixture,
 TEST_CASE_FIXTURE(FolderRulesFixture,
                   "folders that the system does not tell exclude nothing by themselves") {
     machine.shell.specialFolders.erase(9);
-    machine.facts.windowsDirectory = "";
+    machine.systemFacts.windowsDirectory = "";
     CHECK_FALSE(Excluded("C:\\x"));
     CHECK(Excluded("\\All Users"));
 }

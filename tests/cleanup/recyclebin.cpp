@@ -26,7 +26,7 @@ struct Bin : Fixture {
 }  // namespace
 
 TEST_CASE_FIXTURE(Bin, "after Yes the bins of all drives are empty, though one drive is named") {
-    machine.facts.SetSpace('D', {0, 100, 40});
+    machine.systemFacts.SetSpace('D', {0, 100, 40});
     Press(platform::message::Yes);
     CHECK(machine.messages.Shown() ==
           std::vector<ShownMessage>{{TitleOfD, "Inhalt des Papierkorbes löschen?", 36}});

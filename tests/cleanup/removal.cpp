@@ -242,7 +242,7 @@ TEST_CASE_FIXTURE(Found,
 }
 
 TEST_CASE_FIXTURE(Found, "the space of the drive is shown anew afterwards") {
-    machine.facts.SetSpace('C', {0, 100, 40});
+    machine.systemFacts.SetSpace('C', {0, 100, 40});
     Clean();
     CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 60 Bytes");
 }

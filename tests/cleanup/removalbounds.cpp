@@ -317,7 +317,7 @@ TEST_CASE_FIXTURE(Bounds, "a temp folder that is reached through a junction is c
     disk.MakeLink("C:\\Short", "C:\\Profil");
     File("C:\\Profil\\Temp\\a.dat");
     File("C:\\Profil\\Temp\\sub\\b.dat");
-    machine.facts.tempPath = "C:\\Short\\Temp\\";
+    machine.systemFacts.tempPath = "C:\\Short\\Temp\\";
     Search();
     NotePlaces();
     CHECK(ChangedOutside() == Lines{});

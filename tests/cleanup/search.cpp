@@ -135,7 +135,7 @@ TEST_CASE_FIXTURE(Fixture, "a folder that is not there does not bring the one be
 TEST_CASE_FIXTURE(Fixture,
                   "places that the system does not tell are passed over like missing ones") {
     machine.shell.specialFolders.erase(8);
-    machine.facts.tempPath = "";
+    machine.systemFacts.tempPath = "";
     Tick(frame.chkRecentDocFolder);
     Tick(frame.chkCleanUserTempFolder);
     File("C:\\x\\a.tmp");

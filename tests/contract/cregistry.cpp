@@ -149,7 +149,7 @@ TEST_CASE_FIXTURE(RegistryObjectFixture,
     const auto isExpanded = [](const Data& data, const std::string& wanted) {
         return runtime::EqualsIgnoringCase(std::get<std::string>(data), wanted);
     };
-    const std::string windows = machine.Services().facts.WindowsDirectory();
+    const std::string windows = machine.Services().systemFacts.WindowsDirectory();
     CHECK(isExpanded(ReadBack(Registry::ExpandString, "%SystemRoot%\\x%\0"s), windows + "\\x%"));
     CHECK(isExpanded(ReadBack(Registry::ExpandString, "%systemROOT%;%SystemRoot%\0"s),
                      windows + ';' + windows));

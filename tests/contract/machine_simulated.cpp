@@ -107,15 +107,15 @@ void TestMachine::WithUnreadable(std::string_view path, const std::function<void
 platform::OtherWindows::Handle TestMachine::OpenWindow(std::string_view className,
                                                        std::string_view title,
                                                        platform::OtherWindows::Handle parent) {
-    return inside_->machine.windows.Open(std::string(className), std::string(title), parent);
+    return inside_->machine.otherWindows.Open(std::string(className), std::string(title), parent);
 }
 
 void TestMachine::EndWindow(platform::OtherWindows::Handle window) {
-    inside_->machine.windows.Close(window);
+    inside_->machine.otherWindows.Close(window);
 }
 
 WindowLook TestMachine::LookAt(platform::OtherWindows::Handle window) const {
-    const auto& seen = inside_->machine.windows.At(window);
+    const auto& seen = inside_->machine.otherWindows.At(window);
     return {seen.extendedStyle, seen.alpha,   seen.textBackground,
             seen.place,         seen.visible, seen.redraws};
 }

@@ -2,6 +2,8 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -58,6 +60,14 @@ TEST_CASE_FIXTURE(MemoryFixture, "a block that no program has room for is refuse
         CHECK(FailureOf([&] { memory.Blanks(characters); }) == runtime::OutOfMemory);
         CHECK(Resident() - before < 0.02);
     }
+}
+
+TEST_CASE_FIXTURE(MemoryFixture,
+                  "the memory is told in decimal digits and is at least 64 megabytes") {
+    const std::string total = memory.TotalPhysical();
+    REQUIRE(!total.empty());
+    CHECK(std::all_of(total.begin(), total.end(), [](char c) { return std::isdigit(c) != 0; }));
+    CHECK(std::stoull(total) >= 64ull << 20);
 }
 
 TEST_CASE_FIXTURE(MemoryFixture,

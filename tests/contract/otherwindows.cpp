@@ -16,7 +16,7 @@ constexpr std::uint32_t Hide = 0x80;
 
 struct OtherWindowsFixture {
     contract::TestMachine machine;
-    platform::OtherWindows& windows = machine.Services().windows;
+    platform::OtherWindows& windows = machine.Services().otherWindows;
 
     platform::OtherWindows::Handle Closed() {
         const auto window = machine.OpenWindow(contract::StandInClass, "closed");

@@ -10,7 +10,7 @@ using contract::Title;
 
 struct SettingsStoreFixture {
     contract::TestMachine machine;
-    platform::SettingsStore& store = machine.Services().settings;
+    platform::SettingsStore& store = machine.Services().settingsStore;
 };
 
 }  // namespace

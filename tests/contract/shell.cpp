@@ -36,7 +36,7 @@ struct ShellFixture {
 // A folder dialog that is opened on the Windows directory and used once.
 struct Picker : ShellFixture {
     toolkit::Form owner{machine.Services().forms, "frmOwner", "Fenster", {}};
-    const std::string windows = machine.Services().facts.WindowsDirectory();
+    const std::string windows = machine.Services().systemFacts.WindowsDirectory();
     std::vector<std::uint32_t> messages;
     std::vector<std::string> selected;
 
@@ -67,7 +67,7 @@ TEST_CASE_FIXTURE(ShellFixture, "the shell has a sheet of properties by number a
 
 TEST_CASE_FIXTURE(ShellFixture,
                   "the special folder 0x24 is the Windows directory, 0x25 the system's") {
-    const auto& facts = machine.Services().facts;
+    const auto& facts = machine.Services().systemFacts;
     CHECK(shell.SpecialFolder(0x24) == facts.WindowsDirectory());
     CHECK(shell.SpecialFolder(0x25) == facts.SystemDirectory());
 }

@@ -10,7 +10,7 @@ namespace {
 
 struct Facts {
     contract::TestMachine machine;
-    platform::SystemInformation& information = machine.Services().information;
+    platform::SystemInformation& information = machine.Services().systemInformation;
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ struct Place {
 }  // namespace
 
 TEST_CASE_FIXTURE(Place, "this computer tells who is logged on to it, in a buffer to give back") {
-    const auto name = machine.Services().information.ComputerName();
+    const auto name = machine.Services().systemInformation.ComputerName();
     REQUIRE(name);
     platform::UserEnumeration enumeration;
     const std::uint32_t code = workstation.EnumerateUsers("\\\\" + *name, enumeration);
@@ -35,7 +35,7 @@ TEST_CASE_FIXTURE(Place, "this computer tells who is logged on to it, in a buffe
     }
     REQUIRE(code == Workstation::Success);
     REQUIRE_FALSE(enumeration.users.empty());
-    const std::string user = machine.Services().facts.UserName();
+    const std::string user = machine.Services().systemFacts.UserName();
     const auto isUser = [&](const platform::LoggedOnUser& logon) {
         return logon.wkui1_username == user;
     };

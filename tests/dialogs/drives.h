@@ -70,11 +70,12 @@ struct Drives {
         return {exitCode, 3};
     }
     void ShowMade() {
-        machine.information.drives.resize(3);
+        machine.systemInformation.drives.resize(3);
         for (const auto& each : made) {
-            machine.information.drives.push_back({each.first + '\\', platform::DriveKind::Fixed});
-            machine.information.volumes[each.first + '\\'] = {"NTFS", 40007729152, 12884901888,
-                                                              "SYSTEM"};
+            machine.systemInformation.drives.push_back(
+                {each.first + '\\', platform::DriveKind::Fixed});
+            machine.systemInformation.volumes[each.first + '\\'] = {"NTFS", 40007729152,
+                                                                    12884901888, "SYSTEM"};
         }
     }
     void Make(const std::string& drive, const std::string& folder) {
@@ -120,7 +121,7 @@ struct Drives {
         machine.processes.runs.clear();
         return lines;
     }
-    std::map<std::string, std::string> Store() const { return machine.settings.All(); }
+    std::map<std::string, std::string> Store() const { return machine.settingsStore.All(); }
     ShownMessage LastBox() const {
         REQUIRE_FALSE(machine.messages.Shown().empty());
         return machine.messages.Shown().back();

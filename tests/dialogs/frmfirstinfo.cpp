@@ -21,7 +21,7 @@ struct ShownWarning {
         machine.forms.WhenModal("frmFirstInfo", std::move(user));
         form.ShowModal();
     }
-    Setting Accepted() const { return machine.settings.Stored("Options", "Accepted"); }
+    Setting Accepted() const { return machine.settingsStore.Stored("Options", "Accepted"); }
     controls::chameleonButton& Button(const char* name) {
         return form.Find<controls::chameleonButton>(name);
     }
@@ -44,13 +44,13 @@ TEST_CASE("refusing the warning stores nothing and unloads the dialog") {
     ShownWarning test;
     test.To([](toolkit::Form& form) { Press(form, "Command1"); });
     CHECK(test.Accepted() == Setting());
-    CHECK(test.machine.settings.All().empty());
+    CHECK(test.machine.settingsStore.All().empty());
     CHECK_FALSE(test.form.Loaded());
 }
 
 TEST_CASE("refusing the warning leaves a stored answer as it was") {
     ShownWarning test;
-    test.machine.settings.Put("Options", "Accepted", "Nein");
+    test.machine.settingsStore.Put("Options", "Accepted", "Nein");
     test.To([](toolkit::Form& form) { Press(form, "Command1"); });
     CHECK(test.Accepted() == Setting("Nein"));
 }

@@ -30,7 +30,7 @@ TEST_CASE_FIXTURE(ShownReport, "the report can be read and marked, not changed")
 TEST_CASE_FIXTURE(ShownReport, "each showing reports anew") {
     form.Show();
     Press("cmdClose");
-    machine.facts.userName = "Gast";
+    machine.systemFacts.userName = "Gast";
     form.Show();
     CHECK(report.Text().find("Benutzer:\tGast\r\n") != std::string::npos);
 }

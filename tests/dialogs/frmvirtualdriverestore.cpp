@@ -32,7 +32,7 @@ TEST_CASE_FIXTURE(Drives, "the box stores each drive with its volume's name and 
               "\"VDriveC\" type 1 size 39 data \"C:\\Programme\\Quillmore\\Quillmore.exe -r\" -> "
               "6") != std::string::npos);
     CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
-    machine.settings.Save("dmVDriveC", "Other", "x", "stays");
+    machine.settingsStore.Save("dmVDriveC", "Other", "x", "stays");
     machine.folders.current = "D:\\";
     restore.SetValue(0);
     CHECK(machine.folders.current == "C:\\Programme\\Quillmore\\");
@@ -70,7 +70,7 @@ TEST_CASE_FIXTURE(Drives, "over an empty list the box stores nothing") {
 TEST_CASE_FIXTURE(Drives, "the box shows what is stored and by that stores nothing") {
     Make("E:", "C:\\");
     const auto shown = [&](const char* stored) {
-        machine.settings.Save("dmVDriveC", "Config", "Restore", stored);
+        machine.settingsStore.Save("dmVDriveC", "Config", "Restore", stored);
         form.Show();
         const int value = restore.Value();
         form.Unload();
@@ -87,22 +87,22 @@ TEST_CASE_FIXTURE(Drives, "the box shows what is stored and by that stores nothi
 
 TEST_CASE_FIXTURE(Drives, "the stored drives are made again by the routine that nobody calls") {
     machine.program.commandLine = "-r";
-    machine.settings.Save("dmVDriveC", "Config", "Count", "2");
-    machine.settings.Save("dmVDriveC", "Config", "Drives1", "E:=>C:\\A");
-    machine.settings.Save("dmVDriveC", "Config", "Drives2", "F:=>SYSTEM");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Count", "2");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Drives1", "E:=>C:\\A");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Drives2", "F:=>SYSTEM");
     form.Show();
     CHECK(Started() == Lines{List});
     form.RestoreDrives();
     CHECK(Started() == Lines{"command.com /csubst E: C:\\A", "command.com /csubst F: SYSTEM"});
-    machine.settings.Save("dmVDriveC", "Config", "Count", "0");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Count", "0");
     form.RestoreDrives();
     CHECK(Started().empty());
 }
 
 TEST_CASE_FIXTURE(Drives, "each stored drive is awaited before the next one is made") {
-    machine.settings.Save("dmVDriveC", "Config", "Count", "2");
-    machine.settings.Save("dmVDriveC", "Config", "Drives1", "E:=>C:\\A");
-    machine.settings.Save("dmVDriveC", "Config", "Drives2", "F:=>C:\\B");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Count", "2");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Drives1", "E:=>C:\\A");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Drives2", "F:=>C:\\B");
     form.Show();
     Started();
     machine.folders.current = "D:\\";
@@ -121,16 +121,16 @@ TEST_CASE_FIXTURE(Drives, "as many drives are made again as are counted, without
     form.Show();
     Started();
     for (int number = 1; number <= 27; ++number) {
-        machine.settings.Save("dmVDriveC", "Config", "Drives" + std::to_string(number),
-                              "E:=>C:\\A");
+        machine.settingsStore.Save("dmVDriveC", "Config", "Drives" + std::to_string(number),
+                                   "E:=>C:\\A");
     }
-    machine.settings.Save("dmVDriveC", "Config", "Drives2", "F:");
-    machine.settings.Save("dmVDriveC", "Config", "Drives3", "");
-    machine.settings.Save("dmVDriveC", "Config", "Count", "27");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Drives2", "F:");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Drives3", "");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Count", "27");
     form.RestoreDrives();
     CHECK(Started().size() == 25);
     machine.journal.Clear();
-    machine.settings.Save("dmVDriveC", "Config", "Count", "1E30");
+    machine.settingsStore.Save("dmVDriveC", "Config", "Count", "1E30");
     form.RestoreDrives();
     // The count itself is one of them.
     CHECK(machine.journal.Calls("GetSetting").size() == 1 + 32767);

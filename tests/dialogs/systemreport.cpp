@@ -84,7 +84,7 @@ TEST_CASE_FIXTURE(Report, "what cannot be read reads so everywhere, and nothing 
 }
 
 TEST_CASE_FIXTURE(Report, "each call that fails takes its own lines only") {
-    machine.information.drives = {{"C:\\", DriveKind::Fixed}};
+    machine.systemInformation.drives = {{"C:\\", DriveKind::Fixed}};
     const std::string whole = Text();
     const auto calls = static_cast<int>(machine.journal.Count());
     int withoutEffect = 0;
@@ -143,7 +143,7 @@ TEST_CASE_FIXTURE(Report, "the keys of the processor are read only, and closed a
 }
 
 TEST_CASE_FIXTURE(Report, "a system without service pack says so") {
-    machine.information.servicePack = "";
+    machine.systemInformation.servicePack = "";
     CHECK(Value("Service Pack") == "keines");
 }
 
@@ -151,18 +151,18 @@ TEST_CASE_FIXTURE(Report,
                   "a user name of 254 characters is shown as a whole, a longer one not told") {
     std::string name;
     for (int count = 0; count < 254; ++count) name += "ü";
-    machine.facts.userName = name;
+    machine.systemFacts.userName = name;
     CHECK(Value("Benutzer") == name);
-    machine.facts.userName = name + "ü";
+    machine.systemFacts.userName = name + "ü";
     CHECK(Value("Benutzer") == "nicht verfügbar");
 }
 
 TEST_CASE_FIXTURE(Report, "drives of each kind, and one that tells only half") {
-    machine.information.drives = {{"E:\\", DriveKind::Network},
-                                  {"F:\\", DriveKind::MemoryDisk},
-                                  {"G:\\", DriveKind::Unknown},
-                                  {"H:\\", DriveKind::Fixed}};
-    machine.information.volumes = {
+    machine.systemInformation.drives = {{"E:\\", DriveKind::Network},
+                                        {"F:\\", DriveKind::MemoryDisk},
+                                        {"G:\\", DriveKind::Unknown},
+                                        {"H:\\", DriveKind::Fixed}};
+    machine.systemInformation.volumes = {
         {"E:\\", {"NTFS", 1024, 0}}, {"F:\\", {"FAT", {}, {}}}, {"G:\\", {{}, 2048, 1023}}};
     CHECK(Value("Laufwerk E") == "Netzlaufwerk, Dateisystem NTFS, Größe 1,0 KB, frei 0 Bytes");
     CHECK(Value("Laufwerk F") ==

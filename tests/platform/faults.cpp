@@ -11,10 +11,10 @@ using platform::simulated::DwordValue;
 using runtime::Failure;
 
 TEST_CASE_FIXTURE(Keys, "the n-th call from now on fails, once") {
-    machine.settings.Put("Options", "Tab", "3");
+    machine.settingsStore.Put("Options", "Tab", "3");
     machine.faults.FailNth(3, 5);
     CHECK(OpenResult(HKLM, "") == Registry::Success);
-    CHECK(machine.settings.Get("Quillmore", "Options", "Tab", "0") == "3");
+    CHECK(machine.settingsStore.Get("Quillmore", "Options", "Tab", "0") == "3");
     CHECK(OpenResult(HKLM, "") == 5);
     CHECK(OpenResult(HKLM, "") == Registry::Success);
     CHECK(machine.faults.Idle());
@@ -76,9 +76,9 @@ TEST_CASE_FIXTURE(Keys, "calls whose contract names no other outcome throw the f
     CHECK(number("OpenForAppend", [&] { machine.files.OpenForAppend("C:\\b"); }) == 429);
     CHECK(number("WriteFile", [&] { machine.files.Write(file, "x"); }) == 429);
     CHECK(number("CloseFile", [&] { machine.files.Close(file); }) == 429);
-    CHECK(number("SaveSetting", [&] { machine.settings.Save("T", "S", "K", "x"); }) == 429);
+    CHECK(number("SaveSetting", [&] { machine.settingsStore.Save("T", "S", "K", "x"); }) == 429);
     CHECK(number("ExitSession", [&] { machine.session.ExitSession(2, 0); }) == 429);
-    CHECK(number("GetVersionExA", [&] { machine.system.Facts(); }) == 429);
+    CHECK(number("GetVersionExA", [&] { machine.operatingSystem.Facts(); }) == 429);
     CHECK(number("Memory.TotalPhysical", [&] { machine.memory.TotalPhysical(); }) == 429);
     CHECK(number("SetTimer", [&] { machine.clock.StartTimer(1, [] {}); }) == 429);
     CHECK(number("Tray.SetIcon", [&] { machine.tray.SetIcon(); }) == 429);
@@ -87,7 +87,7 @@ TEST_CASE_FIXTURE(Keys, "calls whose contract names no other outcome throw the f
 
     CHECK_FALSE(machine.files.Content("C:\\b"));
     CHECK(machine.files.Content("C:\\a") == "");
-    CHECK(machine.settings.All().empty());
+    CHECK(machine.settingsStore.All().empty());
     CHECK(machine.session.requests.empty());
     CHECK(machine.clock.RunningTimers() == 0);
     CHECK_FALSE(machine.tray.hasIcon);
@@ -97,7 +97,7 @@ TEST_CASE_FIXTURE(Keys, "calls whose contract names no other outcome throw the f
 }
 
 TEST_CASE_FIXTURE(Keys, "calls whose contract names their failure fail in that way") {
-    machine.settings.Put("Options", "Tab", "3");
+    machine.settingsStore.Put("Options", "Tab", "3");
     machine.autostart.entries["Quillmore"] = "x";
     auto process = machine.processes.Create("a.exe", 32, {});
     for (const char* call : {"GetSetting", "GetWindowsDirectoryA", "GetSystemDirectoryA",
@@ -105,9 +105,9 @@ TEST_CASE_FIXTURE(Keys, "calls whose contract names their failure fail in that w
                              "CloseHandle", "WaitForSingleObject", "MessageBox"}) {
         machine.faults.FailAll(call, 5);
     }
-    CHECK(machine.settings.Get("Quillmore", "Options", "Tab", "0") == "0");
-    CHECK(machine.facts.WindowsDirectory() == "");
-    CHECK(machine.facts.SystemDirectory() == "");
+    CHECK(machine.settingsStore.Get("Quillmore", "Options", "Tab", "0") == "0");
+    CHECK(machine.systemFacts.WindowsDirectory() == "");
+    CHECK(machine.systemFacts.SystemDirectory() == "");
     CHECK_FALSE(machine.autostart.AutoStartAdd("d", "New", "e"));
     CHECK_FALSE(machine.autostart.AutoStartRemove("Quillmore"));
     CHECK_FALSE(machine.autostart.AutoStartExists("Quillmore"));

@@ -11,7 +11,7 @@ namespace {
 
 struct Information {
     platform::simulated::Machine machine;
-    platform::SystemInformation& information = machine.services.information;
+    platform::SystemInformation& information = machine.services.systemInformation;
     const Lines& lines = machine.journal.Lines();
 };
 

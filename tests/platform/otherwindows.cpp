@@ -10,7 +10,7 @@ namespace {
 
 struct OtherWindowsFixture {
     platform::simulated::Machine machine;
-    platform::simulated::OtherWindows& windows = machine.windows;
+    platform::simulated::OtherWindows& windows = machine.otherWindows;
 };
 
 }  // namespace

@@ -17,8 +17,8 @@ struct Services {
 }  // namespace
 
 TEST_CASE_FIXTURE(Services, "the program sees the machine's own services") {
-    machine.services.settings.Save("Quillmore", "Options", "Tab", "4");
-    CHECK(machine.settings.Stored("Options", "Tab") == "4");
+    machine.services.settingsStore.Save("Quillmore", "Options", "Tab", "4");
+    CHECK(machine.settingsStore.Stored("Options", "Tab") == "4");
     CHECK(&machine.services.forms == &machine.forms);
     CHECK(&machine.services.registry == &machine.registry);
     CHECK(&machine.services.clock == &machine.clock);
@@ -26,16 +26,16 @@ TEST_CASE_FIXTURE(Services, "the program sees the machine's own services") {
 }
 
 TEST_CASE_FIXTURE(Services, "a fresh machine is a German XP with nothing in it") {
-    CHECK(machine.services.system.Facts().name == "Microsoft Windows XP");
-    CHECK(machine.services.system.Facts().build == 2600);
-    CHECK(machine.services.facts.WindowsDirectory() == "C:\\WINDOWS");
-    CHECK(machine.services.facts.SystemDirectory() == "C:\\WINDOWS\\system32");
+    CHECK(machine.services.operatingSystem.Facts().name == "Microsoft Windows XP");
+    CHECK(machine.services.operatingSystem.Facts().build == 2600);
+    CHECK(machine.services.systemFacts.WindowsDirectory() == "C:\\WINDOWS");
+    CHECK(machine.services.systemFacts.SystemDirectory() == "C:\\WINDOWS\\system32");
     CHECK(machine.services.memory.TotalPhysical() == "536330240");
     CHECK(machine.services.program.Directory() == "C:\\Programme\\Quillmore");
     CHECK(machine.services.program.ExecutableName() == "Quillmore");
     CHECK(machine.services.program.CommandLine() == "");
     CHECK(machine.registry.Dump().empty());
-    CHECK(machine.settings.All().empty());
+    CHECK(machine.settingsStore.All().empty());
     CHECK(lines == Lines{"GetVersionExA -> 5.1.2600", "GetVersionExA -> 5.1.2600",
                          "GetWindowsDirectoryA -> \"C:\\WINDOWS\"",
                          "GetSystemDirectoryA -> \"C:\\WINDOWS\\system32\"",
@@ -43,14 +43,14 @@ TEST_CASE_FIXTURE(Services, "a fresh machine is a German XP with nothing in it")
 }
 
 TEST_CASE_FIXTURE(Services, "a setting is stored under title, section and key in any case") {
-    platform::Settings settings(machine.settings);
+    platform::Settings settings(machine.settingsStore);
     CHECK(settings.GetSetting("Options", "Accepted", "No") == "No");
     settings.SaveSetting("Options", "Accepted", "Yes");
     settings.SaveSetting("OPTIONS", "accepted", "");
     CHECK(settings.GetSetting("options", "ACCEPTED", "No") == "");
-    CHECK(machine.settings.All() ==
+    CHECK(machine.settingsStore.All() ==
           std::map<std::string, std::string>{{"Quillmore|Options|Accepted", ""}});
-    CHECK(machine.settings.Get("Other", "Options", "Accepted", "none") == "none");
+    CHECK(machine.settingsStore.Get("Other", "Options", "Accepted", "none") == "none");
     CHECK(lines == Lines{"GetSetting \"Quillmore\" \"Options\" \"Accepted\" -> \"No\"",
                          "SaveSetting \"Quillmore\" \"Options\" \"Accepted\" \"Yes\"",
                          "SaveSetting \"Quillmore\" \"OPTIONS\" \"accepted\" \"\"",
@@ -59,10 +59,10 @@ TEST_CASE_FIXTURE(Services, "a setting is stored under title, section and key in
 }
 
 TEST_CASE_FIXTURE(Services, "seeded settings are found, and looking leaves no trace") {
-    machine.settings.Put("Options", "Tab", "3");
-    machine.settings.Put("options", "TAB", "4");
-    CHECK(machine.settings.Stored("Options", "tab") == "4");
-    CHECK_FALSE(machine.settings.Stored("Options", "Left"));
+    machine.settingsStore.Put("Options", "Tab", "3");
+    machine.settingsStore.Put("options", "TAB", "4");
+    CHECK(machine.settingsStore.Stored("Options", "tab") == "4");
+    CHECK_FALSE(machine.settingsStore.Stored("Options", "Left"));
     CHECK(machine.journal.Count() == 0);
 }
 

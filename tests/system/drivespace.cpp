@@ -15,10 +15,10 @@ namespace {
 
 struct DriveSpaceFixture {
     Machine machine;
-    const clsGetDriveSpace space{machine.facts, machine.locale};
+    const clsGetDriveSpace space{machine.systemFacts, machine.locale};
 
     std::string TotalOf(std::uint64_t bytes) {
-        machine.facts.SetSpace('D', {1, bytes, 1});
+        machine.systemFacts.SetSpace('D', {1, bytes, 1});
         return space.TotalSize("D:\\");
     }
 };
@@ -37,7 +37,7 @@ bool Overflows(const std::string& text) {
 
 TEST_CASE_FIXTURE(DriveSpaceFixture,
                   "free, total and left are three different numbers of one drive") {
-    machine.facts.SetSpace('D', {1000, 20003880960, 3000000});
+    machine.systemFacts.SetSpace('D', {1000, 20003880960, 3000000});
     CHECK(space.UserFree("D:\\") == "1.000");
     CHECK(space.TotalSize("D:\\") == "20.003.880.960");
     CHECK(space.SizeLeft("D:\\") == "3.000.000");
@@ -45,12 +45,12 @@ TEST_CASE_FIXTURE(DriveSpaceFixture,
 
 TEST_CASE_FIXTURE(DriveSpaceFixture,
                   "what is used is the total without all that is free, quota or not") {
-    machine.facts.SetSpace('D', {1000, 20003880960, 3000000});
+    machine.systemFacts.SetSpace('D', {1000, 20003880960, 3000000});
     CHECK(space.UsedSize("D:\\") == "20.000.880.960");
-    machine.facts.SetSpace('D', {1000, 5000, 5000});
+    machine.systemFacts.SetSpace('D', {1000, 5000, 5000});
     CHECK(space.UsedSize("D:\\") == "");
     // The user's share is smaller than what is free for all.
-    machine.facts.SetSpace('D', {1000, 5000, 3000000});
+    machine.systemFacts.SetSpace('D', {1000, 5000, 3000000});
     CHECK(space.UsedSize("D:\\") == "");
 }
 
@@ -89,7 +89,7 @@ TEST_CASE_FIXTURE(DriveSpaceFixture, "the grouping sign is the locale's") {
 }
 
 TEST_CASE_FIXTURE(DriveSpaceFixture, "zero bytes are the empty text") {
-    machine.facts.SetSpace('D', {0, 5000, 0});
+    machine.systemFacts.SetSpace('D', {0, 5000, 0});
     CHECK(space.UserFree("D:\\").empty());
     CHECK(space.TotalSize("D:\\") == "5.000");
     CHECK(space.SizeLeft("D:\\").empty());

@@ -27,19 +27,19 @@ TEST_CASE("a special folder without a path, an unknown number and a failing call
 
 TEST_CASE("the directory for temporary files ends in one backslash however it is told") {
     Machine machine;
-    machine.facts.tempPath = "C:\\Temp\\";
-    CHECK(GetTempDirectory(machine.facts) == "C:\\Temp\\");
-    machine.facts.tempPath = "C:\\Temp";
-    CHECK(GetTempDirectory(machine.facts) == "C:\\Temp\\");
-    machine.facts.tempPath = "C:\\";
-    CHECK(GetTempDirectory(machine.facts) == "C:\\");
+    machine.systemFacts.tempPath = "C:\\Temp\\";
+    CHECK(GetTempDirectory(machine.systemFacts) == "C:\\Temp\\");
+    machine.systemFacts.tempPath = "C:\\Temp";
+    CHECK(GetTempDirectory(machine.systemFacts) == "C:\\Temp\\");
+    machine.systemFacts.tempPath = "C:\\";
+    CHECK(GetTempDirectory(machine.systemFacts) == "C:\\");
 }
 
 TEST_CASE("a directory for temporary files that the system does not tell is not the root") {
     Machine machine;
     machine.faults.FailAll("GetTempPathA", 5);
-    CHECK(GetTempDirectory(machine.facts).empty());
+    CHECK(GetTempDirectory(machine.systemFacts).empty());
     machine.faults.Clear();
-    machine.facts.tempPath = "C:\\" + std::string(252, 't');
-    CHECK(GetTempDirectory(machine.facts).empty());
+    machine.systemFacts.tempPath = "C:\\" + std::string(252, 't');
+    CHECK(GetTempDirectory(machine.systemFacts).empty());
 }

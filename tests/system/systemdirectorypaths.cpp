@@ -9,14 +9,14 @@ using sys::clsGetSystemDirectoryPaths;
 
 TEST_CASE("the directories of Windows are told without a trailing backslash") {
     Machine machine;
-    const clsGetSystemDirectoryPaths paths(machine.facts);
+    const clsGetSystemDirectoryPaths paths(machine.systemFacts);
     CHECK(paths.WindowsDirectory() == "C:\\WINDOWS");
     CHECK(paths.SystemDirectory() == "C:\\WINDOWS\\system32");
 }
 
 TEST_CASE("directories that the system does not tell are empty") {
     Machine machine;
-    const clsGetSystemDirectoryPaths paths(machine.facts);
+    const clsGetSystemDirectoryPaths paths(machine.systemFacts);
     machine.faults.FailAll("GetWindowsDirectoryA", 5);
     CHECK(paths.WindowsDirectory().empty());
     CHECK(paths.SystemDirectory() == "C:\\WINDOWS\\system32");

@@ -26,7 +26,7 @@ TEST_CASE("a program below the Windows directory starts in a normal window and i
 
 TEST_CASE("a Windows directory with blanks is passed on as it is, without quotes") {
     LauncherFixture f;
-    f.machine.facts.windowsDirectory = "D:\\Mein Windows XP";
+    f.machine.systemFacts.windowsDirectory = "D:\\Mein Windows XP";
     f.launchers.LoadExtern("\\System32\\sfc.exe /scannow");
     CHECK(f.machine.processes.launched ==
           Launched{{"D:\\Mein Windows XP\\System32\\sfc.exe /scannow", 1}});

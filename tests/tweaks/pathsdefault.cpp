@@ -23,7 +23,7 @@ struct DefaultPaths : OnePage {
         return captions;
     }
     Paths Set() {
-        tweaks::SetDefaultPaths(form, machine.facts);
+        tweaks::SetDefaultPaths(form, machine.systemFacts);
         return Captions();
     }
 };
@@ -63,23 +63,23 @@ TEST_CASE_FIXTURE(DefaultPaths, "the default paths are those of a German Windows
 
 TEST_CASE_FIXTURE(DefaultPaths, "only the last row follows Windows to drive D, on purpose") {
     const Paths onDriveC = Set();
-    machine.facts.windowsDirectory = "D:\\WINDOWS";
+    machine.systemFacts.windowsDirectory = "D:\\WINDOWS";
     Paths expected = onDriveC;
     expected[13] = "D:\\Programme";
     CHECK(Set() == expected);
 }
 
 TEST_CASE_FIXTURE(DefaultPaths, "of a Windows directory with blanks only the drive counts") {
-    machine.facts.windowsDirectory = "E:\\Mein Windows XP";
+    machine.systemFacts.windowsDirectory = "E:\\Mein Windows XP";
     CHECK(Set()[13] == "E:\\Programme");
 }
 
 TEST_CASE_FIXTURE(DefaultPaths, "a Windows directory that is not told leaves no drive") {
     SUBCASE("empty") {
-        machine.facts.windowsDirectory = "";
+        machine.systemFacts.windowsDirectory = "";
     }
     SUBCASE("longer than its buffer") {
-        machine.facts.windowsDirectory = "D:\\" + std::string(252, 'w');
+        machine.systemFacts.windowsDirectory = "D:\\" + std::string(252, 'w');
     }
     SUBCASE("denied") {
         machine.faults.FailAll("GetWindowsDirectoryA", 5);
@@ -88,7 +88,7 @@ TEST_CASE_FIXTURE(DefaultPaths, "a Windows directory that is not told leaves no 
 }
 
 TEST_CASE_FIXTURE(DefaultPaths, "the first two characters are characters, not bytes") {
-    machine.facts.windowsDirectory = "Ä:\\WINDOWS";
+    machine.systemFacts.windowsDirectory = "Ä:\\WINDOWS";
     CHECK(Set()[13] == "Ä:\\Programme");
 }
 
@@ -96,17 +96,17 @@ TEST_CASE_FIXTURE(DefaultPaths, "a user's name goes into the path as it is") {
     for (const std::string& name : {std::string("Max Müller"), std::string(" Max "),
                                     std::string("M&M"), std::string(253, 'n') + "ü"}) {
         CAPTURE(name);
-        machine.facts.userName = name;
+        machine.systemFacts.userName = name;
         CHECK(Set()[12] == "C:\\Dokumente und Einstellungen\\" + name + "\\Eigene Dateien");
     }
 }
 
 TEST_CASE_FIXTURE(DefaultPaths, "a name that the system does not tell leaves an empty folder") {
     SUBCASE("255 characters, for which the buffer has no room") {
-        machine.facts.userName = std::string(255, 'n');
+        machine.systemFacts.userName = std::string(255, 'n');
     }
     SUBCASE("no name") {
-        machine.facts.userName = "";
+        machine.systemFacts.userName = "";
     }
     SUBCASE("denied") {
         machine.faults.FailAll("GetUserNameA", 5);
@@ -128,7 +128,7 @@ TEST_CASE_FIXTURE(DefaultPaths, "the user's name is asked for anew by each of hi
                 "GetWindowsDirectoryA -> \"C:\\WINDOWS\""});
 
     Watcher watcher;
-    watcher.onCaption = [&] { machine.facts.userName = "Zweiter"; };
+    watcher.onCaption = [&] { machine.systemFacts.userName = "Zweiter"; };
     Path(10).SetCaption("");
     Path(10).SetView(&watcher);
     const Paths paths = Set();

@@ -116,7 +116,7 @@ TEST_CASE_FIXTURE(PathsPage, "the page Pfade fits its area and no two controls o
 }
 
 TEST_CASE_FIXTURE(PathsPage, "every caption of the page Pfade has room, the default paths too") {
-    tweaks::SetDefaultPaths(form, machine.facts);
+    tweaks::SetDefaultPaths(form, machine.systemFacts);
     const toolkit::Control& hint = *form.FindControl("lblHintSystemPaths");
     const toolkit::Rect room = AreaOf(form, hint.Name());
     CHECK(LinesOf(hint.Caption(), room.width) * WideText().SizeOf("x", false).height ==

@@ -175,9 +175,9 @@ TEST_CASE_FIXTURE(PathRows, "the default paths reach the system with the next wr
     PutMachine(FoldersKey, "Common Desktop", TextValue("C:\\Alt"));
     passes.Read();
     const auto before = machine.registry.Dump();
-    machine.facts.userName = "Max Müller";
-    machine.facts.windowsDirectory = "D:\\WINDOWS";
-    tweaks::SetDefaultPaths(form, machine.facts);
+    machine.systemFacts.userName = "Max Müller";
+    machine.systemFacts.windowsDirectory = "D:\\WINDOWS";
+    tweaks::SetDefaultPaths(form, machine.systemFacts);
     CHECK(machine.registry.Dump() == before);
     Write();
     CHECK(OfMachine(FoldersKey, "Common Desktop") ==

@@ -11,9 +11,9 @@ constexpr char BinParent[] =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace";
 
 struct Effects : Presets {
-    platform::OtherWindows::Handle taskbar = machine.windows.Open("Shell_TrayWnd");
+    platform::OtherWindows::Handle taskbar = machine.otherWindows.Open("Shell_TrayWnd");
 
-    int Opacity() { return machine.windows.At(taskbar).alpha; }
+    int Opacity() { return machine.otherWindows.At(taskbar).alpha; }
     bool BinIsThere() { return machine.registry.HasKey(Service::LocalMachine, BinKey); }
 
     // What is stored and started by a press, in order.

@@ -106,7 +106,7 @@ void CheckFrom(void (*prepare)(Presets&)) {
     for (const std::string& preset : GoldenPresets()) {
         CAPTURE(preset);
         Presets program;
-        program.machine.windows.Open("Shell_TrayWnd");
+        program.machine.otherWindows.Open("Shell_TrayWnd");
         prepare(program);
         Model model(program.States());
         model.Run(preset);

@@ -119,7 +119,7 @@ TEST_CASE_FIXTURE(ActingPage, "the UPnP box acts when it changes, without waitin
     REQUIRE(machine.processes.launched.size() == 1);
     CHECK(machine.processes.launched[0].commandLine ==
           "regsvr32.exe %windir%\\system32\\upnp.dll /u /s");
-    CHECK(machine.settings.Stored("SecureWindows", "Regged") == "true");
+    CHECK(machine.settingsStore.Stored("SecureWindows", "Regged") == "true");
 }
 
 TEST_CASE_FIXTURE(ActingPage, "the recycle bin's box acts when it changes") {

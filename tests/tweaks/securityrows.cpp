@@ -405,7 +405,7 @@ TEST_CASE_FIXTURE(Security, "no pass touches what the UPnP and the recycle bin's
     Set("chkSecureWindows", 1);
     Set("chk1RecycleBinDelete", 1);
     machine.registry.MakeKey(Service::LocalMachine, BinKey);
-    machine.settings.Put("SecureWindows", "Regged", "unberührt");
+    machine.settingsStore.Put("SecureWindows", "Regged", "unberührt");
     const auto launched = machine.processes.launched.size();
     // Another command is the last step of a write pass.
     Write();
@@ -413,7 +413,7 @@ TEST_CASE_FIXTURE(Security, "no pass touches what the UPnP and the recycle bin's
     CHECK(HasMachineKey(BinKey));
     CHECK(State("chkSecureWindows") == 1);
     CHECK(State("chk1RecycleBinDelete") == 1);
-    CHECK(machine.settings.Stored("SecureWindows", "Regged") == "unberührt");
+    CHECK(machine.settingsStore.Stored("SecureWindows", "Regged") == "unberührt");
     REQUIRE(machine.processes.launched.size() == launched + 1);
     CHECK(machine.processes.launched.back().commandLine.find("upnp") == std::string::npos);
 }

@@ -34,7 +34,7 @@ struct ClickEffects {
     }
 
     std::string Stored(const char* section, const char* key) {
-        return machine.settings.Stored(section, key).value_or("absent");
+        return machine.settingsStore.Stored(section, key).value_or("absent");
     }
     const Lines& Journal() { return machine.journal.Lines(); }
 };

@@ -120,7 +120,7 @@ TEST_CASE_FIXTURE(Windows, "a read-only file is replaced too") {
 }
 
 TEST_CASE_FIXTURE(Windows, "a Windows directory elsewhere is looked at there") {
-    machine.facts.windowsDirectory = "D:\\WINNT";
+    machine.systemFacts.windowsDirectory = "D:\\WINNT";
     machine.files.Put("D:\\WINNT\\inf\\Sysoc.inf", "hide\r\n");
     tweaks::RewriteSysocInf(machine.services, true);
     CHECK(machine.files.Content("D:\\WINNT\\inf\\Sysoc.inf") == "\r\n");
@@ -134,7 +134,7 @@ TEST_CASE_FIXTURE(Windows, "a missing file is failure 53 and is not made") {
 
 TEST_CASE_FIXTURE(Windows,
                   "a missing directory is failure 76, also where Windows does not tell it") {
-    machine.facts.windowsDirectory = "D:\\WINNT";
+    machine.systemFacts.windowsDirectory = "D:\\WINNT";
     CHECK(FailureNumber() == runtime::PathNotFound);
     machine.files.Put(Path, "hide");
     machine.faults.FailAll("GetWindowsDirectoryA", 5);

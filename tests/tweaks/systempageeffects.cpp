@@ -13,15 +13,15 @@ namespace {
 struct SystemPageEffects {
     platform::simulated::Machine machine;
     toolkit::Form form{machine.forms, "frmMain", "", {}};
-    platform::OtherWindows::Handle taskbar = machine.windows.Open("Shell_TrayWnd");
+    platform::OtherWindows::Handle taskbar = machine.otherWindows.Open("Shell_TrayWnd");
 
     SystemPageEffects() { form.SetLayout(tweaks::AddSystemPage(form, machine.services)); }
 
     toolkit::Slider& Level() { return form.Find<toolkit::Slider>("Level"); }
     toolkit::TextBox& Box() { return form.Find<toolkit::TextBox>("txtLevelValue"); }
-    int Alpha() { return machine.windows.At(taskbar).alpha; }
+    int Alpha() { return machine.otherWindows.At(taskbar).alpha; }
     std::string Luminance() {
-        return machine.settings.Stored("TaskBar", "Luminance").value_or("absent");
+        return machine.settingsStore.Stored("TaskBar", "Luminance").value_or("absent");
     }
 };
 
@@ -91,13 +91,13 @@ TEST_CASE_FIXTURE(SystemPageEffects, "the designed level given once more does no
 TEST_CASE_FIXTURE(SystemPageEffects, "the icons' box acts when its value changes, and only then") {
     auto& icons = form.Find<toolkit::CheckBox>("chkIcons");
     icons.SetValue(1);
-    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "1");
+    CHECK(machine.settingsStore.Stored("Desktop", "TransparentIcons") == "1");
     CHECK(machine.journal.Calls("FindWindowA").size() == 1);
     machine.journal.Clear();
     icons.SetValue(1);
     CHECK(machine.journal.Count() == 0);
     icons.SetValue(0);
-    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "0");
+    CHECK(machine.settingsStore.Stored("Desktop", "TransparentIcons") == "0");
 }
 
 TEST_CASE_FIXTURE(SystemPageEffects,

@@ -18,15 +18,16 @@ struct Shell {
 
     // The desktop with its icon list, which is returned.
     platform::OtherWindows::Handle OpenDesktop() {
-        const auto desktop = machine.windows.Open("Progman", "Program Manager");
-        return machine.windows.Open("SysListView32", "FolderView",
-                                    machine.windows.Open("SHELLDLL_DefView", "", desktop));
+        const auto desktop = machine.otherWindows.Open("Progman", "Program Manager");
+        return machine.otherWindows.Open(
+            "SysListView32", "FolderView",
+            machine.otherWindows.Open("SHELLDLL_DefView", "", desktop));
     }
     void SetLevel(int level) {
         tweaks::SetTaskbarOpacity(machine.services, static_cast<std::uint8_t>(level));
     }
     const platform::simulated::OtherWindows::Window& At(platform::OtherWindows::Handle window) {
-        return machine.windows.At(window);
+        return machine.otherWindows.At(window);
     }
 };
 
@@ -34,31 +35,31 @@ struct Shell {
 
 TEST_CASE_FIXTURE(Shell, "the icon list is found below the desktop and its view") {
     const auto list = OpenDesktop();
-    CHECK(tweaks::FindDesktopListView(machine.windows) == list);
+    CHECK(tweaks::FindDesktopListView(machine.otherWindows) == list);
     CHECK(lines == Lines{"FindWindowA \"Progman\" \"Program Manager\" -> #1",
                          "FindWindowExA #1 \"SHELLDLL_DefView\" -> #2",
                          "FindWindowExA #2 \"SysListView32\" -> #3"});
 }
 
 TEST_CASE_FIXTURE(Shell, "the search for the icon list ends at the first step that finds nothing") {
-    CHECK(tweaks::FindDesktopListView(machine.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(machine.otherWindows) == 0);
     CHECK(lines.size() == 1);
 
-    const auto desktop = machine.windows.Open("Progman", "Program Manager");
-    machine.windows.Open("SysListView32", "", desktop);
+    const auto desktop = machine.otherWindows.Open("Progman", "Program Manager");
+    machine.otherWindows.Open("SysListView32", "", desktop);
     machine.journal.Clear();
-    CHECK(tweaks::FindDesktopListView(machine.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(machine.otherWindows) == 0);
     CHECK(lines.size() == 2);
 
-    machine.windows.Open("SHELLDLL_DefView", "", desktop);
+    machine.otherWindows.Open("SHELLDLL_DefView", "", desktop);
     machine.journal.Clear();
-    CHECK(tweaks::FindDesktopListView(machine.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(machine.otherWindows) == 0);
     CHECK(lines.size() == 3);
 }
 
 TEST_CASE_FIXTURE(Shell, "a window of the desktop's class with another title is not the desktop") {
-    machine.windows.Open("Progman", "Programm-Manager");
-    CHECK(tweaks::FindDesktopListView(machine.windows) == 0);
+    machine.otherWindows.Open("Progman", "Programm-Manager");
+    CHECK(tweaks::FindDesktopListView(machine.otherWindows) == 0);
 }
 
 TEST_CASE_FIXTURE(Shell, "transparent icons lose their background and fill the screen anew") {
@@ -108,17 +109,17 @@ TEST_CASE_FIXTURE(Shell, "without a shell nothing is asked of the icons") {
 TEST_CASE_FIXTURE(Shell, "the choice of the icons is stored before it takes effect") {
     const auto list = OpenDesktop();
     tweaks::IconsChosen(machine.services, 1);
-    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "1");
+    CHECK(machine.settingsStore.Stored("Desktop", "TransparentIcons") == "1");
     CHECK(lines.front().starts_with("SaveSetting"));
     tweaks::IconsChosen(machine.services, 0);
-    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "0");
+    CHECK(machine.settingsStore.Stored("Desktop", "TransparentIcons") == "0");
     CHECK(At(list).textBackground == 1);
 }
 
 TEST_CASE_FIXTURE(Shell, "the grey state of the icons is stored like off and acts like on") {
     const auto list = OpenDesktop();
     tweaks::IconsChosen(machine.services, 2);
-    CHECK(machine.settings.Stored("Desktop", "TransparentIcons") == "0");
+    CHECK(machine.settingsStore.Stored("Desktop", "TransparentIcons") == "0");
     CHECK(At(list).textBackground == 0xFFFFFFFF);
 }
 
@@ -130,12 +131,12 @@ TEST_CASE_FIXTURE(Shell, "a choice of the icons that cannot be stored has no eff
 }
 
 TEST_CASE_FIXTURE(Shell, "the level is stored, then given to the taskbar and the other bar") {
-    const auto taskbar = machine.windows.Open("Shell_TrayWnd");
-    const auto bar = machine.windows.Open("BaseBar", "Adresse");
-    machine.windows.SetExtendedStyle(taskbar, 0x88);
+    const auto taskbar = machine.otherWindows.Open("Shell_TrayWnd");
+    const auto bar = machine.otherWindows.Open("BaseBar", "Adresse");
+    machine.otherWindows.SetExtendedStyle(taskbar, 0x88);
     machine.journal.Clear();
     SetLevel(100);
-    CHECK(machine.settings.Stored("TaskBar", "Luminance") == "100");
+    CHECK(machine.settingsStore.Stored("TaskBar", "Luminance") == "100");
     CHECK(At(taskbar).alpha == 100);
     CHECK(At(taskbar).extendedStyle == (0x88 | Layered));
     CHECK(At(bar).alpha == 100);
@@ -150,7 +151,7 @@ TEST_CASE_FIXTURE(Shell, "the level is stored, then given to the taskbar and the
 }
 
 TEST_CASE_FIXTURE(Shell, "level 255 is opaque and keeps the layered style") {
-    const auto taskbar = machine.windows.Open("Shell_TrayWnd");
+    const auto taskbar = machine.otherWindows.Open("Shell_TrayWnd");
     SetLevel(55);
     SetLevel(255);
     CHECK(At(taskbar).alpha == 255);
@@ -158,8 +159,8 @@ TEST_CASE_FIXTURE(Shell, "level 255 is opaque and keeps the layered style") {
 }
 
 TEST_CASE_FIXTURE(Shell, "of several bars only the topmost gets the level") {
-    const auto below = machine.windows.Open("BaseBar");
-    const auto above = machine.windows.Open("BaseBar");
+    const auto below = machine.otherWindows.Open("BaseBar");
+    const auto above = machine.otherWindows.Open("BaseBar");
     SetLevel(70);
     CHECK(At(above).alpha == 70);
     CHECK(At(below).alpha == 255);
@@ -168,31 +169,31 @@ TEST_CASE_FIXTURE(Shell, "of several bars only the topmost gets the level") {
 
 TEST_CASE_FIXTURE(Shell, "a bar that opens later stays as it is") {
     SetLevel(70);
-    const auto bar = machine.windows.Open("BaseBar");
+    const auto bar = machine.otherWindows.Open("BaseBar");
     CHECK(At(bar).alpha == 255);
 }
 
 TEST_CASE_FIXTURE(Shell, "the bar gets the level also where there is no taskbar") {
-    const auto bar = machine.windows.Open("BaseBar");
+    const auto bar = machine.otherWindows.Open("BaseBar");
     SetLevel(60);
     CHECK(At(bar).alpha == 60);
 }
 
 TEST_CASE_FIXTURE(Shell, "without a shell the level is stored all the same") {
     SetLevel(80);
-    CHECK(machine.settings.Stored("TaskBar", "Luminance") == "80");
+    CHECK(machine.settingsStore.Stored("TaskBar", "Luminance") == "80");
     CHECK(machine.journal.Calls("SetWindowLongA").empty());
 }
 
 TEST_CASE_FIXTURE(Shell, "a level that cannot be stored touches no window and fails") {
-    const auto taskbar = machine.windows.Open("Shell_TrayWnd");
+    const auto taskbar = machine.otherWindows.Open("Shell_TrayWnd");
     machine.faults.FailAll("SaveSetting", runtime::InvalidProcedureCall);
     CHECK_THROWS_AS(SetLevel(80), runtime::Failure);
     CHECK(At(taskbar).alpha == 255);
 }
 
 TEST_CASE_FIXTURE(Shell, "windows that refuse are left, and nothing is reported") {
-    const auto taskbar = machine.windows.Open("Shell_TrayWnd");
+    const auto taskbar = machine.otherWindows.Open("Shell_TrayWnd");
     const auto list = OpenDesktop();
     for (const char* call : {"GetWindowLongA", "SetWindowLongA", "SetLayeredWindowAttributes",
                              "SendMessageA", "SetWindowPos", "InvalidateRect"}) {

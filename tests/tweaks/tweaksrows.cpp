@@ -24,7 +24,7 @@ struct Tweaks : Options {
         return machine.registry.Value(Service::ClassesRoot, key, value);
     }
     std::string Regged() const {
-        return machine.settings.Stored("VideoPrv", "Regged").value_or("absent");
+        return machine.settingsStore.Stored("VideoPrv", "Regged").value_or("absent");
     }
     // How often a value was asked for: RegValuePresent asks once, RegReadValue twice.
     int Questions(const std::string& value) const {

@@ -20,6 +20,7 @@
 #include "platform/simulated/menus.h"
 #include "platform/simulated/messages.h"
 #include "platform/simulated/network.h"
+#include "platform/simulated/operatingsystem.h"
 #include "platform/simulated/otherwindows.h"
 #include "platform/simulated/processes.h"
 #include "platform/simulated/program.h"
@@ -28,8 +29,8 @@
 #include "platform/simulated/settingsstore.h"
 #include "platform/simulated/shell.h"
 #include "platform/simulated/socket.h"
-#include "platform/simulated/system.h"
 #include "platform/simulated/systemclock.h"
+#include "platform/simulated/systemfacts.h"
 #include "platform/simulated/systeminformation.h"
 #include "platform/simulated/tooltips.h"
 #include "platform/simulated/tray.h"
@@ -51,7 +52,7 @@ class Machine {
     Faults faults;
     Forms forms;
     Registry registry;
-    SettingsStore settings;
+    SettingsStore settingsStore;
     Disk disk;
     Files files;
     Folders folders;
@@ -59,12 +60,12 @@ class Machine {
     Shell shell;
     Session session;
     AutoStart autostart;
-    OperatingSystem system;
-    SystemFacts facts;
-    SystemInformation information;
+    OperatingSystem operatingSystem;
+    SystemFacts systemFacts;
+    SystemInformation systemInformation;
     Memory memory;
     InternetCache internetCache;
-    OtherWindows windows;
+    OtherWindows otherWindows;
     Display display;
     Keyboard keyboard;
     Clock clock;

@@ -46,18 +46,18 @@ class Machine {
 
   private:
     Registry registry_;
-    SettingsStore settings_;
+    SettingsStore settingsStore_;
     Files files_;
     Folders folders_;
     Processes processes_;
     Session session_;
     AutoStart autostart_;
-    OperatingSystem system_;
-    SystemFacts facts_;
-    SystemInformation information_;
+    OperatingSystem operatingSystem_;
+    SystemFacts systemFacts_;
+    SystemInformation systemInformation_;
     Memory memory_;
     InternetCache internetCache_;
-    OtherWindows windows_;
+    OtherWindows otherWindows_;
     Display display_;
     Keyboard keyboard_;
     Locale locale_;

@@ -179,13 +179,13 @@ TEST_CASE_FIXTURE(MainShell,
 TEST_CASE("a user's name of five letters has five characters and no NUL") {
     contract::TestMachine machine;
     const StandInFunction function(entryOfGetUserName, TellPaula);
-    CHECK(machine.Services().facts.UserName() == "Paula");
+    CHECK(machine.Services().systemFacts.UserName() == "Paula");
 }
 
 TEST_CASE("a Windows directory that is the root of a drive is told without its backslash") {
     contract::TestMachine machine;
     const StandInFunction function(entryOfGetWindowsDirectory, TellRoot);
-    CHECK(machine.Services().facts.WindowsDirectory() == "D:");
+    CHECK(machine.Services().systemFacts.WindowsDirectory() == "D:");
 }
 
 TEST_CASE("a tooltip window asks for the default place and size") {

@@ -21,7 +21,7 @@ const std::string Section = TitlePath + "\\Options";
 
 struct WindowsSettingsStoreFixture {
     contract::TestMachine machine;
-    platform::SettingsStore& store = machine.Services().settings;
+    platform::SettingsStore& store = machine.Services().settingsStore;
     Registry& registry = machine.Services().registry;
 
     void Put(std::uint32_t type, const std::string& bytes) {

@@ -21,14 +21,14 @@ TEST_CASE("the facts are those of the system itself") {
     contract::TestMachine machine;
     wchar_t path[MAX_PATH];
     GetWindowsDirectoryW(path, MAX_PATH);
-    CHECK(machine.Services().facts.WindowsDirectory() == platform::win32::FromWide(path));
+    CHECK(machine.Services().systemFacts.WindowsDirectory() == platform::win32::FromWide(path));
     GetSystemDirectoryW(path, MAX_PATH);
-    CHECK(machine.Services().facts.SystemDirectory() == platform::win32::FromWide(path));
+    CHECK(machine.Services().systemFacts.SystemDirectory() == platform::win32::FromWide(path));
     GetTempPathW(MAX_PATH, path);
-    CHECK(machine.Services().facts.TempPath() == platform::win32::FromWide(path));
+    CHECK(machine.Services().systemFacts.TempPath() == platform::win32::FromWide(path));
     DWORD length = MAX_PATH;
     GetUserNameW(path, &length);
-    CHECK(machine.Services().facts.UserName() == platform::win32::FromWide(path));
+    CHECK(machine.Services().systemFacts.UserName() == platform::win32::FromWide(path));
     MEMORYSTATUSEX status = {};
     status.dwLength = sizeof status;
     GlobalMemoryStatusEx(&status);
@@ -58,7 +58,7 @@ TEST_CASE("the drives' space is the system's, free to the user, in all and free"
     contract::TestMachine machine;
     ULARGE_INTEGER freeToUser, total, free;
     REQUIRE(GetDiskFreeSpaceExW(L"C:\\", &freeToUser, &total, &free));
-    const auto space = machine.Services().facts.Space("C:\\");
+    const auto space = machine.Services().systemFacts.Space("C:\\");
     CHECK(space.total == total.QuadPart);
     // Somebody else may be writing meanwhile.
     constexpr std::uint64_t tolerance = 1 << 30;
@@ -71,7 +71,7 @@ TEST_CASE("the drives' space is the system's, free to the user, in all and free"
 TEST_CASE("asking for a drive leaves the system's error boxes as they were") {
     contract::TestMachine machine;
     const UINT before = SetErrorMode(SEM_NOGPFAULTERRORBOX);
-    machine.Services().facts.Space("A:\\");
+    machine.Services().systemFacts.Space("A:\\");
     CHECK(SetErrorMode(before) == SEM_NOGPFAULTERRORBOX);
 }
 
@@ -82,7 +82,7 @@ TEST_CASE("a directory for temporary files longer than the buffer is not told") 
     std::wstring longPath = L"C:\\";
     longPath.append(253, L't');
     SetEnvironmentVariableW(L"TMP", longPath.c_str());
-    CHECK(machine.Services().facts.TempPath() == "");
+    CHECK(machine.Services().systemFacts.TempPath() == "");
     SetEnvironmentVariableW(L"TMP", before);
-    CHECK(machine.Services().facts.TempPath() != "");
+    CHECK(machine.Services().systemFacts.TempPath() != "");
 }

@@ -11,7 +11,7 @@ namespace {
 
 struct WindowsFacts {
     contract::TestMachine machine;
-    platform::SystemInformation& information = machine.Services().information;
+    platform::SystemInformation& information = machine.Services().systemInformation;
 };
 
 }  // namespace

@@ -54,7 +54,7 @@ TEST_CASE_FIXTURE(Shell, "the icon list is found, cleared, spread over the scree
     const auto desktop = machine.OpenWindow("Progman", "Program Manager");
     const auto view = machine.OpenWindow("SHELLDLL_DefView", "", desktop);
     const auto list = machine.OpenWindow("SysListView32", "FolderView", view);
-    CHECK(tweaks::FindDesktopListView(services.windows) == list);
+    CHECK(tweaks::FindDesktopListView(services.otherWindows) == list);
     tweaks::IconsChosen(services, 1);
     CHECK(machine.LookAt(list).textBackground == 0xFFFFFFFF);
     CHECK(machine.LookAt(list).visible);
@@ -65,8 +65,8 @@ TEST_CASE_FIXTURE(Shell, "the icon list is found, cleared, spread over the scree
 }
 
 TEST_CASE_FIXTURE(Shell, "without the desktop there is no icon list") {
-    CHECK(tweaks::FindDesktopListView(services.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(services.otherWindows) == 0);
     const auto desktop = machine.OpenWindow("Progman", "Programm-Manager");
     machine.OpenWindow("SHELLDLL_DefView", "", desktop);
-    CHECK(tweaks::FindDesktopListView(services.windows) == 0);
+    CHECK(tweaks::FindDesktopListView(services.otherWindows) == 0);
 }

@@ -4,26 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "platform/operatingsystem.h"
 #include "platform/systemfacts.h"
 
 namespace platform::simulated {
 
 class Faults;
 class Journal;
-
-class OperatingSystem final : public platform::OperatingSystem {
-  public:
-    OperatingSystem(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
-
-    OperatingSystemFacts Facts() const override;
-
-    OperatingSystemFacts facts{"Microsoft Windows XP", 5, 1, 2600};
-
-  private:
-    Journal& journal_;
-    Faults& faults_;
-};
 
 class SystemFacts final : public platform::SystemFacts {
   public:

@@ -1,4 +1,4 @@
-#include "platform/simulated/system.h"
+#include "platform/simulated/systemfacts.h"
 
 #include "platform/simulated/faults.h"
 #include "platform/simulated/locale.h"
@@ -21,16 +21,6 @@ std::string ToldText(Journal& journal, Faults& faults, const char* call, const s
 }
 
 }  // namespace
-
-OperatingSystemFacts OperatingSystem::Facts() const {
-    auto line = journal_.Note([] { return std::string("GetVersionExA"); });
-    PassOrThrow(journal_, faults_, line, "GetVersionExA", "");
-    journal_.Finish(line, [&] {
-        return std::to_string(facts.major) + "." + std::to_string(facts.minor) + "." +
-               std::to_string(facts.build);
-    });
-    return facts;
-}
 
 std::string SystemFacts::WindowsDirectory() const {
     return ToldText(journal_, faults_, "GetWindowsDirectoryA", windowsDirectory);
