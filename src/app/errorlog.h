@@ -30,7 +30,7 @@ class ErrorLog {
     void WriteRecord(int number, std::string_view description, std::string_view source,
                      std::string_view procedure) const;
 
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     const std::string& version_;
 };
 

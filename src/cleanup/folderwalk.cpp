@@ -11,7 +11,6 @@
 #include "platform/display.h"
 #include "platform/keyboard.h"
 #include "platform/locale.h"
-#include "platform/machine.h"
 #include "platform/shell.h"
 #include "runtime/failure.h"
 #include "runtime/number.h"

@@ -7,11 +7,11 @@
 
 #include "cleanup/folderrules.h"
 #include "platform/clock.h"
+#include "platform/machine.h"
 
 namespace platform {
 struct FolderEntry;
-struct Machine;
-}  // namespace platform
+}
 
 namespace cleanup {
 
@@ -54,7 +54,7 @@ class FolderWalk {
     void ScanFile(const std::string& path, const platform::FolderEntry& file, bool addAll);
 
     TempFilesFrame& frame_;
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     KnownLinks& links_;
     std::optional<FolderRules> rules_;
     std::int32_t scannedFiles_ = 0;

@@ -11,7 +11,6 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
-#include "platform/machine.h"
 #include "platform/messages.h"
 #include "runtime/failure.h"
 #include "system/filelock.h"
@@ -70,7 +69,7 @@ class Removal {
     void MoveToBin(const std::string& path) const;
 
     TempFilesFrame& frame_;
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     const std::vector<TickedRow> rows_;
     const KnownLinks links_;
     const bool emptiesBin_;

@@ -1,8 +1,6 @@
 #pragma once
 
-namespace platform {
-struct Machine;
-}
+#include "platform/machine.h"
 
 namespace cleanup {
 
@@ -24,7 +22,7 @@ class TempFileRemoval {
     bool Confirmed() const;
 
     TempFilesFrame& frame_;
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     const KnownLinks& links_;
 };
 

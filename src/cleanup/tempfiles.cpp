@@ -2,7 +2,6 @@
 
 #include "cleanup/drivespacelabels.h"
 #include "cleanup/recyclebin.h"
-#include "platform/machine.h"
 #include "runtime/text.h"
 #include "system/driveentries.h"
 #include "system/systemdirectorypaths.h"

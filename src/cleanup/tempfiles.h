@@ -4,6 +4,7 @@
 #include "cleanup/tempfileremoval.h"
 #include "cleanup/tempfilesearch.h"
 #include "cleanup/tempfilesframe.h"
+#include "platform/machine.h"
 
 namespace cleanup {
 
@@ -24,7 +25,7 @@ class TempFiles {
     void ShowDriveSpace();
 
   private:
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     TempFilesFrame frame_;
     KnownLinks links_;
     TempFileSearch search_;

@@ -8,7 +8,6 @@
 #include "cleanup/knownlinks.h"
 #include "cleanup/tempfilesframe.h"
 #include "platform/locale.h"
-#include "platform/machine.h"
 #include "platform/messages.h"
 #include "platform/shell.h"
 #include "platform/systeminformation.h"

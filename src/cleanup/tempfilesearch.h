@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cleanup/folderwalk.h"
+#include "platform/machine.h"
 
 namespace cleanup {
 
@@ -29,7 +30,7 @@ class TempFileSearch {
     void ShowResult(std::int32_t total);
 
     TempFilesFrame& frame_;
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     KnownLinks& links_;
     FolderWalk walk_;
 };

@@ -1,6 +1,5 @@
 #include "cleanup/tempfilesframe.h"
 
-#include "platform/machine.h"
 #include "platform/menus.h"
 #include "toolkit/form.h"
 #include "toolkit/listhelpers.h"

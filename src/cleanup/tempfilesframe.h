@@ -4,15 +4,12 @@
 #include <string_view>
 
 #include "controls/chameleonbutton.h"
+#include "platform/machine.h"
 #include "toolkit/controls.h"
 #include "toolkit/drivelistbox.h"
 #include "toolkit/layout.h"
 #include "toolkit/listview.h"
 #include "toolkit/popupmenu.h"
-
-namespace platform {
-struct Machine;
-}
 
 namespace cleanup {
 
@@ -67,7 +64,7 @@ class TempFilesFrame {
   private:
     void OpenMenu();
 
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     // Not reset by a search.
     bool sortDescending_ = false;
 };

@@ -37,7 +37,9 @@ class ToolTips;
 class Tray;
 class Workstation;
 
-// Everything the program asks of Windows, handed to it through constructors.
+// Everything the program asks of Windows, handed to it through constructors. It is only references:
+// handed on it is a `const Machine&`, and whoever keeps it keeps a copy, which may outlive it; the
+// services outlive both.
 struct Machine {
     toolkit::FormHost& forms;
     Registry& registry;

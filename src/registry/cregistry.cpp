@@ -1,7 +1,6 @@
 #include "registry/cregistry.h"
 
 #include "platform/locale.h"
-#include "platform/machine.h"
 #include "platform/program.h"
 #include "platform/systemfacts.h"
 #include "registry/littleendian.h"

@@ -6,11 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "platform/machine.h"
 #include "platform/registry.h"
-
-namespace platform {
-struct Machine;
-}
 
 namespace registry {
 
@@ -95,7 +92,7 @@ class cRegistry {
     void WriteClassText(const std::string& key, std::string_view text);
     std::string ExpandEnvStr(std::string_view text) const;
 
-    const platform::Machine& machine_;
+    platform::Machine machine_;
 };
 
 // What the data are as a text: numbers in decimal; "" for bytes and for nothing.

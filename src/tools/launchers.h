@@ -50,7 +50,7 @@ class Launchers {
     void OpenIn(std::string_view folder, std::string_view filename,
                 std::string_view parameter) const;
 
-    const platform::Machine& machine_;
+    platform::Machine machine_;
     Report report_;
 };
 
