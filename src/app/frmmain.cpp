@@ -15,6 +15,7 @@
 #include "platform/tray.h"
 #include "runtime/failure.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 #include "tools/helpfile.h"
 #include "tools/launcherlabels.h"
 #include "tweaks/autotuning.h"
@@ -25,8 +26,6 @@
 
 namespace app {
 namespace {
-
-constexpr int KeyF4 = 0x73;
 
 // The designed place: in the middle of the screen.
 toolkit::Bounds DesignedPlace(const toolkit::FormHost& host) {
@@ -111,7 +110,7 @@ void frmMain::OnResize() {
 }
 
 bool frmMain::OnKeyDown(int virtualKey) {
-    if (virtualKey != KeyF4) return false;
+    if (virtualKey != toolkit::key::F4) return false;
     Unload();
     return true;
 }

@@ -15,6 +15,7 @@
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "toolkit/form.h"
+#include "toolkit/keys.h"
 
 namespace cleanup {
 
@@ -37,7 +38,7 @@ void FolderWalk::Begin() {
 }
 
 bool FolderWalk::PollForStop() {
-    const bool wanted = machine_.keyboard.AsyncState(platform::Keyboard::Escape) != 0 || stopped_;
+    const bool wanted = machine_.keyboard.AsyncState(toolkit::key::Escape) != 0 || stopped_;
     if (wanted) frame_.cmdSearchTempFiles.SetEnabled(true);
     return wanted;
 }

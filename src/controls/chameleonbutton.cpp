@@ -6,6 +6,7 @@
 #include "controls/propertystore.h"
 #include "runtime/failure.h"
 #include "runtime/temporarily.h"
+#include "toolkit/keys.h"
 
 namespace controls {
 
@@ -14,12 +15,6 @@ using toolkit::MouseButton;
 namespace {
 
 constexpr int OverTimerInterval = 3;
-
-constexpr int SpaceKey = 32;
-constexpr int LeftKey = 37;
-constexpr int UpKey = 38;
-constexpr int RightKey = 39;
-constexpr int DownKey = 40;
 
 template <typename Handler, typename... Facts>
 void Raise(const Handler& handler, const Facts&... facts) {
@@ -195,15 +190,15 @@ void chameleonButton::DoubleClick(toolkit::Mouse mouse) {
 void chameleonButton::KeyDown(toolkit::Key key) {
     Raise(onKeyDown, key);
     switch (key.code) {
-        case SpaceKey:
+        case toolkit::key::Space:
             Redraw(ButtonState::Pressed);
             break;
-        case LeftKey:
-        case UpKey:
+        case toolkit::key::Left:
+        case toolkit::key::Up:
             MoveFocus(false);
             break;
-        case RightKey:
-        case DownKey:
+        case toolkit::key::Right:
+        case toolkit::key::Down:
             MoveFocus(true);
             break;
         default:
@@ -217,7 +212,7 @@ void chameleonButton::KeyPress(char16_t character) {
 
 void chameleonButton::KeyUp(toolkit::Key key) {
     Raise(onKeyUp, key);
-    if (key.code == SpaceKey) Click();
+    if (key.code == toolkit::key::Space) Click();
 }
 
 // Without the focus the space key's release goes elsewhere, so the button comes up by itself.

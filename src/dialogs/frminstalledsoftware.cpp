@@ -164,9 +164,9 @@ void frmInstalledSoftware::Uninstall(const std::vector<std::string>& commands) {
 
 // All that are selected start at once, and only the last one is watched.
 void frmInstalledSoftware::StartUninstallers(const std::vector<std::string>& commands) {
-    constexpr int NormalWindow = 1;
     for (const std::string& command : commands) {
-        processId_ = static_cast<std::int32_t>(machine_.processes.Start(command, NormalWindow));
+        processId_ = static_cast<std::int32_t>(
+            machine_.processes.Start(command, platform::Processes::NormalWindow));
     }
     if (!commands.empty()) EnableTimer(true);
 }

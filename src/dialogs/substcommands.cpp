@@ -16,8 +16,7 @@ std::string AddBackslash(std::string_view text) {
 }
 
 std::int32_t RunHidden(platform::Processes& processes, const std::string& command) {
-    constexpr int HiddenWindow = 0;
-    return static_cast<std::int32_t>(processes.Start(command, HiddenWindow));
+    return static_cast<std::int32_t>(processes.Start(command, platform::Processes::HiddenWindow));
 }
 
 void RunKeyWrite(const platform::Machine& machine, Registry::Key root, std::string_view key,

@@ -28,10 +28,9 @@ std::string Line(const char* name, const Text& value) {
 // The data of a value below the key of the first processor, if it has that type. The key is opened
 // for reading only: nobody may write there.
 Text ProcessorData(platform::Registry& registry, std::string_view name, std::uint32_t type) {
-    constexpr std::uint32_t MayQueryValue = 0x01;
     using platform::Registry;
     Registry::Key key = 0;
-    if (registry.Open(Registry::LocalMachine, ProcessorKey, MayQueryValue, key) !=
+    if (registry.Open(Registry::LocalMachine, ProcessorKey, Registry::MayQueryValue, key) !=
         Registry::Success) {
         return std::nullopt;
     }

@@ -7,8 +7,6 @@ namespace platform {
 // The keyboard beside the messages that windows get from it.
 class Keyboard {
   public:
-    static constexpr int Escape = 27;
-
     virtual ~Keyboard() = default;
 
     // GetAsyncKeyState: negative while the key is down; odd when it has been pressed since it was

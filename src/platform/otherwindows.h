@@ -15,6 +15,20 @@ class OtherWindows {
     // 0 is no window.
     using Handle = std::uintptr_t;
 
+    // Of the extended style.
+    static constexpr std::uint32_t Layered = 0x80000;
+    // Of SetLayeredAttributes.
+    static constexpr std::uint32_t UseAlpha = 2;
+    // A message to a list view, and the colour that is none.
+    static constexpr std::uint32_t SetTextBackground = 0x1026;
+    static constexpr std::uint32_t NoColour = 0xFFFFFFFF;
+    // Of SetPosition.
+    static constexpr Handle Bottom = 1;
+    static constexpr std::uint32_t KeepSize = 0x01;
+    static constexpr std::uint32_t KeepPlace = 0x02;
+    static constexpr std::uint32_t ShowIt = 0x40;
+    static constexpr std::uint32_t HideIt = 0x80;
+
     virtual ~OtherWindows() = default;
 
     // FindWindowA: the topmost window of that class, visible or not, and of that title unless it
@@ -37,8 +51,8 @@ class OtherWindows {
     virtual std::int32_t Send(Handle window, std::uint32_t message, std::uint32_t wParam,
                               std::uint32_t lParam) = 0;
 
-    // SetWindowPos. `after` is a window or one of the platform's numbers for bottom and top; the
-    // place is in pixels of the parent.
+    // SetWindowPos. `after` is a window, or Bottom, or 0 for the top; the place is in pixels of the
+    // parent.
     virtual void SetPosition(Handle window, Handle after, const toolkit::Rect& place,
                              std::uint32_t flags) = 0;
 

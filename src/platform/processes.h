@@ -16,6 +16,10 @@ class Processes {
     // All that XP lets one do with a process.
     static constexpr std::uint32_t AllAccess = 0x1F0FFF;
 
+    // The ways to show a process's first window.
+    static constexpr std::int32_t HiddenWindow = 0;
+    static constexpr std::int32_t NormalWindow = 1;
+
     // The record that goes into CreateProcessA, as far as the program fills it; the rest is zero.
     struct StartupInfo {
         std::uint32_t cb = 0;
@@ -31,8 +35,8 @@ class Processes {
                           const StartupInfo& startup) = 0;
 
     // Starts a process by command line and does not wait: CreateProcessA with nothing inherited and
-    // the window style (0 hidden, 1 normal, ...) in the startup record; all handles are closed.
-    // Returns the process's id, which stands for it as long as it runs.
+    // the window style in the startup record; all handles are closed. Returns the process's id,
+    // which stands for it as long as it runs.
     // Throws Failure FileNotFound, PathNotFound, PermissionDenied, or InvalidProcedureCall for
     // everything else, such as a file that is no program.
     virtual std::uint32_t Start(std::string_view commandLine, std::int32_t windowStyle) = 0;

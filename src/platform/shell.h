@@ -15,6 +15,13 @@ namespace platform {
 // The folder dialog while it is open.
 class FolderDialog {
   public:
+    // Messages to the dialog.
+    static constexpr std::uint32_t SetStatusText = 0x464;
+    static constexpr std::uint32_t SetSelection = 0x466;
+    // Messages of the dialog.
+    static constexpr std::uint32_t Initialised = 1;
+    static constexpr std::uint32_t SelectionChanged = 2;
+
     virtual ~FolderDialog() = default;
 
     // SendMessageA with the text as its last argument.
@@ -29,12 +36,19 @@ class FolderDialog {
 // no window before there is one.
 class Shell {
   public:
-    // Gets the dialog's own messages: 1 when it has been initialised, 2 when the selection changed.
+    // Gets the dialog's own messages.
     using FolderCallback = std::function<void(FolderDialog& dialog, std::uint32_t message)>;
+
+    // What OperateOnFiles can do, and how.
+    static constexpr std::uint32_t DeleteFiles = 3;
+    static constexpr std::uint16_t NoProgress = 0x04;
+    static constexpr std::uint16_t NoConfirmation = 0x10;
+    static constexpr std::uint16_t AllowUndo = 0x40;
 
     virtual ~Shell() = default;
 
-    // ShellExecuteA. Its answer is not looked at, so a file that is not there is passed over.
+    // ShellExecuteA; `show` is a window style of Processes. Its answer is not looked at, so a file
+    // that is not there is passed over.
     virtual void Execute(std::string_view verb, std::string_view file, std::string_view parameters,
                          std::string_view directory, std::int32_t show) = 0;
 

@@ -8,12 +8,7 @@ namespace sys {
 
 namespace {
 
-// What the dialog reports.
-constexpr std::uint32_t Initialised = 1;
-constexpr std::uint32_t SelectionChanged = 2;
-// What the dialog is told.
-constexpr std::uint32_t SetStatusText = 0x464;
-constexpr std::uint32_t SetSelection = 0x466;
+using platform::FolderDialog;
 
 // Folders of the file system only, none below a domain, with a line for the status.
 constexpr std::uint32_t Flags = 1 | 2 | 4;
@@ -23,15 +18,16 @@ constexpr std::uint32_t Flags = 1 | 2 | 4;
 std::string BrowseForFolderPath(platform::Shell& shell, const toolkit::Form& owner,
                                 std::string_view title, std::string_view start) {
     const std::string preselected(start);
-    return shell.BrowseForFolder(owner, title, Flags,
-                                 [&](platform::FolderDialog& dialog, std::uint32_t message) {
-                                     if (message == Initialised)
-                                         dialog.Send(SetSelection, preselected);
-                                     if (message == SelectionChanged) {
-                                         const auto path = dialog.SelectedPath();
-                                         if (path) dialog.Send(SetStatusText, *path);
-                                     }
-                                 });
+    const auto answer = [&](FolderDialog& dialog, std::uint32_t message) {
+        if (message == FolderDialog::Initialised) {
+            dialog.Send(FolderDialog::SetSelection, preselected);
+        }
+        if (message == FolderDialog::SelectionChanged) {
+            const auto path = dialog.SelectedPath();
+            if (path) dialog.Send(FolderDialog::SetStatusText, *path);
+        }
+    };
+    return shell.BrowseForFolder(owner, title, Flags, answer);
 }
 
 }  // namespace sys

@@ -11,9 +11,6 @@
 namespace tools {
 namespace {
 
-// The starting process has no window worth seeing; the browser opens its own.
-constexpr int HiddenWindow = 0;
-
 // The program's directory is absolute already, so that only the slash is left to turn.
 std::string PathOfHelp(const platform::Machine& machine) {
     std::string path = machine.program.Directory() + "/Anleitung.mht";
@@ -25,8 +22,9 @@ std::string PathOfHelp(const platform::Machine& machine) {
 
 void ShowHelp(const platform::Machine& machine) {
     try {
+        // The starting process has no window worth seeing; the browser opens its own.
         machine.processes.Start("rundll32.exe url.dll,FileProtocolHandler " + PathOfHelp(machine),
-                                HiddenWindow);
+                                platform::Processes::HiddenWindow);
     } catch (const runtime::Failure& failure) {
         machine.messages.Show("Die Hilfe kann nicht aufgerufen werden: " + failure.description,
                               platform::message::Critical, "Quillmore Hilfe");

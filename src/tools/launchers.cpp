@@ -10,9 +10,7 @@ namespace tools {
 namespace {
 
 namespace message = platform::message;
-
-// The way a window is to be shown.
-constexpr int NormalWindow = 1;
+using platform::Processes;
 
 // What the shell's property sheet is to show; 2 is the system.
 constexpr int SystemObject = 2;
@@ -58,13 +56,13 @@ std::string Launchers::WindowsDirectory() const {
 }
 
 void Launchers::Start(std::string_view filename) const {
-    machine_.processes.Start(WindowsDirectory() + std::string(filename), NormalWindow);
+    machine_.processes.Start(WindowsDirectory() + std::string(filename), Processes::NormalWindow);
 }
 
 void Launchers::OpenIn(std::string_view folder, std::string_view filename,
                        std::string_view parameter) const {
     machine_.shell.Execute("Open", filename, parameter, WindowsDirectory() + std::string(folder),
-                           NormalWindow);
+                           Processes::NormalWindow);
 }
 
 }  // namespace tools

@@ -7,10 +7,9 @@
 namespace tweaks {
 
 void RegisterLibrary(platform::Processes& processes, std::string_view library, bool registered) {
-    constexpr std::int32_t HiddenWindow = 0;
     processes.Start("regsvr32.exe %windir%\\system32\\" + std::string(library) +
                         (registered ? " /s" : " /u /s"),
-                    HiddenWindow);
+                    platform::Processes::HiddenWindow);
 }
 
 }  // namespace tweaks

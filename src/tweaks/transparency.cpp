@@ -10,23 +10,14 @@ namespace {
 
 using platform::OtherWindows;
 
-// The platform's numbers, from its documentation.
-constexpr std::uint32_t WS_EX_LAYERED = 0x80000;
-constexpr std::uint32_t LWA_ALPHA = 2;
-constexpr std::uint32_t LVM_SETTEXTBKCOLOR = 0x1026;
-constexpr std::uint32_t CLR_NONE = 0xFFFFFFFF;
-constexpr OtherWindows::Handle HWND_BOTTOM = 1;
-constexpr std::uint32_t SWP_HIDEWINDOW = 0x80;
-constexpr std::uint32_t SWP_SHOWWINDOW = 0x40;
-
 // Not the system's desktop colour, but the number 1, a nearly black red.
 constexpr std::uint32_t NearlyBlack = 1;
 
 void SetOpacity(OtherWindows& windows, const char* className, std::uint8_t level) {
     const OtherWindows::Handle window = windows.Find(className, nullptr);
     if (window == 0) return;
-    windows.SetExtendedStyle(window, windows.ExtendedStyle(window) | WS_EX_LAYERED);
-    windows.SetLayeredAttributes(window, 0, level, LWA_ALPHA);
+    windows.SetExtendedStyle(window, windows.ExtendedStyle(window) | OtherWindows::Layered);
+    windows.SetLayeredAttributes(window, 0, level, OtherWindows::UseAlpha);
 }
 
 }  // namespace
@@ -44,13 +35,13 @@ void SetIconsTransparent(const platform::Machine& machine, std::int16_t on) {
     const OtherWindows::Handle list = FindDesktopListView(windows);
     if (list == 0) return;
     if (on != 0) {
-        windows.Send(list, LVM_SETTEXTBKCOLOR, 0, CLR_NONE);
+        windows.Send(list, OtherWindows::SetTextBackground, 0, OtherWindows::NoColour);
         // Hiding and showing draws the icons anew; the list comes back as large as the screen.
-        windows.SetPosition(list, HWND_BOTTOM, {}, SWP_HIDEWINDOW);
+        windows.SetPosition(list, OtherWindows::Bottom, {}, OtherWindows::HideIt);
         const toolkit::Size screen = machine.display.Size();
-        windows.SetPosition(list, 0, {0, 0, screen.width, screen.height}, SWP_SHOWWINDOW);
+        windows.SetPosition(list, 0, {0, 0, screen.width, screen.height}, OtherWindows::ShowIt);
     } else {
-        windows.Send(list, LVM_SETTEXTBKCOLOR, 0, NearlyBlack);
+        windows.Send(list, OtherWindows::SetTextBackground, 0, NearlyBlack);
         windows.Redraw(list);
     }
 }

@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "app/program.h"
+#include "toolkit/keys.h"
 
 using namespace app_test;
 using toolkit::WindowState;
@@ -120,7 +121,7 @@ TEST_CASE("the closing button, F4 and the close box all close the program") {
 
     Program key;
     REQUIRE(key.Start());
-    CHECK(key.Ends([&] { key.form->KeyPressed(0x73); }));
+    CHECK(key.Ends([&] { key.form->KeyPressed(toolkit::key::F4); }));
 
     Program box;
     REQUIRE(box.Start());
@@ -131,7 +132,7 @@ TEST_CASE("other keys than F4 pass") {
     Program program;
     REQUIRE(program.Start());
     for (int key = 0; key < 256; ++key) {
-        if (key != 0x73) CHECK_FALSE(program.form->KeyPressed(key));
+        if (key != toolkit::key::F4) CHECK_FALSE(program.form->KeyPressed(key));
     }
     CHECK_FALSE(program.machine.program.ended);
 }

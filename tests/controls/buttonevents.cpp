@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 
 #include "controls/watchedbutton.h"
+#include "toolkit/keys.h"
 
 using controls::ButtonState;
 using controls_test::WatchedButton;
@@ -95,9 +96,9 @@ TEST_CASE("a middle press during a left one takes the click away") {
 
 TEST_CASE("the keys' events come first, then what the button does, then the click") {
     ListeningButton test;
-    test.button.KeyDown({32, toolkit::ShiftKey});
+    test.button.KeyDown({toolkit::key::Space, toolkit::ShiftKey});
     test.button.KeyPress(u' ');
-    test.button.KeyUp(32);
+    test.button.KeyUp(toolkit::key::Space);
     CHECK(test.events ==
           Events{"KeyDown 32 1 in state 0", "KeyPress 32", "KeyUp 32 0 in state 2", "Click"});
 }

@@ -1,27 +1,18 @@
 #include <doctest/doctest.h>
 
 #include "controls/watchedbutton.h"
+#include "toolkit/keys.h"
 
 using controls::ButtonState;
 using controls_test::WatchedButton;
 using Events = std::vector<std::string>;
 
-namespace {
-
-constexpr int SpaceKey = 32;
-constexpr int LeftKey = 37;
-constexpr int UpKey = 38;
-constexpr int RightKey = 39;
-constexpr int DownKey = 40;
-
-}  // namespace
-
 TEST_CASE("the space key presses when it goes down and clicks when it comes up") {
     WatchedButton test;
-    test.button.KeyDown(SpaceKey);
+    test.button.KeyDown(toolkit::key::Space);
     CHECK(test.button.State() == ButtonState::Pressed);
     CHECK(test.events.empty());
-    test.button.KeyUp(SpaceKey);
+    test.button.KeyUp(toolkit::key::Space);
     CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events == Events{"Click"});
 }
@@ -29,28 +20,29 @@ TEST_CASE("the space key presses when it goes down and clicks when it comes up")
 TEST_CASE("the space key under the mouse leaves the hovered picture") {
     WatchedButton test;
     test.MouseEnters();
-    test.button.KeyDown(SpaceKey);
-    test.button.KeyUp(SpaceKey);
+    test.button.KeyDown(toolkit::key::Space);
+    test.button.KeyUp(toolkit::key::Space);
     CHECK(test.button.State() == ButtonState::Hovered);
 }
 
 TEST_CASE("a space key that repeats is drawn once and clicks once") {
     WatchedButton test;
-    test.button.KeyDown(SpaceKey);
+    test.button.KeyDown(toolkit::key::Space);
     const int repaints = test.view.repaints;
-    test.button.KeyDown(SpaceKey);
-    test.button.KeyDown(SpaceKey);
+    test.button.KeyDown(toolkit::key::Space);
+    test.button.KeyDown(toolkit::key::Space);
     CHECK(test.view.repaints == repaints);
-    test.button.KeyUp(SpaceKey);
+    test.button.KeyUp(toolkit::key::Space);
     CHECK(test.events == Events{"Click"});
 }
 
 TEST_CASE("the arrow keys walk through the form's controls and do nothing else") {
     WatchedButton test;
     test.button.SetCheckBoxBehaviour(true);
-    for (const int key : {LeftKey, UpKey, RightKey, DownKey}) {
-        test.button.KeyDown(key);
-        test.button.KeyUp(key);
+    for (const int pressed :
+         {toolkit::key::Left, toolkit::key::Up, toolkit::key::Right, toolkit::key::Down}) {
+        test.button.KeyDown(pressed);
+        test.button.KeyUp(pressed);
     }
     CHECK(test.view.focusMoves == Events{"previous", "previous", "next", "next"});
     CHECK_FALSE(test.button.Value());
@@ -61,23 +53,23 @@ TEST_CASE("the arrow keys walk through the form's controls and do nothing else")
 TEST_CASE("an arrow key on a button without a window is passed over") {
     WatchedButton test;
     test.button.SetView(nullptr);
-    CHECK_NOTHROW(test.button.KeyDown(RightKey));
+    CHECK_NOTHROW(test.button.KeyDown(toolkit::key::Right));
 }
 
 TEST_CASE("the space key flips Value with CheckBoxBehaviour only") {
     WatchedButton test;
-    test.button.KeyUp(SpaceKey);
+    test.button.KeyUp(toolkit::key::Space);
     CHECK_FALSE(test.button.Value());
     test.button.SetCheckBoxBehaviour(true);
-    test.button.KeyUp(SpaceKey);
+    test.button.KeyUp(toolkit::key::Space);
     CHECK(test.button.Value());
 }
 
 TEST_CASE("any other key does nothing") {
     WatchedButton test;
-    for (const int key : {9, 13, 27, 31, 33, 36, 41, 65}) {
-        test.button.KeyDown(key);
-        test.button.KeyUp(key);
+    for (const int pressed : {9, 13, 27, 31, 33, 36, 41, 65}) {
+        test.button.KeyDown(pressed);
+        test.button.KeyUp(pressed);
     }
     CHECK(test.events.empty());
     CHECK(test.view.focusMoves.empty());
@@ -95,7 +87,7 @@ TEST_CASE("getting and losing the focus each draw the button anew") {
 TEST_CASE("a button held down by the space key comes up when it loses the focus") {
     WatchedButton test;
     test.button.FocusChanged(true);
-    test.button.KeyDown(SpaceKey);
+    test.button.KeyDown(toolkit::key::Space);
     test.button.FocusChanged(false);
     CHECK(test.button.State() == ButtonState::Normal);
     CHECK(test.events.empty());

@@ -6,7 +6,6 @@
 
 #include "controls/chameleonbutton.h"
 #include "dialogs/frmvirtualdrive.h"
-#include "dialogs/keys.h"
 #include "platform/simulated/machine.h"
 #include "toolkit/combobox.h"
 #include "toolkit/controls.h"
@@ -25,7 +24,6 @@ inline constexpr char List[] = "command.com /csubst > tmpout.txt";
 inline constexpr char Impossible[] = "Virtuelles Laufwerk kann nich erstellt werden";
 inline constexpr char DeleteQuestion[] = "Virtuelles Laufwerk löschen";
 inline constexpr char RunKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
-inline constexpr int KeyEscape = 27;
 
 // A machine on which `subst` works: the drives that it has made are there and told.
 struct Drives {

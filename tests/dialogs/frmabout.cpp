@@ -7,13 +7,12 @@
 #include "runtime/failure.h"
 #include "support/failureof.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 
 namespace {
 
 using Lines = std::vector<std::string>;
 using platform::simulated::ShownMessage;
-
-constexpr int Escape = 0x1B;
 
 struct About {
     platform::simulated::Machine machine;
@@ -124,7 +123,7 @@ TEST_CASE_FIXTURE(About, "Escape closes the dialog at once") {
         cmdOK.Press();
         Tick(50);
     }
-    CHECK(form.KeyPressed(Escape));
+    CHECK(form.KeyPressed(toolkit::key::Escape));
     CHECK_FALSE(form.Loaded());
     CHECK_FALSE(form.Visible());
     CHECK_FALSE(cmdOK.Enabled());
@@ -141,7 +140,7 @@ TEST_CASE_FIXTURE(About, "where the system has no timer left, OK and Escape clos
         cmdOK.Press();
     }
     SUBCASE("Escape") {
-        CHECK(form.KeyPressed(Escape));
+        CHECK(form.KeyPressed(toolkit::key::Escape));
     }
     CHECK_FALSE(form.Loaded());
 }

@@ -6,6 +6,7 @@
 
 #include "dialogs/software.h"
 #include "runtime/failure.h"
+#include "toolkit/keys.h"
 
 using namespace dialogs_test;
 
@@ -191,7 +192,7 @@ TEST_CASE_FIXTURE(Software, "the search for invalid entries empties the list, F5
     Press("cmdFindInvalidLinks");
     CHECK(list.Count() == 0);
     CHECK(Found() == "Gefunden: 0 Anwendungen");
-    CHECK(form.KeyPressed(KeyF5));
+    CHECK(form.KeyPressed(toolkit::key::F5));
     CHECK(Names() == Lines{"Alpha", "Beta", "Gamma"});
     CHECK(Found() == "Gefunden: 3 Anwendungen");
     Press("cmdFindInvalidLinks");
@@ -445,7 +446,7 @@ TEST_CASE_FIXTURE(Software, "entries are deleted after a question, and the row a
                           "Sollen die Einträge wirklich aus der Softwareliste gelöscht werden?",
                           36});
     machine.messages.Answer("Gamma löschen", 6);
-    list.PressKey(KeyDelete);
+    list.PressKey(toolkit::key::Delete);
     CHECK(Names() == Lines{"Alpha"});
     CHECK(Selected().empty());
     Seed("Beta", "Beta", "x");
@@ -547,7 +548,7 @@ TEST_CASE_FIXTURE(Software, "OK and Escape close the dialog while an uninstaller
         Press("cmdOK");
     }
     SUBCASE("Escape") {
-        CHECK(form.KeyPressed(27));
+        CHECK(form.KeyPressed(toolkit::key::Escape));
     }
     CHECK_FALSE(form.Loaded());
     CHECK_FALSE(IsWatching());

@@ -5,6 +5,7 @@
 #include "controls/chameleonbutton.h"
 #include "platform/simulated/machine.h"
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 #include "toolkit/listbox.h"
 
 using Lines = std::vector<std::string>;
@@ -192,10 +193,9 @@ TEST_CASE_FIXTURE(Users, "OK and Escape unload the dialog, other keys do not") {
         Press("cmdOK");
     }
     SUBCASE("Escape") {
-        constexpr int KeyF5 = 0x74;
-        CHECK_FALSE(form.KeyPressed(KeyF5));
+        CHECK_FALSE(form.KeyPressed(toolkit::key::F5));
         CHECK(form.Loaded());
-        CHECK(form.KeyPressed(27));
+        CHECK(form.KeyPressed(toolkit::key::Escape));
     }
     CHECK_FALSE(form.Loaded());
     CHECK(machine.forms.OpenForms().empty());

@@ -4,6 +4,7 @@
 
 #include "dialogs/drives.h"
 #include "runtime/failure.h"
+#include "toolkit/keys.h"
 
 using namespace dialogs_test;
 
@@ -348,7 +349,7 @@ TEST_CASE_FIXTURE(Drives, "the selected drive is removed after a question, by al
     CHECK(Started() == Lines{"command.com /csubst F: /d", List});
     CHECK(list.Count() == 2);
     Select(1);
-    list.PressKey(KeyDelete);
+    list.PressKey(toolkit::key::Delete);
     CHECK(list.Count() == 1);
     Select(0);
     machine.menus.Pick("Laufwerk entfernen");
@@ -380,7 +381,7 @@ TEST_CASE_FIXTURE(Drives, "the right button enables what acts on the row that it
 TEST_CASE_FIXTURE(Drives, "removing without a selection is told as the failure that it is") {
     Make("E:", "C:\\");
     form.Show();
-    list.PressKey(KeyDelete);
+    list.PressKey(toolkit::key::Delete);
     CHECK(LastBox() == ShownMessage{"Löschen fehlgeschlagen",
                                     "Das virtuelle Laufwerk konnte nicht gelöscht werden:\r\n91: " +
                                         runtime::DescriptionOf(91),
@@ -431,7 +432,7 @@ TEST_CASE_FIXTURE(Drives, "closing asks only for a path that has not become a dr
     }
     SUBCASE("Escape") {
         Browse("C:\\Programme");
-        CHECK(form.KeyPressed(KeyEscape));
+        CHECK(form.KeyPressed(toolkit::key::Escape));
         CHECK(machine.messages.Shown().empty());
     }
     CHECK_FALSE(form.Loaded());
@@ -464,7 +465,7 @@ TEST_CASE_FIXTURE(Drives, "while a command runs the dialog lives, and may even b
     }
     SUBCASE("Escape") {
         machine.forms.onEvents = [&] {
-            if (++events == 1) form.KeyPressed(KeyEscape);
+            if (++events == 1) form.KeyPressed(toolkit::key::Escape);
         };
         Press("cmdcreate");
         CHECK_FALSE(form.Loaded());

@@ -4,7 +4,6 @@
 
 #include "controls/chameleonbutton.h"
 #include "dialogs/frminstalledsoftware.h"
-#include "dialogs/keys.h"
 #include "platform/simulated/machine.h"
 #include "platform/simulated/withservices.h"
 #include "registry/restless.h"

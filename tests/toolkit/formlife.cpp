@@ -8,6 +8,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "toolkit/journal.h"
+#include "toolkit/keys.h"
 
 using namespace toolkit;
 
@@ -26,7 +27,7 @@ class LivingForm final : public Form {
   protected:
     void OnLoad() override { Note("Load"); }
     void OnResize() override { Note("Resize"); }
-    bool OnKeyDown(int virtualKey) override { return virtualKey == 0x73; }
+    bool OnKeyDown(int virtualKey) override { return virtualKey == toolkit::key::F4; }
     void OnQueryUnload() override { Note("QueryUnload"); }
     void OnUnload() override { Note("Unload"); }
 
@@ -252,8 +253,8 @@ TEST_CASE_FIXTURE(Life, "a form that snaps back to its size settles") {
 }
 
 TEST_CASE_FIXTURE(Life, "a form tells whether it has used up a key") {
-    CHECK(form.KeyPressed(0x73));
-    CHECK_FALSE(form.KeyPressed(0x74));
+    CHECK(form.KeyPressed(toolkit::key::F4));
+    CHECK_FALSE(form.KeyPressed(toolkit::key::F5));
 }
 
 TEST_CASE("a form that dies loaded takes its window along and raises nothing") {

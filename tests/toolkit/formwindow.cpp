@@ -2,6 +2,7 @@
 
 #include "toolkit/form.h"
 #include "toolkit/journal.h"
+#include "toolkit/keys.h"
 
 using namespace toolkit;
 
@@ -21,7 +22,7 @@ class CountingForm : public Form {
         ++resizes;
         if (snapsBack) SetSize(9990, 7920);
     }
-    bool OnKeyDown(int virtualKey) override { return virtualKey == 0x73; }
+    bool OnKeyDown(int virtualKey) override { return virtualKey == toolkit::key::F4; }
 };
 
 class NotingWindow : public FormView {
@@ -133,6 +134,6 @@ TEST_CASE_FIXTURE(FormWindowFixture, "showing and hiding are shown by the window
 
 TEST_CASE_FIXTURE(FormWindowFixture,
                   "a key goes to the form, which says whether it has used it up") {
-    CHECK(form.KeyPressed(0x73));
+    CHECK(form.KeyPressed(toolkit::key::F4));
     CHECK_FALSE(form.KeyPressed(0x72));
 }

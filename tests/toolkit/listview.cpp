@@ -4,6 +4,7 @@
 
 #include "support/failureof.h"
 #include "toolkit/journal.h"
+#include "toolkit/keys.h"
 
 using toolkit::Aspect;
 using toolkit::ListView;
@@ -188,7 +189,7 @@ TEST_CASE_FIXTURE(ListViewFixture, "a disabled list hears nothing of the user") 
         list.DoubleClick();
         list.PressRightButton();
         list.ClickColumn(1);
-        list.PressKey(46);
+        list.PressKey(toolkit::key::Delete);
     };
     doAll();
     CHECK(heard == Journal{"click", "twice", "right", "column 1", "key 46"});

@@ -3,6 +3,7 @@
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "toolkit/journal.h"
+#include "toolkit/keys.h"
 
 using namespace toolkit;
 
@@ -39,7 +40,7 @@ TEST_CASE_FIXTURE(NewFormFixture,
 TEST_CASE_FIXTURE(NewFormFixture,
                   "a form without events of its own lives as well, and uses up no key") {
     form.Show();
-    CHECK_FALSE(form.KeyPressed(0x73));
+    CHECK_FALSE(form.KeyPressed(toolkit::key::F4));
     form.Unload();
     CHECK(host.journal == Journal{"open frmTest", "close frmTest"});
 }

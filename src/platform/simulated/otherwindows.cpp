@@ -11,14 +11,6 @@ namespace platform::simulated {
 
 namespace {
 
-constexpr std::uint32_t Layered = 0x80000;
-constexpr std::uint32_t UseAlpha = 2;
-constexpr std::uint32_t SetTextBackground = 0x1026;
-constexpr std::uint32_t KeepSize = 0x01;
-constexpr std::uint32_t KeepPlace = 0x02;
-constexpr std::uint32_t ShowIt = 0x40;
-constexpr std::uint32_t HideIt = 0x80;
-
 std::string WindowNumber(OtherWindows::Handle window) {
     return "#" + std::to_string(window);
 }

@@ -13,15 +13,6 @@ namespace platform::simulated {
 
 namespace {
 
-// Messages to the folder dialog.
-constexpr std::uint32_t SetStatusText = 0x464;
-constexpr std::uint32_t SetSelection = 0x466;
-// Messages of the folder dialog.
-constexpr std::uint32_t Initialised = 1;
-constexpr std::uint32_t SelectionChanged = 2;
-
-constexpr std::uint32_t Delete = 3;
-constexpr std::uint16_t AllowUndo = 0x40;
 constexpr std::int32_t InvalidParameter = 87;
 
 // A text sent to a window ends before its first NUL.
@@ -67,7 +58,7 @@ std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path
     });
     auto operate = [&]() -> std::int32_t {
         if (auto code = faults_.Check("SHFileOperationA", path)) return *code;
-        if (function != Delete) return InvalidParameter;
+        if (function != DeleteFiles) return InvalidParameter;
         // The call takes bytes: a character that the code page lacks becomes a question mark, and
         // that is a wildcard.
         std::int32_t refused = files_.Take(FromWesternBytes(ToWesternBytes(path)));
@@ -108,7 +99,7 @@ std::string Shell::BrowseForFolder(const toolkit::Form& owner, std::string_view 
     auto user = std::move(scripts_.front());
     scripts_.pop_front();
     FolderDialog dialog(journal_, callback, title);
-    callback(dialog, Initialised);
+    callback(dialog, FolderDialog::Initialised);
     return finish(user(dialog) ? dialog.SelectedPath().value_or("") : "");
 }
 
