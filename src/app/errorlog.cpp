@@ -7,7 +7,7 @@
 #include "platform/locale.h"
 #include "platform/messages.h"
 #include "platform/program.h"
-#include "platform/settings.h"
+#include "runtime/programtitle.h"
 
 namespace app {
 namespace {
@@ -41,7 +41,7 @@ void ErrorLog::LogError(int number, std::string_view description, std::string_vi
 
 void ErrorLog::WriteRecord(int number, std::string_view description, std::string_view source,
                            std::string_view procedure) const {
-    const std::string title(platform::ProgramTitle);
+    const std::string title(runtime::ProgramTitle);
     const platform::LocalTime now = machine_.clock.Now();
 
     // Printing adds one more line end to each item, so every item is followed by an empty line.

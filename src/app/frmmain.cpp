@@ -11,9 +11,9 @@
 #include "dialogs/forminform.h"
 #include "platform/menus.h"
 #include "platform/program.h"
-#include "platform/settings.h"
 #include "platform/tray.h"
 #include "runtime/failure.h"
+#include "runtime/programtitle.h"
 #include "toolkit/controls.h"
 #include "toolkit/keys.h"
 #include "tools/helpfile.h"
@@ -38,7 +38,7 @@ toolkit::Bounds DesignedPlace(const toolkit::FormHost& host) {
 }  // namespace
 
 frmMain::frmMain(const platform::Machine& machine)
-    : Form(machine.forms, "frmMain", std::string(platform::ProgramTitle),
+    : Form(machine.forms, "frmMain", std::string(runtime::ProgramTitle),
            DesignedPlace(machine.forms)),
       machine_(machine),
       log_(machine_, version_),
@@ -79,7 +79,7 @@ void frmMain::WriteRegistry() {
 
 void frmMain::BuildVersion() {
     version_ = VersionText(MajorVersion, MinorVersion, Revision);
-    SetCaption(std::string(platform::ProgramTitle) + " " + version_);
+    SetCaption(std::string(runtime::ProgramTitle) + " " + version_);
 }
 
 void frmMain::SetHelpTexts() {

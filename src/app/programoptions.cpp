@@ -7,6 +7,7 @@
 #include "platform/settings.h"
 #include "platform/tray.h"
 #include "runtime/failure.h"
+#include "runtime/programtitle.h"
 #include "runtime/text.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
@@ -14,8 +15,8 @@
 namespace app {
 namespace {
 
-using platform::ProgramTitle;
 using platform::Settings;
+using runtime::ProgramTitle;
 using runtime::Skip;
 using toolkit::CheckBox;
 

@@ -2,11 +2,13 @@
 
 #include <utility>
 
+#include "runtime/programtitle.h"
+
 namespace app {
 
 toolkit::PopupMenu MakeTrayMenu(TrayMenuActions actions) {
     return {"mnuPopUpTray",
-            {{"mnuShow", "Quillmore", std::move(actions.show)},
+            {{"mnuShow", std::string(runtime::ProgramTitle), std::move(actions.show)},
              {"t1", "", nullptr},
              {"mnuLockStation", "Workstation sperren", std::move(actions.lockStation)},
              {"t3", "", nullptr},

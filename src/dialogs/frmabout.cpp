@@ -7,6 +7,7 @@
 #include "platform/messages.h"
 #include "platform/systeminformation.h"
 #include "runtime/failure.h"
+#include "runtime/programtitle.h"
 #include "toolkit/controls.h"
 #include "toolkit/keys.h"
 
@@ -43,7 +44,8 @@ frmAbout::frmAbout(const platform::Machine& machine, const std::string& strVersi
     : Form(machine.forms, "frmAbout", "Über Quillmore", {}),
       machine_(machine),
       version_(strVersion) {
-    auto& name = Add<toolkit::Label>("Label2", "Quillmore", toolkit::LabelStyle::Heading);
+    auto& name = Add<toolkit::Label>("Label2", std::string(runtime::ProgramTitle),
+                                     toolkit::LabelStyle::Heading);
     auto& lblVersion = Add<toolkit::Label>("lblVersion", "");
     auto& purpose = Add<toolkit::Label>("Label3", Purpose);
     auto& risk = Add<toolkit::Label>("Label4", Risk);

@@ -4,11 +4,9 @@
 #include <string_view>
 
 #include "platform/settingsstore.h"
+#include "runtime/programtitle.h"
 
 namespace platform {
-
-// The title of the program, under which its settings, its tray icon and its autostart entry go.
-inline constexpr std::string_view ProgramTitle = "Quillmore";
 
 // The program's own part of the settings store.
 class Settings {
@@ -17,10 +15,10 @@ class Settings {
 
     std::string GetSetting(std::string_view section, std::string_view key,
                            std::string_view fallback = "") const {
-        return store_.Get(ProgramTitle, section, key, fallback);
+        return store_.Get(runtime::ProgramTitle, section, key, fallback);
     }
     void SaveSetting(std::string_view section, std::string_view key, std::string_view value) {
-        store_.Save(ProgramTitle, section, key, value);
+        store_.Save(runtime::ProgramTitle, section, key, value);
     }
 
   private:

@@ -1,9 +1,11 @@
 #include "runtime/failure.h"
 
+#include "runtime/programtitle.h"
+
 namespace runtime {
 
 Failure::Failure(int failureNumber)
-    : Failure(failureNumber, DescriptionOf(failureNumber), "Quillmore") {}
+    : Failure(failureNumber, DescriptionOf(failureNumber), std::string(ProgramTitle)) {}
 
 Failure::Failure(int failureNumber, std::string failureDescription, std::string failureSource)
     : number(failureNumber),

@@ -1,8 +1,8 @@
 #include "platform/simulated/settingsstore.h"
 
-#include "platform/settings.h"
 #include "platform/simulated/faults.h"
 #include "platform/simulated/wording.h"
+#include "runtime/programtitle.h"
 #include "runtime/text.h"
 
 namespace platform::simulated {
@@ -49,12 +49,12 @@ void SettingsStore::DeleteSection(std::string_view title, std::string_view secti
 }
 
 void SettingsStore::Put(std::string_view section, std::string_view key, std::string_view text) {
-    Store(Joined(ProgramTitle, section, key), text);
+    Store(Joined(runtime::ProgramTitle, section, key), text);
 }
 
 std::optional<std::string> SettingsStore::Stored(std::string_view section,
                                                  std::string_view key) const {
-    const std::string* stored = Find(Joined(ProgramTitle, section, key));
+    const std::string* stored = Find(Joined(runtime::ProgramTitle, section, key));
     return stored ? std::optional(*stored) : std::nullopt;
 }
 

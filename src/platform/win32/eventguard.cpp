@@ -5,8 +5,8 @@
 #include <string>
 
 #include "platform/messages.h"
-#include "platform/settings.h"
 #include "runtime/failure.h"
+#include "runtime/programtitle.h"
 
 namespace platform::win32 {
 
@@ -14,7 +14,7 @@ namespace {
 
 void Tell(platform::Messages& messages, int number, const std::string& description) {
     messages.Show("Laufzeitfehler '" + std::to_string(number) + "':\r\n\r\n" + description,
-                  message::Critical, ProgramTitle);
+                  message::Critical, runtime::ProgramTitle);
 }
 
 }  // namespace
