@@ -64,7 +64,8 @@ TEST_CASE_FIXTURE(Dialogs, "SysInfo shows the system information over the window
 
 TEST_CASE_FIXTURE(Dialogs, "the logged-on users are shown over the window's middle, each time") {
     for (const char* name : {"Besitzer", "Gast"}) {
-        machine.workstation.batches = {{{name, "PC-1", "", ""}}};
+        machine.workstation.batches =
+            platform::simulated::Workstation::Batches{{{name, "PC-1", "", ""}}};
         Open("cmdShowAllLoggedOnUsers", "frmShowAllLoggedInUsers", [&](toolkit::Form& users) {
             CHECK(users.Find<toolkit::ListBox>("lstUsers").Items() ==
                   std::vector<std::string>{std::string("PC-1\\") + name});

@@ -10,8 +10,8 @@ using platform::DriveKind;
 
 TEST_CASE_FIXTURE(Fixture, "at the start the current drive is selected and its space is shown") {
     CHECK(frame.Drive() == "c: [SYSTEM]");
-    CHECK(frame.lblGesamt.Caption() == "Gesamt: 20.003.880.960 Bytes");
-    CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 9.518.120.960 Bytes");
+    CHECK(frame.lblGesamt.Caption() == "Gesamt: 40.007.729.152 Bytes");
+    CHECK(frame.lblFreeDriveSpace.Caption() == "Belegt: 27.122.827.264 Bytes");
 }
 
 TEST_CASE_FIXTURE(Fixture, "another drive shows its own space, one without a medium 0 bytes") {

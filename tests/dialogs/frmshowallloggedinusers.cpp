@@ -17,7 +17,8 @@ struct Users {
     dialogs::frmShowAllLoggedInUsers form{machine.services};
     toolkit::ListBox& lstUsers = form.Find<toolkit::ListBox>("lstUsers");
     toolkit::Label& lblWait = form.Find<toolkit::Label>("lblWait");
-    std::vector<std::vector<platform::LoggedOnUser>>& batches = machine.workstation.batches;
+    using Batches = platform::simulated::Workstation::Batches;
+    std::optional<Batches>& batches = machine.workstation.batches;
 
     void Press(const char* name) { form.Find<controls::chameleonButton>(name).Press(); }
 
@@ -34,11 +35,11 @@ struct Users {
 }  // namespace
 
 TEST_CASE_FIXTURE(Users, "each logon is a line of domain and name, in the order of the service") {
-    batches = {{{"Besitzer", "PC-1", "ARBEIT", "SERVER"},
-                {"Jürgen", "BÜRO", "", ""},
-                {"Besitzer", "PC-1", "", ""},
-                {"LOKALER DIENST", "NT-AUTORITÄT", "", ""},
-                {"PC-1$", "ARBEITSGRUPPE", "", ""}}};
+    batches = Batches{{{"Besitzer", "PC-1", "ARBEIT", "SERVER"},
+                       {"Jürgen", "BÜRO", "", ""},
+                       {"Besitzer", "PC-1", "", ""},
+                       {"LOKALER DIENST", "NT-AUTORITÄT", "", ""},
+                       {"PC-1$", "ARBEITSGRUPPE", "", ""}}};
     form.Show();
     CHECK(lstUsers.Items() == Lines{"PC-1\\Besitzer", "BÜRO\\Jürgen", "PC-1\\Besitzer",
                                     "NT-AUTORITÄT\\LOKALER DIENST", "ARBEITSGRUPPE\\PC-1$"});
@@ -48,7 +49,7 @@ TEST_CASE_FIXTURE(Users, "each logon is a line of domain and name, in the order 
 }
 
 TEST_CASE_FIXTURE(Users, "what a record does not tell is empty beside the backslash") {
-    batches = {{{"", "PC-1", "", ""}, {"Gast", "", "", ""}, {}}};
+    batches = Batches{{{"", "PC-1", "", ""}, {"Gast", "", "", ""}, {}}};
     form.Show();
     CHECK(lstUsers.Items() == Lines{"PC-1\\", "\\Gast", "\\"});
 }
@@ -72,7 +73,7 @@ TEST_CASE_FIXTURE(Users, "a computer without a name is asked for all the same") 
 
 TEST_CASE_FIXTURE(Users,
                   "no logons are an empty list without a box and with nothing to give back") {
-    batches = {};
+    batches = Batches{};
     form.Show();
     CHECK(lstUsers.Items().empty());
     CHECK(machine.messages.Shown().empty());
@@ -81,7 +82,7 @@ TEST_CASE_FIXTURE(Users,
 }
 
 TEST_CASE_FIXTURE(Users, "of several batches the last one is listed and given back") {
-    batches = {
+    batches = Batches{
         {{"a", "D", "", ""}, {"b", "D", "", ""}}, {{"c", "D", "", ""}}, {{"d", "D", "", ""}}};
     form.Show();
     CHECK(lstUsers.Items() == Lines{"D\\d"});
@@ -95,14 +96,14 @@ TEST_CASE_FIXTURE(Users, "of several batches the last one is listed and given ba
 }
 
 TEST_CASE_FIXTURE(Users, "an empty last batch leaves an empty list") {
-    batches = {{{"a", "D", "", ""}}, {}};
+    batches = Batches{{{"a", "D", "", ""}}, {}};
     form.Show();
     CHECK(lstUsers.Items().empty());
     CHECK(machine.messages.Shown().empty());
 }
 
 TEST_CASE_FIXTURE(Users, "a later batch that fails empties the list and tells why") {
-    batches = {{{"a", "D", "", ""}}, {{"b", "D", "", ""}}};
+    batches = Batches{{{"a", "D", "", ""}}, {{"b", "D", "", ""}}};
     // The name, the first batch, the second.
     machine.faults.FailNth(3, 53);
     form.Show();
@@ -165,7 +166,7 @@ TEST_CASE_FIXTURE(Users, "Aktualisieren reads the list anew, which does not grow
     Press("cmdRefresh");
     Press("cmdRefresh");
     CHECK(lstUsers.Items() == Lines{"QUILLMORE-PC\\Besitzer"});
-    batches = {{{"Gast", "PC-1", "", ""}, {"Besitzer", "PC-1", "", ""}}};
+    batches = Batches{{{"Gast", "PC-1", "", ""}, {"Besitzer", "PC-1", "", ""}}};
     Press("cmdRefresh");
     CHECK(lstUsers.Items() == Lines{"PC-1\\Gast", "PC-1\\Besitzer"});
     machine.faults.FailAll("NetWkstaUserEnum", 5);
@@ -181,7 +182,7 @@ TEST_CASE_FIXTURE(Users, "Aktualisieren reads the list anew, which does not grow
 TEST_CASE_FIXTURE(Users, "each opening reads the list anew") {
     form.Show();
     Press("cmdOK");
-    batches = {{{"Gast", "PC-1", "", ""}}};
+    batches = Batches{{{"Gast", "PC-1", "", ""}}};
     form.Show();
     CHECK(lstUsers.Items() == Lines{"PC-1\\Gast"});
 }

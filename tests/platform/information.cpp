@@ -44,6 +44,27 @@ TEST_CASE_FIXTURE(Information, "the two questions about a volume fail each by it
     }
 }
 
+TEST_CASE_FIXTURE(Information, "drive, memory and user are the same whichever service is asked") {
+    machine.systemFacts.SetSpace('C', {300, 1000, 400});
+    CHECK(information.VolumeOn("C:\\").size == 1000);
+    CHECK(information.VolumeOn("C:\\").free == 300);
+    machine.systemInformation.volumes["C:\\"].size = 2000;
+    CHECK(machine.systemFacts.Space("C:\\") == platform::DiskSpace{300, 2000, 400});
+
+    machine.memory.physical.total = 5000000000;
+    CHECK(information.Memory().value().total == 5000000000);
+    CHECK(machine.memory.TotalPhysical() == "5000000000");
+    CHECK(machine.memory.PhysicalBytes() == -1);
+
+    machine.systemFacts.userName = "Gast";
+    machine.systemInformation.computerName = "PC-2";
+    platform::UserEnumeration enumeration;
+    machine.workstation.EnumerateUsers("", enumeration);
+    REQUIRE(enumeration.users.size() == 1);
+    CHECK(enumeration.users[0].wkui1_username == "Gast");
+    CHECK(enumeration.users[0].wkui1_logon_domain == "PC-2");
+}
+
 TEST_CASE_FIXTURE(Information, "drives that are not told are none") {
     CHECK(information.Drives().size() == 3);
     machine.faults.FailAll("GetLogicalDrives", 5);

@@ -31,7 +31,7 @@ TEST_CASE("a block that is refused is not counted") {
 TEST_CASE("the memory's bytes are told as they are seeded, also as a negative number") {
     Machine machine;
     CHECK(machine.memory.PhysicalBytes() == 536330240);
-    machine.memory.physicalBytes = -1;
+    machine.memory.physical.total = 0xFFFFFFFF;
     CHECK(machine.memory.PhysicalBytes() == -1);
     CHECK(machine.journal.Text() == "GlobalMemoryStatus -> 536330240\nGlobalMemoryStatus -> -1\n");
 }

@@ -16,7 +16,8 @@ struct Place {
 }  // namespace
 
 TEST_CASE_FIXTURE(Place, "batches come one a call, each with a buffer of its own") {
-    machine.workstation.batches = {{{"a", "", "", ""}}, {{"b", "", "", ""}, {}}};
+    machine.workstation.batches =
+        platform::simulated::Workstation::Batches{{{"a", "", "", ""}}, {{"b", "", "", ""}, {}}};
     platform::UserEnumeration enumeration;
     CHECK(workstation.EnumerateUsers("\\\\PC", enumeration) == 234);
     CHECK(enumeration.users.size() == 1);

@@ -64,7 +64,7 @@ TEST_CASE_FIXTURE(Released, "the screen's pointer is the default afterwards, wha
 }
 
 TEST_CASE_FIXTURE(Released, "half exactly at a limit takes the smaller block") {
-    machine.memory.totalPhysical = "512000000";
+    machine.memory.physical.total = 512000000;
     Release();
     CHECK(machine.memory.Peak() == 180000000);
 }

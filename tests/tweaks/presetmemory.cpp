@@ -27,27 +27,27 @@ void CheckBoxBecomes(const char* state, void (*prepare)(Presets&)) {
 }  // namespace
 
 TEST_CASE("256000 bytes of memory are not enough for the second level cache") {
-    CheckBoxBecomes("0", [](Presets& program) { program.machine.memory.physicalBytes = 256000; });
+    CheckBoxBecomes("0", [](Presets& program) { program.machine.memory.physical.total = 256000; });
 }
 
 TEST_CASE("256001 bytes of memory are enough for the second level cache") {
-    CheckBoxBecomes("1", [](Presets& program) { program.machine.memory.physicalBytes = 256001; });
+    CheckBoxBecomes("1", [](Presets& program) { program.machine.memory.physical.total = 256001; });
 }
 
 TEST_CASE("200 KB of memory are not enough for the second level cache") {
-    CheckBoxBecomes("0", [](Presets& program) { program.machine.memory.physicalBytes = 204800; });
+    CheckBoxBecomes("0", [](Presets& program) { program.machine.memory.physical.total = 204800; });
 }
 
 TEST_CASE("memory that is negative as a signed number is not enough") {
-    CheckBoxBecomes("0", [](Presets& program) { program.machine.memory.physicalBytes = -1; });
-    CheckBoxBecomes("0", [](Presets& program) {
-        program.machine.memory.physicalBytes = std::numeric_limits<std::int32_t>::min();
-    });
+    CheckBoxBecomes("0",
+                    [](Presets& program) { program.machine.memory.physical.total = 0xFFFFFFFF; });
+    CheckBoxBecomes("0",
+                    [](Presets& program) { program.machine.memory.physical.total = 0x80000000; });
 }
 
 TEST_CASE("memory of 2147483647 bytes is enough") {
     CheckBoxBecomes("1", [](Presets& program) {
-        program.machine.memory.physicalBytes = std::numeric_limits<std::int32_t>::max();
+        program.machine.memory.physical.total = std::numeric_limits<std::int32_t>::max();
     });
 }
 
@@ -59,7 +59,7 @@ TEST_CASE("memory of which the system tells nothing is not enough") {
 TEST_CASE("every golden list holds whether the memory is enough or not") {
     for (const char* preset : {"cmdOptimal", AutoTuningButton}) {
         Presets program;
-        program.machine.memory.physicalBytes = 0;
+        program.machine.memory.physical.total = 0;
         program.Isolate();
         ChangeNotes changes(program.form);
         program.Press(preset);

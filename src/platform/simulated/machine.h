@@ -61,9 +61,9 @@ class Machine {
     Session session;
     AutoStart autostart;
     OperatingSystem operatingSystem;
-    SystemFacts systemFacts;
-    SystemInformation systemInformation;
     Memory memory;
+    SystemInformation systemInformation;
+    SystemFacts systemFacts;
     InternetCache internetCache;
     OtherWindows otherWindows;
     Display display;

@@ -1,6 +1,7 @@
 #include "platform/simulated/memory.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "platform/simulated/faults.h"
 #include "platform/simulated/wording.h"
@@ -34,13 +35,17 @@ class Memory::Block final : public MemoryBlock {
 std::string Memory::TotalPhysical() const {
     auto line = journal_.Note([] { return std::string("Memory.TotalPhysical"); });
     PassOrThrow(journal_, faults_, line, "Memory.TotalPhysical", "");
-    journal_.Finish(line, [&] { return Quoted(totalPhysical); });
-    return totalPhysical;
+    const std::string total = std::to_string(physical.total);
+    journal_.Finish(line, [&] { return Quoted(total); });
+    return total;
 }
 
 std::int32_t Memory::PhysicalBytes() const {
     auto line = journal_.Note([] { return std::string("GlobalMemoryStatus"); });
-    const std::int32_t bytes = faults_.Check("GlobalMemoryStatus", "") ? 0 : physicalBytes;
+    constexpr std::uint64_t Most = std::numeric_limits<std::uint32_t>::max();
+    const auto told = static_cast<std::uint32_t>(std::min(physical.total, Most));
+    const std::int32_t bytes =
+        faults_.Check("GlobalMemoryStatus", "") ? 0 : static_cast<std::int32_t>(told);
     journal_.Finish(line, [&] { return std::to_string(bytes); });
     return bytes;
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/memory.h"
+#include "platform/systeminformation.h"
 
 namespace platform::simulated {
 
@@ -22,8 +23,8 @@ class Memory final : public platform::Memory {
     std::size_t Held() const { return held_; }
     std::size_t Peak() const { return peak_; }
 
-    std::string totalPhysical = "536330240";
-    std::int32_t physicalBytes = 536330240;
+    // What the machine has, whoever is asked for it.
+    PhysicalMemory physical{536330240, 301989888};
 
   private:
     class Block;

@@ -2,6 +2,7 @@
 
 #include "platform/simulated/faults.h"
 #include "platform/simulated/locale.h"
+#include "platform/simulated/systeminformation.h"
 #include "platform/simulated/wording.h"
 #include "runtime/text.h"
 
@@ -18,6 +19,10 @@ std::string ToldText(Journal& journal, Faults& faults, const char* call, const s
     std::string told = faults.Check(call, "") || !fits ? "" : text;
     journal.Note([&] { return call + (" -> " + Quoted(told)); });
     return told;
+}
+
+std::string RootOf(char drive) {
+    return {drive, ':', '\\'};
 }
 
 }  // namespace
@@ -63,10 +68,8 @@ const std::string* SystemFacts::Variable(std::string_view name) const {
 
 DiskSpace SystemFacts::Space(std::string_view directory) const {
     bool fails = faults_.Check("GetDiskFreeSpaceExA", directory).has_value();
-    std::string drive = runtime::ToUpper(directory.substr(0, 1));
     bool isPath = directory.size() > 1 && directory[1] == ':';
-    auto found = isPath ? spaces_.find(drive[0]) : spaces_.end();
-    DiskSpace space = fails || found == spaces_.end() ? DiskSpace{} : found->second;
+    DiskSpace space = fails || !isPath ? DiskSpace{} : SpaceOf(runtime::ToUpper(directory)[0]);
     journal_.Note([&] {
         return "GetDiskFreeSpaceExA " + Quoted(directory) + " -> " +
                std::to_string(space.freeToUser) + " " + std::to_string(space.total) + " " +
@@ -75,8 +78,20 @@ DiskSpace SystemFacts::Space(std::string_view directory) const {
     return space;
 }
 
+DiskSpace SystemFacts::SpaceOf(char drive) const {
+    const auto volume = information_.volumes.find(RootOf(drive));
+    if (volume == information_.volumes.end()) return {};
+    const std::uint64_t freeToUser = volume->second.free.value_or(0);
+    const auto free = free_.find(drive);
+    return {freeToUser, volume->second.size.value_or(0),
+            free == free_.end() ? freeToUser : free->second};
+}
+
 void SystemFacts::SetSpace(char drive, DiskSpace space) {
-    spaces_[drive] = space;
+    Volume& volume = information_.volumes[RootOf(drive)];
+    volume.size = space.total;
+    volume.free = space.freeToUser;
+    free_[drive] = space.free;
 }
 
 }  // namespace platform::simulated

@@ -10,10 +10,12 @@ namespace platform::simulated {
 
 class Faults;
 class Journal;
+class SystemInformation;
 
 class SystemFacts final : public platform::SystemFacts {
   public:
-    SystemFacts(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
+    SystemFacts(Journal& journal, Faults& faults, SystemInformation& information)
+        : journal_(journal), faults_(faults), information_(information) {}
 
     std::string WindowsDirectory() const override;
     std::string SystemDirectory() const override;
@@ -22,7 +24,8 @@ class SystemFacts final : public platform::SystemFacts {
     std::string ExpandEnvironment(std::string_view text) const override;
     DiskSpace Space(std::string_view directory) const override;
 
-    // The space of the drive of that capital letter. A drive without has no medium.
+    // The space of the drive of that capital letter, a volume of SystemInformation. Without this
+    // the user may fill all that is free.
     void SetSpace(char drive, DiskSpace space);
 
     std::string windowsDirectory = "C:\\WINDOWS";
@@ -36,10 +39,13 @@ class SystemFacts final : public platform::SystemFacts {
 
   private:
     const std::string* Variable(std::string_view name) const;
+    DiskSpace SpaceOf(char drive) const;
 
     Journal& journal_;
     Faults& faults_;
-    std::map<char, DiskSpace> spaces_{{'C', {10485760000, 20003880960, 10485760000}}};
+    SystemInformation& information_;
+    // Of drives on which the user may not fill all of it.
+    std::map<char, std::uint64_t> free_;
 };
 
 }  // namespace platform::simulated

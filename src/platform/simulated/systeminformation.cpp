@@ -1,6 +1,7 @@
 #include "platform/simulated/systeminformation.h"
 
 #include "platform/simulated/faults.h"
+#include "platform/simulated/memory.h"
 #include "platform/simulated/wording.h"
 
 namespace platform::simulated {
@@ -26,7 +27,7 @@ std::optional<int> SystemInformation::ProcessorCount() const {
 }
 
 std::optional<PhysicalMemory> SystemInformation::Memory() const {
-    return ToldFact(journal_, faults_, "GlobalMemoryStatusEx", memory);
+    return ToldFact(journal_, faults_, "GlobalMemoryStatusEx", memory_.physical);
 }
 
 std::vector<Drive> SystemInformation::Drives() const {

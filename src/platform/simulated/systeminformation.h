@@ -8,12 +8,14 @@ namespace platform::simulated {
 
 class Faults;
 class Journal;
+class Memory;
 
-// A fresh one is a small machine of its time: one processor, 512 MB, a floppy drive and a CD drive
-// without media, one disk, 1024 by 768 pixels.
+// A fresh one is a small machine of its time: one processor, a floppy drive and a CD drive without
+// media, one disk, 1024 by 768 pixels.
 class SystemInformation final : public platform::SystemInformation {
   public:
-    SystemInformation(Journal& journal, Faults& faults) : journal_(journal), faults_(faults) {}
+    SystemInformation(Journal& journal, Faults& faults, const simulated::Memory& memory)
+        : journal_(journal), faults_(faults), memory_(memory) {}
 
     std::optional<std::string> ServicePack() const override;
     std::optional<int> ProcessorCount() const override;
@@ -25,11 +27,10 @@ class SystemInformation final : public platform::SystemInformation {
 
     std::string servicePack = "Service Pack 3";
     int processorCount = 1;
-    PhysicalMemory memory{536330240, 301989888};
     std::vector<Drive> drives{{"A:\\", DriveKind::Removable},
                               {"C:\\", DriveKind::Fixed},
                               {"D:\\", DriveKind::OpticalDisc}};
-    // By root. A drive that is not in here has no medium.
+    // By root; SystemFacts tells the same space. A drive that is not in here has no medium.
     std::map<std::string, Volume, std::less<>> volumes{
         {"C:\\", {"NTFS", 40007729152, 12884901888, "SYSTEM"}}};
     ScreenFormat screen{1024, 768, 32};
@@ -38,6 +39,7 @@ class SystemInformation final : public platform::SystemInformation {
   private:
     Journal& journal_;
     Faults& faults_;
+    const simulated::Memory& memory_;
 };
 
 }  // namespace platform::simulated

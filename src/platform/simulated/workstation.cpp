@@ -1,6 +1,8 @@
 #include "platform/simulated/workstation.h"
 
 #include "platform/simulated/faults.h"
+#include "platform/simulated/systemfacts.h"
+#include "platform/simulated/systeminformation.h"
 #include "platform/simulated/wording.h"
 #include "runtime/text.h"
 
@@ -24,10 +26,17 @@ std::uint32_t Workstation::EnumerateUsers(const std::string& server,
         return answer(static_cast<std::uint32_t>(*code));
     }
     enumeration.buffer = 0;
-    if (enumeration.resume >= batches.size()) return answer(Success);
-    enumeration.users = batches[enumeration.resume++];
+    const Batches users = Users();
+    if (enumeration.resume >= users.size()) return answer(Success);
+    enumeration.users = users[enumeration.resume++];
     if (!enumeration.users.empty()) enumeration.buffer = static_cast<std::uintptr_t>(++given_);
-    return answer(enumeration.resume < batches.size() ? MoreData : Success);
+    return answer(enumeration.resume < users.size() ? MoreData : Success);
+}
+
+Workstation::Batches Workstation::Users() const {
+    if (batches) return *batches;
+    const std::string& computer = information_.computerName;
+    return {{{facts_.userName, computer, "", computer}}};
 }
 
 void Workstation::FreeBuffer(std::uintptr_t buffer) const {
