@@ -20,9 +20,11 @@
 #include "tools/launcherlabels.h"
 #include "tweaks/autotuning.h"
 #include "tweaks/helptexts.h"
+#include "tweaks/keyfilters.h"
 #include "tweaks/networksets.h"
 #include "tweaks/pathspage.h"
 #include "tweaks/presets.h"
+#include "tweaks/sideeffects.h"
 
 namespace app {
 namespace {
@@ -161,6 +163,8 @@ void frmMain::Connect() {
         log_.Report("cmdPathDefault",
                     [&] { tweaks::SetDefaultPaths(*this, machine_.systemFacts); });
     };
+    tweaks::ConnectSideEffects(*this, machine_);
+    tweaks::ConnectKeyFilters(*this, machine_.beeper);
     tweaks::ConnectPresets(*this, machine_.memory);
     tweaks::ConnectNetworkSets(*this);
     machine_.tray.onRestore = [this] { ComeBackFromTray(); };

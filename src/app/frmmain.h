@@ -69,6 +69,8 @@ class frmMain final : public toolkit::Form {
     void OnUnload() override;
 
   private:
+    // Whoever makes a control connects it. Here is connected what needs the window's own parts, and
+    // what a table says of controls by their names.
     void Connect();
     // Over the middle of this window, until the user closes the dialog.
     void ShowDialog(Form& dialog);

@@ -9,11 +9,9 @@
 #include "toolkit/controls.h"
 #include "tools/launcherlabels.h"
 #include "tools/shortcutspage.h"
-#include "tweaks/keyfilters.h"
 #include "tweaks/networkpage.h"
 #include "tweaks/pathspage.h"
 #include "tweaks/securitypage.h"
-#include "tweaks/sideeffects.h"
 #include "tweaks/systempage.h"
 #include "tweaks/tweakspage.h"
 
@@ -38,8 +36,6 @@ Box AddPages(frmMain& form, const platform::Machine& machine, const tools::Launc
     pages.push_back(tools::AddShortcutsPage(form));
     pages.push_back(AddUtilitiesPage(form, machine.clock, launchers));
     for (Box& page : pages) page.margin = 8;
-    tweaks::ConnectSideEffects(form, machine);
-    tweaks::ConnectKeyFilters(form, machine.beeper);
     return toolkit::Pages(tabs, std::move(pages));
 }
 
