@@ -3,7 +3,6 @@
 #include <utility>
 
 namespace bench {
-
 namespace {
 
 using Key = Service::Key;

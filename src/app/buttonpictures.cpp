@@ -4,7 +4,6 @@
 #include <iterator>
 
 namespace app {
-
 namespace {
 
 struct Ink {

@@ -6,7 +6,6 @@
 #include "runtime/failure.h"
 
 namespace cleanup {
-
 namespace {
 
 enum class What { All, LinksToFolders };

@@ -7,7 +7,6 @@
 #include "system/drivespace.h"
 
 namespace cleanup {
-
 namespace {
 
 std::string Line(const char* title, const std::string& bytes) {

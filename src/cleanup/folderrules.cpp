@@ -9,7 +9,6 @@
 #include "system/systemdirectorypaths.h"
 
 namespace cleanup {
-
 namespace {
 
 constexpr int SendToFolder = 9;  // CSIDL_SENDTO

@@ -7,7 +7,6 @@
 #include "toolkit/listbox.h"
 
 namespace cleanup {
-
 namespace {
 
 using platform::CacheEntryInfo;

@@ -1,7 +1,6 @@
 #include "cleanup/knownlinks.h"
 
 namespace cleanup {
-
 namespace {
 
 // Where the first folder begins: behind the drive's backslash, or behind server and share.

@@ -6,7 +6,6 @@
 #include "runtime/text.h"
 
 namespace cleanup {
-
 namespace {
 
 // The last two with a digit from 1 to 9 behind.

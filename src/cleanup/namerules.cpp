@@ -8,7 +8,6 @@
 #include "runtime/text.h"
 
 namespace cleanup {
-
 namespace {
 
 // Compared as they stand, on purpose: "x.TMP" is no temporary file. Question marks are no wildcards

@@ -1,7 +1,6 @@
 #include "cleanup/pathnames.h"
 
 namespace cleanup {
-
 namespace {
 
 bool IsSeparator(char character) {

@@ -19,7 +19,6 @@
 #include "toolkit/listhelpers.h"
 
 namespace cleanup {
-
 namespace {
 
 constexpr int RecentFolder = 8;  // CSIDL_RECENT

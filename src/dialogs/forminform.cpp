@@ -3,7 +3,6 @@
 #include <algorithm>
 
 namespace dialogs {
-
 namespace {
 
 // One direction: a stretch of `size` in the middle of the parent's, within the screen's.

@@ -4,7 +4,6 @@
 #include "toolkit/controls.h"
 
 namespace dialogs {
-
 namespace {
 
 using controls::chameleonButton;

@@ -39,8 +39,8 @@ class Workstation {
 
     // NetWkstaUserEnum on level 1 with no limit to a batch. `server` is a name behind two
     // backslashes. Replaces the batch, without giving an earlier one's buffer back, and returns the
-    // call's code; with any but the two above the batch is empty, and the buffer may be
-    // the earlier one still.
+    // call's code; with any but the two above the batch is empty, and the buffer may be the earlier
+    // one still.
     virtual std::uint32_t EnumerateUsers(const std::string& server,
                                          UserEnumeration& enumeration) const = 0;
 

@@ -10,7 +10,6 @@
 #include "runtime/failure.h"
 
 namespace sys {
-
 namespace {
 
 // The eight characters in which the system leaves a number of 64 bits.

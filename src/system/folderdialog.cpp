@@ -5,7 +5,6 @@
 #include "platform/shell.h"
 
 namespace sys {
-
 namespace {
 
 using platform::FolderDialog;

@@ -3,7 +3,6 @@
 #include "runtime/failure.h"
 
 namespace contract {
-
 namespace {
 
 // The simulated clock may be set; what it shows afterwards is what a setting comes to.

@@ -23,7 +23,6 @@
 #include "toolkit/form.h"
 
 namespace contract {
-
 namespace {
 
 namespace win32 = platform::win32;

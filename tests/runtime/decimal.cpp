@@ -104,8 +104,9 @@ TEST_CASE("the ends of the doubles are met: the largest, the smallest, none and 
 
 TEST_CASE("a double becomes the digits that the C library prints") {
     std::mt19937_64 dice(3);
-    for (int i = 0; i < Samples; ++i)
+    for (int i = 0; i < Samples; ++i) {
         CheckDigits(AnyNumber(dice), 1 + static_cast<int>(dice() % 17));
+    }
     for (int power = -1074; power < 1024; ++power) CheckDigits(std::ldexp(1.0, power), 15);
     for (int power = -323; power <= 308; ++power) {
         const double number = Library("1", power + 1);

@@ -3,7 +3,6 @@
 #include <utility>
 
 namespace contract {
-
 namespace {
 
 void Send(SOCKET client, const ServerAnswer& answer) {

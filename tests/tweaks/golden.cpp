@@ -125,8 +125,9 @@ std::string AbsentState(const std::string& checkBox) {
     constexpr std::string_view Absent = "; absent: ";
     for (const Fact& fact : FactsDecidedBy(checkBox)) {
         const std::size_t at = fact.read.find(Absent);
-        if (fact.IsCheckBox() && at != std::string::npos)
+        if (fact.IsCheckBox() && at != std::string::npos) {
             return fact.read.substr(at + Absent.size());
+        }
     }
     return "";
 }

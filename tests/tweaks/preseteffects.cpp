@@ -22,8 +22,9 @@ struct Effects : Presets {
         Press(preset);
         Lines doings;
         for (const std::string& line : machine.journal.Lines()) {
-            if (line.starts_with("SaveSetting") || line.starts_with("Start"))
+            if (line.starts_with("SaveSetting") || line.starts_with("Start")) {
                 doings.push_back(line);
+            }
         }
         return doings;
     }

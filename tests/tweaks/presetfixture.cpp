@@ -26,8 +26,9 @@ std::string Shown(const toolkit::Control* control) {
     if (auto* slider = dynamic_cast<const toolkit::Slider*>(control)) {
         return std::to_string(slider->Value());
     }
-    if (auto* text = dynamic_cast<const toolkit::TextBox*>(control))
+    if (auto* text = dynamic_cast<const toolkit::TextBox*>(control)) {
         return '"' + text->Text() + '"';
+    }
     if (auto* combo = dynamic_cast<const toolkit::ComboBox*>(control)) {
         return '"' + combo->Text() + '"';
     }

@@ -264,8 +264,9 @@ Fact FactAt(const Option& option, const ValuePlace& own, const ValuePlace& place
 std::vector<Fact> FactsOf(const Option& option) {
     std::vector<Fact> facts;
     ValuePlace own = option.place;
-    for (const ValuePlace& place : PlacesOf(option, own))
+    for (const ValuePlace& place : PlacesOf(option, own)) {
         facts.push_back(FactAt(option, own, place));
+    }
     if (option.laterKey) {
         own.key = option.laterKey;
         for (const ValuePlace& place : PlacesOf(option, own)) {

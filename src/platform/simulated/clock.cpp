@@ -5,7 +5,6 @@
 #include "platform/simulated/faults.h"
 
 namespace platform::simulated {
-
 namespace {
 
 int DaysIn(int month, int year) {

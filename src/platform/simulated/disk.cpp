@@ -6,7 +6,6 @@
 #include "runtime/text.h"
 
 namespace platform::simulated {
-
 namespace {
 
 // A path leads through so many links at most.

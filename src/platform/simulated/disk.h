@@ -48,9 +48,8 @@ struct DiskNode {
 std::string ShortName(const std::string& name);
 
 // A disk in memory for all services that work on files. Paths are compared without regard to case
-// and may hold short names;
-// a drive is there as soon as something is put on it. Roots of drives are hidden system folders,
-// as those of NTFS are.
+// and may hold short names; a drive is there as soon as something is put on it. Roots of drives are
+// hidden system folders, as those of NTFS are.
 class Disk {
   public:
     enum class Last { Follow, Keep };

@@ -9,7 +9,6 @@
 #include "runtime/text.h"
 
 namespace platform::simulated {
-
 namespace {
 
 std::string_view DirectoryOf(std::string_view path) {
@@ -121,8 +120,9 @@ const DiskNode& Files::Readable(Journal::Place line, std::string_view path, bool
     const bool isRead = std::any_of(open_.begin(), open_.end(), [&](const auto& entry) {
         return entry.second.path == place && !entry.second.forWriting;
     });
-    if (isRead || node->held || (alone && node->shared))
+    if (isRead || node->held || (alone && node->shared)) {
         ThrowFault(journal_, line, runtime::PermissionDenied);
+    }
     return *node;
 }
 

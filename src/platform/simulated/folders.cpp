@@ -7,7 +7,6 @@
 #include "runtime/text.h"
 
 namespace platform::simulated {
-
 namespace {
 
 // The search for what is in a folder adds a backslash and an asterisk.

@@ -11,7 +11,6 @@
 #include "runtime/mistake.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr std::uint32_t MostBytes = 0x40000000;

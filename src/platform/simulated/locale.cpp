@@ -4,7 +4,6 @@
 #include <cstdio>
 
 namespace platform::simulated {
-
 namespace {
 
 // The characters of the bytes 0x80 to 0x9F; all others stand for themselves.

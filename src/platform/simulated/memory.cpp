@@ -8,7 +8,6 @@
 #include "runtime/failure.h"
 
 namespace platform::simulated {
-
 namespace {
 
 // Two gigabytes: more than a program has room for.

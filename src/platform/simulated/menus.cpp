@@ -9,7 +9,6 @@
 #include "toolkit/popupmenu.h"
 
 namespace platform::simulated {
-
 namespace {
 
 // The name and then the captions, with a stroke for each separator.

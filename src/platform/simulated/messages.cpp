@@ -8,7 +8,6 @@
 #include "platform/simulated/wording.h"
 
 namespace platform::simulated {
-
 namespace {
 
 // The first entry with that title, taken out of the queue.

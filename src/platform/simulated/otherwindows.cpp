@@ -8,7 +8,6 @@
 #include "runtime/text.h"
 
 namespace platform::simulated {
-
 namespace {
 
 std::string WindowNumber(OtherWindows::Handle window) {

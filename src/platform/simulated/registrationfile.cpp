@@ -8,7 +8,6 @@
 #include "platform/simulated/registry.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr std::string_view Header = "Windows Registry Editor Version 5.00";

@@ -10,7 +10,6 @@
 #include "platform/simulated/wording.h"
 
 namespace platform::simulated {
-
 namespace {
 
 using Result = Registry::Result;

@@ -5,7 +5,6 @@
 #include "platform/simulated/locale.h"
 
 namespace platform::simulated {
-
 namespace {
 
 std::uint8_t Upper(char c) {

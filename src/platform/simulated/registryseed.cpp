@@ -6,7 +6,6 @@
 #include "platform/simulated/registrynode.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr std::uint32_t NoValues = 0xFFFFFFFF;
@@ -105,8 +104,9 @@ int Registry::OpenHandles() const {
 }
 
 const Registry::NodeRef& Registry::Root(Key root) const {
-    if (root < ClassesRoot || root > LocalMachine)
+    if (root < ClassesRoot || root > LocalMachine) {
         throw std::logic_error("no root of the registry");
+    }
     return roots_[root - ClassesRoot];
 }
 

@@ -6,7 +6,6 @@
 #include "runtime/text.h"
 
 namespace platform::simulated {
-
 namespace {
 
 std::string Joined(std::string_view title, std::string_view section, std::string_view key) {

@@ -10,7 +10,6 @@
 #include "toolkit/form.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr std::int32_t InvalidParameter = 87;

@@ -8,7 +8,6 @@
 #include "runtime/failure.h"
 
 namespace platform::simulated {
-
 namespace {
 
 bool IsKnown(const std::string& host) {

@@ -7,7 +7,6 @@
 #include "runtime/failure.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr int SecondsEast = 3600;

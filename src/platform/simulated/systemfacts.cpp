@@ -7,7 +7,6 @@
 #include "runtime/text.h"
 
 namespace platform::simulated {
-
 namespace {
 
 // The buffers hold that many bytes, the terminating NUL among them.

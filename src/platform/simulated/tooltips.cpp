@@ -6,7 +6,6 @@
 #include "platform/simulated/wording.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr char WindowClass[] = "tooltips_class32";

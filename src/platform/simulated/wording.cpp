@@ -4,7 +4,6 @@
 #include "platform/simulated/registry.h"
 
 namespace platform::simulated {
-
 namespace {
 
 constexpr char Digits[] = "0123456789ABCDEF";

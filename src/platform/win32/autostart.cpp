@@ -4,7 +4,6 @@
 #include "platform/win32/uservalue.h"
 
 namespace platform::win32 {
-
 namespace {
 
 constexpr wchar_t RunKey[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Run";

@@ -9,7 +9,6 @@
 #include "runtime/programtitle.h"
 
 namespace platform::win32 {
-
 namespace {
 
 void Tell(platform::Messages& messages, int number, const std::string& description) {

@@ -9,7 +9,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 class OpenDialog final : public FolderDialog {

@@ -8,7 +8,6 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
-
 namespace {
 
 struct SearchTraits {
@@ -87,8 +86,9 @@ std::vector<FolderEntry> Folders::List(std::string_view path) {
         throw FolderFailure(GetLastError());
     }
     do {
-        if (!IsDots(data.cFileName))
+        if (!IsDots(data.cFileName)) {
             entries.push_back(ToEntry(FromWide(data.cFileName), data, clock));
+        }
     } while (FindNextFileW(search.Get(), &data));
     if (GetLastError() != ERROR_NO_MORE_FILES) throw FolderFailure(GetLastError());
     return entries;

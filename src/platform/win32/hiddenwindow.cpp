@@ -1,7 +1,6 @@
 #include "platform/win32/hiddenwindow.h"
 
 namespace platform::win32 {
-
 namespace {
 
 constexpr wchar_t ClassName[] = L"QuillmoreHidden";

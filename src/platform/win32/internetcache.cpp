@@ -10,7 +10,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 using Info = INTERNET_CACHE_ENTRY_INFOA;

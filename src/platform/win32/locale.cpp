@@ -5,7 +5,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // A sign of at most one character; `usual` when the user's settings hold none.

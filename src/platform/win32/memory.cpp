@@ -8,7 +8,6 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // A block as large as this comes from the system itself and goes back to it at once.

@@ -4,7 +4,6 @@
 #include "toolkit/popupmenu.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // An item's id is its place, counted from 1.

@@ -7,7 +7,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // The window over which a box belongs. None while the program is in the background or all its

@@ -5,7 +5,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 static_assert(sizeof(TIME_OF_DAY_INFO) == 48);

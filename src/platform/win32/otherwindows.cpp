@@ -5,7 +5,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 HWND Window(OtherWindows::Handle handle) {

@@ -5,7 +5,6 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
-
 namespace {
 
 int FailureNumberOf(DWORD error) {

@@ -7,7 +7,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 bool IsBlank(wchar_t character) {

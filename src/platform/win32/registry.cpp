@@ -8,7 +8,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // Key handles of a 32-bit process, the predefined ones among them, fit into 32 bits as they are.

@@ -3,7 +3,6 @@
 #include "platform/win32/handle.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // Restarting and switching off need a privilege that an administrator's token holds disabled.

@@ -5,7 +5,6 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
-
 namespace {
 
 std::wstring PathOf(std::string_view title, std::string_view section) {

@@ -9,7 +9,6 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
-
 namespace {
 
 // Each connection has a message of its own, so that one under way is known for what it tells of

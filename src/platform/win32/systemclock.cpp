@@ -3,7 +3,6 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
-
 namespace {
 
 SYSTEMTIME Now() {

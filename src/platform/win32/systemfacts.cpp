@@ -6,7 +6,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 constexpr DWORD BufferSize = 255;

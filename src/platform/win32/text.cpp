@@ -3,7 +3,6 @@
 #include <windows.h>
 
 namespace platform::win32 {
-
 namespace {
 
 // No code page makes more characters than there are bytes.

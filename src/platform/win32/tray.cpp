@@ -10,7 +10,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 constexpr UINT TrayMessage = WM_APP + 1;

@@ -5,7 +5,6 @@
 #include "platform/win32/handle.h"
 
 namespace platform::win32 {
-
 namespace {
 
 RegistryKey OpenUserKey(const std::wstring& path, REGSAM access) {

@@ -5,7 +5,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 static_assert(sizeof(WKSTA_USER_INFO_1) == 16);

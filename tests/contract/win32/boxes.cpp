@@ -3,7 +3,6 @@
 #include "platform/win32/text.h"
 
 namespace contract {
-
 namespace {
 
 // The text's static control in every message box.

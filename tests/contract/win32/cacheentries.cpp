@@ -7,7 +7,6 @@
 #include <stdexcept>
 
 namespace contract {
-
 namespace {
 
 // Larger than any record here.

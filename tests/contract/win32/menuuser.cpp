@@ -5,7 +5,6 @@
 #include "platform/win32/text.h"
 
 namespace contract {
-
 namespace {
 
 // What a menu's window answers with its menu's handle.

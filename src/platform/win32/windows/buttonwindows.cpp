@@ -4,7 +4,6 @@
 #include "toolkit/form.h"
 
 namespace platform::win32 {
-
 namespace {
 
 bool ArrowIsDown() {

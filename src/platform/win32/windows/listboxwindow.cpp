@@ -36,8 +36,8 @@ void ListBoxWindow::ShowItems() {
     }
 }
 
-// The class scrolls as far as it is told. Few letters are wider than
-// this one, so most lines need no measuring.
+// The class scrolls as far as it is told. Few letters are wider than this one, so most lines need
+// no measuring.
 void ListBoxWindow::MakeRoomFor(const std::string& item, const std::wstring& text) {
     if (static_cast<int>(item.size()) * letter_ <= widest_) return;
     const int own = surroundings_.screen.WidthOf(text);

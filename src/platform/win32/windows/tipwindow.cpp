@@ -3,7 +3,6 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
-
 namespace {
 
 TTTOOLINFOW ToolOf(HWND control) {
