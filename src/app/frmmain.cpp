@@ -192,6 +192,7 @@ void frmMain::ShowDialog(Form& dialog) {
     }
 }
 
+// With the taskbar entry, so that the next closing stores the window's place again.
 void frmMain::ComeBackFromTray() {
     SetState(toolkit::WindowState::Normal);
     SetInTaskbar(true);

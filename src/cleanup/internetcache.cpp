@@ -63,7 +63,7 @@ void FillCacheList(InternetCache& cache, const platform::Locale& locale, toolkit
     CacheBlock& block = reading.block;
     bool found = false;
     // The first question bears the pattern "0" and the reading none, on purpose: a cache that knows
-    // nothing by that pattern is not listed at all.
+    // nothing by that pattern, such as Wine's, is not listed at all.
     if (cache.FindFirst("0", 0, block.size, search) == InternetCache::InsufficientBuffer) {
         block.start = MakeBlock(cache, block.size);
         std::uint32_t size = block.size;

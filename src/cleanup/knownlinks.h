@@ -20,7 +20,8 @@ class KnownLinks {
     bool LeadTo(const platform::Folders& folders, const std::string& path) const;
 
   private:
-    // As they were seen; a link that is led elsewhere gets another time.
+    // As they were seen, by attributes and time in whole seconds; a link that is led elsewhere gets
+    // another time. Where it leads is not compared, nor where a drive's letter leads.
     std::map<std::string, platform::FolderEntry> links_;
 };
 

@@ -186,6 +186,7 @@ void TempFileSearch::AddSizes(std::int32_t& total) const {
 
 void TempFileSearch::ShowResult(std::int32_t total) {
     toolkit::AdjustColumnWidth(frame_.lvwFiles, true, 1);
+    // The scanned path is past.
     frame_.lblScannedFiles.SetToolTip("");
     frame_.lblScannedFiles.SetCaption("Suchvorgang abgeschlossen!");
     const int rows = frame_.lvwFiles.Count();

@@ -35,7 +35,8 @@ class frmAbout final : public toolkit::Form {
 
     platform::Machine machine_;
     const std::string& version_;
-    // 0 to 255. The fade-in goes through the odd numbers from 1 to 255, in 127 ticks.
+    // 0 to 255. The fade-in goes through the odd numbers from 1 to 255, in 127 ticks; the fade-out
+    // ends at 4 or less, with its 126th.
     int alpha_ = 0;
     // 0 while disabled.
     Timer tmrBlend_ = 0;

@@ -224,6 +224,7 @@ int frmInstalledSoftware::SelectedIndex() const {
 
 void frmInstalledSoftware::SelectIndex(int index) {
     const int row = index - 1;
+    // A failure about a row that has gone would deny a deletion that was done.
     if (!lvwSoftware_.Has(row)) return;
     lvwSoftware_.SetSelected(row, true);
     lvwSoftware_.EnsureVisible(row);

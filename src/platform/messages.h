@@ -24,7 +24,8 @@ class Messages {
     virtual ~Messages() = default;
 
     // Shows the box over the program's active window and returns the answer's code, or 0, which is
-    // no answer, when the box cannot be shown. Line ends in the text are CR LF.
+    // no answer, when the box cannot be shown: nothing is written, removed, started or closed for
+    // it. Line ends in the text are CR LF.
     virtual int Show(std::string_view text, int style, std::string_view title) = 0;
 };
 

@@ -21,7 +21,8 @@ class SystemFacts {
     virtual ~SystemFacts() = default;
 
     // GetWindowsDirectoryA and GetSystemDirectoryA, in buffers of 255 characters; without a
-    // trailing backslash, "" on failure.
+    // trailing backslash, also in the root of a drive, as all that is put behind begins with one;
+    // "" on failure.
     virtual std::string WindowsDirectory() const = 0;
     virtual std::string SystemDirectory() const = 0;
 

@@ -29,7 +29,8 @@ enum FailureNumber : int {
 
 // The one exception of the program. A procedure that meets it takes one of three policies at its
 // head: report it (app/errorlog.h), show a message of its own, or skip the statement (Skip below).
-// A procedure without a policy lets it pass to its caller.
+// A procedure without a policy lets it pass to its caller. Lack of memory (std::bad_alloc) is
+// neither skipped nor logged: it ends the event, or the start.
 class Failure : public std::exception {
   public:
     // With the platform's German text for the number and the program as source.

@@ -8,6 +8,8 @@
 // Numbers as the user types them. One grammar decides for the whole program what is numeric:
 // blanks around are ignored; one sign, before or behind; digits with the locale's decimal sign and
 // grouping sign; an exponent after e, E, d or D; or the forms &H (hexadecimal) and &O (octal).
+// Blanks may stand between sign and digits. A grouping sign needs a digit before it, and of two in
+// a row one is idle (where the point groups, "1..5" is 15). The &H and &O forms take no sign.
 namespace runtime {
 
 // The signs that the user's locale puts into numbers; German by default. Each is one character.

@@ -80,6 +80,7 @@ void Highlight(Label& label) {
     label.SetTextColour(toolkit::Red);
 }
 
+// Links, of which the tabulator stops at the first: 24 stops would bar the way to what follows.
 Label& AddLauncherLabel(toolkit::Form& form, const Row& row, const Launchers& launchers) {
     auto& label = form.Add<Label>(row.name, row.caption, toolkit::LabelStyle::Link);
     label.onClick = [&row, &launchers] { Launch(launchers, row); };

@@ -21,7 +21,7 @@ constexpr char EncodingKeyToWrite[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Setting
 
 // The only option that runs a command from the pass: the library is registered or unregistered
 // anew in every pass. The settings remember the opposite of the box: whether the library is
-// registered.
+// registered. A command that cannot be started ends the pass before that is stored.
 void WritePreviewLibrary(const PassContext& pass, const Option& option) {
     WriteByRow(pass, option);
     const bool previewOff = IsOn(pass, option.control);

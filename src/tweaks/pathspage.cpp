@@ -100,7 +100,8 @@ Box RowOfPath(Form& form, const platform::Machine& machine, std::size_t index) {
 }
 
 // Drive C and the German names whatever the machine's own are, on purpose; only the folder of the
-// programs follows the drive of Windows. The user's name is asked for anew by each of his rows.
+// programs follows the drive of Windows. The user's name is asked for anew by each of his rows. An
+// untold name or directory leaves its part of the path empty.
 std::string DefaultPath(const PathRow& row, const platform::SystemFacts& facts) {
     switch (row.base) {
         case Base::AllUsers:

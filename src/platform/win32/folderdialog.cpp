@@ -17,7 +17,8 @@ class OpenDialog final : public FolderDialog {
 
     void Send(std::uint32_t message, std::string_view text) override {
         const std::string bytes = ToAnsi(text);
-        // The dialog takes a selection as a path, and not as an item, when told so by TRUE.
+        // The dialog takes a selection as a path, and not as an item, when told so by TRUE. For the
+        // text of its status line it does not look at that.
         SendMessageA(window_, message, TRUE, reinterpret_cast<LPARAM>(bytes.c_str()));
     }
     std::optional<std::string> SelectedPath() const override { return PathOf(selected_); }

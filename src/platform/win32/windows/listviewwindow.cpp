@@ -9,7 +9,8 @@
 namespace platform::win32 {
 namespace {
 
-// Of a fresh column, and of a header beside its text, in pixels at 96 dots per inch.
+// Of a fresh column whose header needs no more, and of a header beside its text, in pixels at 96
+// dots per inch.
 constexpr int ColumnWidth = 96;
 constexpr int HeaderEdges = 18;
 
