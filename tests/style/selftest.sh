@@ -1,6 +1,6 @@
 #!/bin/bash
 # Each forbidden thing is found in a folder that holds nothing else, and clean text passes; so are
-# two files' own functions of one name.
+# two files' own functions of one name, paths that lead nowhere, and what breaks the plan of the rooms.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
@@ -45,6 +45,26 @@ Own 'int Thrice(int number) { return 3 * number; } using Word = int;' >"$work/ro
 if ! "$here/names.sh" "$work"; then
     failures=$((failures + 1))
 fi
+
+mkdir -p "$work"/papers/{docs,src/low}
+touch "$work/papers/src/low/a.h"
+Names() {
+    echo "See $1." >"$work/papers/docs/paper.md"
+    "$here/paths.sh" "$work/papers" 2>/dev/null
+}
+for path in '`src/low/a.h`' 'src/low/' '`src/low/a.h`, and `build/src/b.h`' \
+    '`src/platform/uptime.h`, src/low' '`src/low/a.h` and `src/low/b*.h`'; do
+    if ! Names "$path"; then
+        echo "taken for missing: $path" >&2
+        failures=$((failures + 1))
+    fi
+done
+for path in '`src/low/b.h`' 'src/high/' '`docs/other.md` and `src/low/a.h`' 'no path'; do
+    if Names "$path"; then
+        echo "not found missing: $path" >&2
+        failures=$((failures + 1))
+    fi
+done
 
 # A house of two rooms and a suite; each change of it breaks one rule of its plan.
 House() {
