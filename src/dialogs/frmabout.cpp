@@ -117,6 +117,8 @@ void frmAbout::OnUnload() {
     Disable(tmrOut_);
 }
 
+// Only a browser that cannot be created is told of here; one that refuses ends in the platform's
+// default message.
 void frmAbout::Label1_Click() {
     std::unique_ptr<platform::BrowserWindow> browser;
     try {

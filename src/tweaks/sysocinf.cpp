@@ -39,8 +39,8 @@ std::string Without(std::string_view word, std::string_view text) {
     return result;
 }
 
-// Line by line, as sequential text input reads: CR or CR LF ends a line. Each line gets CR LF, the
-// last one too.
+// Line by line, as sequential text input reads: CR or CR LF ends a line, a lone LF and a 1A do not.
+// Each line gets CR LF, the last one too.
 std::string LinesOf(std::string_view content) {
     std::string text;
     text.reserve(content.size() + 2);
