@@ -1,5 +1,7 @@
 #include "cleanup/knownlinks.h"
 
+#include "cleanup/literalpath.h"
+
 namespace cleanup {
 namespace {
 
@@ -31,6 +33,10 @@ void KnownLinks::Add(const platform::Folders& folders, const std::string& path) 
         if (entry && entry->IsLink()) links_[folder] = *entry;
         return true;
     });
+}
+
+bool KnownLinks::AllowRemoval(const platform::Folders& folders, const std::string& path) const {
+    return IsTakenLiterally(path) && LeadTo(folders, path);
 }
 
 bool KnownLinks::LeadTo(const platform::Folders& folders, const std::string& path) const {

@@ -16,6 +16,9 @@ class KnownLinks {
     // The path itself and the folders above it, those of them that are links.
     void Add(const platform::Folders& folders, const std::string& path);
 
+    // Whether the path still names what the search found there, so that it may be removed.
+    bool AllowRemoval(const platform::Folders& folders, const std::string& path) const;
+
     // Whether all folders above the path can be looked at, and each link among them is known.
     bool LeadTo(const platform::Folders& folders, const std::string& path) const;
 

@@ -5,7 +5,6 @@
 #include "cleanup/deletefolder.h"
 #include "cleanup/drivespacelabels.h"
 #include "cleanup/knownlinks.h"
-#include "cleanup/literalpath.h"
 #include "cleanup/recyclebin.h"
 #include "cleanup/tempfilesframe.h"
 #include "platform/files.h"
@@ -61,8 +60,9 @@ class Removal {
     int RemoveRows() const;
 
   private:
-    // Whether the path still names what the search found there.
-    bool MayTouch(const std::string& path) const;
+    bool MayTouch(const std::string& path) const {
+        return links_.AllowRemoval(machine_.folders, path);
+    }
     bool IsInUse(const std::string& path) const;
     void RemoveFile(const std::string& path) const;
     void RemoveFolder(const std::string& path) const;
@@ -97,10 +97,6 @@ int Removal::RemoveRows() const {
         if (row.isFolder) RemoveFolder(row.path);
     }
     return failed;
-}
-
-bool Removal::MayTouch(const std::string& path) const {
-    return IsTakenLiterally(path) && links_.LeadTo(machine_.folders, path);
 }
 
 // What cannot be opened for another reason than that, a folder for instance, is not in use. A path

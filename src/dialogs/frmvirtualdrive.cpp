@@ -4,6 +4,7 @@
 
 #include "controls/chameleonbutton.h"
 #include "dialogs/substcommands.h"
+#include "dialogs/substoutput.h"
 #include "dialogs/systemreport.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -48,7 +49,6 @@ constexpr platform::Registry::Key RunRoot = 2;
 constexpr int MaximumCount = 32767;
 
 constexpr const char* OutputName = "tmpout.txt";
-constexpr const char* DriveSeparator = "=>";
 
 // The column with the volume's name.
 constexpr int VolumeColumn = 1;
@@ -192,22 +192,12 @@ void frmVirtualDrive::ReadSubstList() {
     toolkit::AdjustColumnWidth(lstDrives_, true, 1);
 }
 
-// A part that an item lacks is a statement that fails, so the row before lends it its own. Such is
-// the second half of a path with a comma in it. A later reading has the list for itself.
-//
-// The file is read in the ANSI code page, like every text. XP's shell writes redirected output in
-// the OEM code page, so an umlaut in a path is shown there as another sign. No command is made of
-// what the path's column shows.
+// A later reading has the list for itself.
 void frmVirtualDrive::AddRows(const std::string& output, int reading) {
-    int number = 0;
-    std::string drive;
-    std::string path;
-    for (const std::string& item : ItemsOf(output)) {
-        if (reading != readings_ || number == MaximumCount) return;
-        const auto parts = Split(machine_.locale.FromAnsi(item), DriveSeparator);
-        if (parts.size() > 0) drive = runtime::Left(parts[0], 2);
-        if (parts.size() > 1) path = runtime::Trim(parts[1]);
-        AddRow(++number, drive, path);
+    SubstOutput drives(output, machine_.locale);
+    for (int number = 0; number < MaximumCount && drives.Next();) {
+        if (reading != readings_) return;
+        AddRow(++number, drives.Drive(), drives.Path());
         machine_.forms.DoEvents();
     }
 }

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/registry.h"
 
@@ -34,11 +33,5 @@ void RunKeyDelete(platform::Registry& registry, platform::Registry::Key root, st
 
 // The path in 8.3 form; "" when nothing is there, or when it has 164 characters or more.
 std::string ShortPath(const platform::Folders& folders, std::string_view path);
-
-// The items of a text as they are read one after the other: each ends at a comma or a line's end.
-std::vector<std::string> ItemsOf(std::string_view bytes);
-
-// The parts of a text between the separators; none for "".
-std::vector<std::string> Split(std::string_view text, std::string_view separator);
 
 }  // namespace dialogs

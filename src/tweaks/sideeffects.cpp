@@ -2,14 +2,12 @@
 
 #include <cstdint>
 
-#include "platform/locale.h"
 #include "platform/machine.h"
 #include "platform/messages.h"
 #include "platform/settings.h"
 #include "registry/registry.h"
-#include "runtime/number.h"
-#include "toolkit/combobox.h"
 #include "toolkit/form.h"
+#include "tweaks/receivewindow.h"
 #include "tweaks/registerlibrary.h"
 #include "tweaks/sysocinf.h"
 
@@ -19,15 +17,10 @@ namespace {
 using platform::Machine;
 using platform::Settings;
 using toolkit::CheckBox;
-using toolkit::ComboBox;
 
 constexpr char RecycleBinKey[] =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace\\"
     "{645FF040-5081-101B-9F08-00AA002F954E}";
-
-// The bytes of both headers that do not belong to a packet's content.
-constexpr double HeaderBytes = 40;
-constexpr double SegmentsInWindow = 4;
 
 // A state is remembered before its effect is tried.
 void Remember(const Machine& machine, const char* section, const char* key, bool on) {
@@ -84,14 +77,6 @@ constexpr Click Clicks[] = {
     {"chkScanAll", ScanAll},
 };
 
-// The receive window follows the packet size, down below zero where the user has typed only the
-// first digits. An entry of his own lasts until the next change.
-void FollowPacketSize(const ComboBox& packet, toolkit::TextBox& window,
-                      const platform::Locale& locale) {
-    const double size = runtime::LeadingNumber(packet.Text());
-    window.SetText(runtime::ToText((size - HeaderBytes) * SegmentsInWindow, locale.Signs()));
-}
-
 }  // namespace
 
 void ConnectSideEffects(toolkit::Form& form, const Machine& machine) {
@@ -100,15 +85,7 @@ void ConnectSideEffects(toolkit::Form& form, const Machine& machine) {
         if (!box) continue;
         box->onClick = [box, effect = click.effect, machine] { effect(*box, machine); };
     }
-    auto* packet = dynamic_cast<ComboBox*>(form.FindControl("cboMTU"));
-    auto* window = dynamic_cast<toolkit::TextBox*>(form.FindControl("txtRWIN"));
-    if (packet && window) {
-        const auto follow = [packet, window, &locale = machine.locale] {
-            FollowPacketSize(*packet, *window, locale);
-        };
-        packet->onChange = follow;
-        packet->onClick = follow;
-    }
+    ConnectReceiveWindow(form, machine.locale);
 }
 
 }  // namespace tweaks
