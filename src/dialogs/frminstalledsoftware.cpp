@@ -12,7 +12,7 @@
 #include "runtime/failure.h"
 #include "runtime/number.h"
 #include "runtime/temporarily.h"
-#include "system/processend.h"
+#include "system/processwait.h"
 #include "toolkit/controls.h"
 #include "toolkit/keys.h"
 #include "toolkit/listhelpers.h"

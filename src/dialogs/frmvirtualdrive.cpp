@@ -18,7 +18,7 @@
 #include "runtime/number.h"
 #include "runtime/text.h"
 #include "system/folderdialog.h"
-#include "system/processend.h"
+#include "system/processwait.h"
 #include "toolkit/combobox.h"
 #include "toolkit/controls.h"
 #include "toolkit/keys.h"

@@ -3,7 +3,7 @@
 #include "platform/messages.h"
 #include "platform/processes.h"
 #include "platform/shell.h"
-#include "system/shellwait.h"
+#include "system/processwait.h"
 #include "system/systemdirectorypaths.h"
 
 namespace tools {

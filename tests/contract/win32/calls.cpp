@@ -19,7 +19,7 @@
 #include "platform/win32/messages.h"
 #include "platform/win32/shell.h"
 #include "support/standinfunction.h"
-#include "system/shellwait.h"
+#include "system/processwait.h"
 
 // Where the code of this program finds the system's functions.
 extern "C" {

@@ -1,4 +1,4 @@
-#include "system/processend.h"
+#include "system/processwait.h"
 
 #include "platform/machine.h"
 #include "platform/processes.h"
@@ -32,6 +32,22 @@ bool WaitForProcessEnd(const platform::Machine& machine, std::int32_t processId)
     }
     processes.Close(process);
     return code.value_or(0) != 0;
+}
+
+bool ShellWait(Processes& processes, std::string_view cmdline, bool bShowApp) {
+    constexpr std::uint32_t normalPriorityClass = 32;
+    constexpr std::uint32_t useShowWindow = 1;
+    const Processes::StartupInfo startup{
+        // Two less than the platform's record has, on purpose: the record as this program counts
+        // it. The platform does not mind.
+        .cb = 66,
+        .dwFlags = useShowWindow,
+        .wShowWindow = static_cast<std::uint16_t>(bShowApp ? Processes::NormalWindow
+                                                           : Processes::HiddenWindow),
+    };
+    const auto process = processes.Create(cmdline, normalPriorityClass, startup);
+    processes.WaitForEnd(process);
+    return processes.Close(process);
 }
 
 }  // namespace sys

@@ -1,4 +1,4 @@
-#include "system/shellwait.h"
+#include "system/processwait.h"
 
 #include <doctest/doctest.h>
 

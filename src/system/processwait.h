@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace platform {
 class Processes;
@@ -16,5 +17,10 @@ bool IsProcessActive(platform::Processes& processes, std::int32_t processId);
 // it may be called again before it returns. True when the process reported a failure, which is an
 // exit code other than 0. A process that has gone before it could be asked counts as well ended.
 bool WaitForProcessEnd(const platform::Machine& machine, std::int32_t processId);
+
+// Starts a process and blocks until it has ended, without a limit; no event gets through meanwhile.
+// `bShowApp` asks for a visible window. The result is that of closing the process' handle, so it is
+// false when the start failed, which is not looked at by itself.
+bool ShellWait(platform::Processes& processes, std::string_view cmdline, bool bShowApp);
 
 }  // namespace sys
