@@ -19,10 +19,10 @@ class KnownLinks {
     // Whether the path still names what the search found there, so that it may be removed.
     bool AllowRemoval(const platform::Folders& folders, const std::string& path) const;
 
+  private:
     // Whether all folders above the path can be looked at, and each link among them is known.
     bool LeadTo(const platform::Folders& folders, const std::string& path) const;
 
-  private:
     // As they were seen, by attributes and time in whole seconds; a link that is led elsewhere gets
     // another time. Where it leads is not compared, nor where a drive's letter leads.
     std::map<std::string, platform::FolderEntry> links_;

@@ -38,8 +38,8 @@ class Tray;
 class Workstation;
 
 // Everything the program asks of Windows, handed to it through constructors. It is only references:
-// handed on it is a `const Machine&`, and whoever keeps it keeps a copy, which may outlive it; the
-// services outlive both.
+// handed on it is a `const Machine&`, and whoever keeps it for longer than a call keeps a copy,
+// which may outlive it; the services outlive both.
 struct Machine {
     toolkit::FormHost& forms;
     Registry& registry;

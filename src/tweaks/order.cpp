@@ -9,7 +9,7 @@ namespace {
 
 enum class Pass { Both, Read, Write };
 
-// An option and the pass that takes it at this place, which for all but five is both.
+// An option and the pass that takes it at this place, which for all but five places is both.
 struct Place {
     std::string_view name;
     Pass pass = Pass::Both;

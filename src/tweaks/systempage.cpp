@@ -71,11 +71,11 @@ Box TaskbarGroup(Form& form, const platform::Machine& machine) {
     auto pair = SliderWithBox(
         form, "Level", {.minimum = 55, .maximum = 255, .smallStep = 3, .largeStep = 51, .tick = 25},
         "txtLevelValue", machine.locale, [machine](std::int32_t level) {
-            tweaks::SetTaskbarOpacity(machine, static_cast<std::uint8_t>(level));
+            SetTaskbarOpacity(machine, static_cast<std::uint8_t>(level));
         });
     form.Find<toolkit::TextBox>("txtLevelValue").SetText("255");
     auto& icons = form.Add<toolkit::CheckBox>("chkIcons", "Transparente Icons");
-    icons.onClick = [&icons, machine] { tweaks::IconsChosen(machine, icons.Value()); };
+    icons.onClick = [&icons, machine] { IconsChosen(machine, icons.Value()); };
     return InFrame(group, toolkit::Row({pair.slider, pair.box, Leaf(icons)}));
 }
 
@@ -133,7 +133,7 @@ Box SystemButtons(Form& form, const platform::Machine& machine) {
                                  {"cmdNormal", "TX=Standard"},
                                  {"cmdOptimal", "TX=Empfohlen"}});
     form.Find<controls::chameleonButton>("cmdFreeMemory").onClick = [machine] {
-        tweaks::ReleaseMemory(machine.forms, machine.memory, machine.locale);
+        ReleaseMemory(machine.forms, machine.memory, machine.locale);
     };
     return buttons;
 }

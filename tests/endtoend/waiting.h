@@ -15,6 +15,8 @@ struct Failed : std::runtime_error {
 // can, and the distance of two looks.
 inline constexpr unsigned Patience = 60000;
 inline constexpr unsigned Step = 10;
+// After that a window that does not answer counts as blocked.
+inline constexpr unsigned Blocked = 15000;
 
 // Looks until `come` says true. Throws Failed with `what` when that takes longer than `patience`.
 void Until(const std::string& what, const std::function<bool()>& come,

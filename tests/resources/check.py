@@ -71,6 +71,11 @@ class Resources(unittest.TestCase):
         told = (GENERATED / "version.rc.h").read_text(encoding="utf-8")
         self.assertIn(f"#define VERSION_NUMBERS {version.replace('.', ',')}\n", told)
         self.assertIn(f'#define VERSION_TEXT "{version}"\n', told)
+        source = (GENERATED / "app" / "version.h").read_text(encoding="utf-8")
+        shown = [re.search(rf"int {name} = (\d+);", source).group(1)
+                 for name in ("MajorVersion", "MinorVersion", "Revision")]
+        # The third number is not shown, so no two versions may differ in it alone.
+        self.assertEqual(version.split("."), [*shown[:2], "0", shown[2]])
         manifest = (GENERATED / "Quillmore.manifest").read_text(encoding="utf-8")
         self.assertIn(f'name="Quillmore" version="{version}"', manifest)
         self.assertIn("LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\n", script)

@@ -90,7 +90,8 @@ void SystemFacts::SetSpace(char drive, DiskSpace space) {
     Volume& volume = information_.volumes[RootOf(drive)];
     volume.size = space.total;
     volume.free = space.freeToUser;
-    free_[drive] = space.free;
+    free_.erase(drive);
+    if (space.free != space.freeToUser) free_[drive] = space.free;
 }
 
 }  // namespace platform::simulated

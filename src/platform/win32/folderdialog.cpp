@@ -9,6 +9,12 @@
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
+
+static_assert(FolderDialog::Initialised == BFFM_INITIALIZED &&
+              FolderDialog::SelectionChanged == BFFM_SELCHANGED);
+static_assert(FolderDialog::SetStatusText == BFFM_SETSTATUSTEXTA &&
+              FolderDialog::SetSelection == BFFM_SETSELECTIONA);
+
 namespace {
 
 class OpenDialog final : public FolderDialog {

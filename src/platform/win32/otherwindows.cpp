@@ -2,9 +2,18 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
+
+static_assert(OtherWindows::Layered == WS_EX_LAYERED && OtherWindows::UseAlpha == LWA_ALPHA);
+static_assert(OtherWindows::SetTextBackground == LVM_SETTEXTBKCOLOR &&
+              OtherWindows::NoColour == CLR_NONE);
+static_assert(OtherWindows::KeepSize == SWP_NOSIZE && OtherWindows::KeepPlace == SWP_NOMOVE);
+static_assert(OtherWindows::ShowIt == SWP_SHOWWINDOW && OtherWindows::HideIt == SWP_HIDEWINDOW);
+
 namespace {
 
 HWND Window(OtherWindows::Handle handle) {

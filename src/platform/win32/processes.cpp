@@ -5,6 +5,10 @@
 #include "runtime/failure.h"
 
 namespace platform::win32 {
+
+static_assert(Processes::HiddenWindow == SW_HIDE && Processes::NormalWindow == SW_SHOWNORMAL);
+static_assert(Processes::StillActive == STILL_ACTIVE);
+
 namespace {
 
 int FailureNumberOf(DWORD error) {

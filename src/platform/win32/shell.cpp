@@ -12,6 +12,9 @@
 
 namespace platform::win32 {
 
+static_assert(Shell::DeleteFiles == FO_DELETE && Shell::AllowUndo == FOF_ALLOWUNDO);
+static_assert(Shell::NoProgress == FOF_SILENT && Shell::NoConfirmation == FOF_NOCONFIRMATION);
+
 ComApartment::ComApartment() : entered_(SUCCEEDED(CoInitialize(nullptr))) {}
 
 ComApartment::~ComApartment() {
