@@ -4,6 +4,7 @@
 
 #include "contract/win32/menuuser.h"
 #include "platform/win32/handle.h"
+#include "support/realmouse.h"
 #include "toolkit/popupmenu.h"
 
 namespace {
@@ -77,6 +78,7 @@ TEST_CASE("scripts read the captions of an open menu, and its separators") {
 
 TEST_CASE("a menu stands at the mouse") {
     platform::win32::Menus menus;
+    const support::RealMouse only;
     SetCursorPos(200, 150);
     contract::MenuUser user("");
     menus.Choose(TestMenu);
@@ -109,6 +111,7 @@ TEST_CASE("a menu with a place of its own stands there, wherever the mouse is") 
     platform::win32::Menus menus;
     toolkit::PopupMenu placed = TestMenu;
     placed.place = {230, 170};
+    const support::RealMouse only;
     SetCursorPos(20, 15);
     contract::MenuUser user("");
     menus.Choose(placed);
