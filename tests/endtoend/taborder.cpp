@@ -29,10 +29,13 @@ std::vector<HWND> WalkOf(HWND form) {
         PostMessageW(before, WM_KEYUP, VK_TAB, static_cast<LPARAM>(0xC0000001));
         HWND now = before;
         const DWORD since = GetTickCount();
-        // No change within this time means that the tabulator leads nowhere.
-        while (now == before && GetTickCount() - since < 500) {
+        // No change within this time means that the tabulator leads nowhere, if the program has had
+        // some turns to serve the key, which its answers show.
+        for (int turns = 0; now == before && (turns < 10 || GetTickCount() - since < 500);) {
             Sleep(1);
             now = FocusOf(form);
+            Send(form, WM_NULL);
+            ++turns;
         }
         if (now == before || now == begin) return walk;
         walk.push_back(now);
