@@ -1,7 +1,7 @@
 #include "endtoend/registryfile.h"
 
 #include "endtoend/waiting.h"
-#include "platform/simulated/registrationfile.h"
+#include "regfile/registrationfile.h"
 #include "support/golden.h"
 
 namespace endtoend {
@@ -10,24 +10,31 @@ namespace {
 constexpr char OwnSettings[] = "Software\\VB and VBA Program Settings\\Quillmore";
 constexpr char AutoStartKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-const char* RootName(platform::Registry::Key root) {
-    if (root == platform::Registry::ClassesRoot) return "HKCR";
-    return root == platform::Registry::CurrentUser ? "HKCU" : "HKLM";
-}
-
-RegistryValue ValueOf(const platform::simulated::RegistrationLine& line) {
-    if (line.text) return TerminatedText(*line.text);
-    return {line.type, {line.data.begin(), line.data.end()}};
+std::string RootName(const std::string& root) {
+    if (root == "HKEY_CLASSES_ROOT") return "HKCR";
+    if (root == "HKEY_CURRENT_USER") return "HKCU";
+    if (root == "HKEY_LOCAL_MACHINE") return "HKLM";
+    throw Failed("a registry file of the tests has no root " + root);
 }
 
 }  // namespace
 
 std::vector<RegistryFileEntry> ParseRegistryFile(const std::string& text) {
     std::vector<RegistryFileEntry> entries;
-    for (const auto& line : platform::simulated::ReadRegistrationFile(text)) {
-        if (line.removes) throw Failed("a registry file of the tests takes nothing away");
-        const ValuePlace place{RootName(line.root), line.key, line.name.value_or("")};
-        entries.push_back({place, line.name ? std::optional(ValueOf(line)) : std::nullopt});
+    try {
+        for (const regfile::Key& key : regfile::ReadText(text)) {
+            const std::string root = RootName(key.root);
+            if (key.removes) throw Failed("a registry file of the tests takes nothing away");
+            entries.push_back({{root, key.path, ""}, std::nullopt});
+            for (const regfile::Value& value : key.values) {
+                if (value.removes) throw Failed("a registry file of the tests takes nothing away");
+                entries.push_back(
+                    {{root, key.path, value.name},
+                     RegistryValue{value.type, {value.bytes.begin(), value.bytes.end()}}});
+            }
+        }
+    } catch (const regfile::Slip& slip) {
+        throw Failed("registry file, line " + std::to_string(slip.line) + ": " + slip.reason);
     }
     return entries;
 }

@@ -94,7 +94,7 @@ TEST_CASE_FIXTURE(RegistrationFile, "a minus deletes a key with all below it, or
 }
 
 TEST_CASE_FIXTURE(RegistrationFile, "a file without its header is refused") {
-    CHECK(Refusal("").ends_with("the header is missing"));
+    CHECK(Refusal("").ends_with("Die Kopfzeile \"Windows Registry Editor Version 5.00\" fehlt."));
     CHECK(Refusal("REGEDIT4\n").starts_with("registration file, line 1: "));
     CHECK(Refusal("\nWindows Registry Editor Version 5.00\n") != "");
 }
@@ -139,10 +139,10 @@ TEST_CASE_FIXTURE(RegistrationFile,
 
 TEST_CASE_FIXTURE(RegistrationFile, "a value before any key, or below a deleted one, is refused") {
     CHECK(Refusal("Windows Registry Editor Version 5.00\n\"v\"=dword:1")
-              .ends_with("a value without a key"));
+              .ends_with("Der Wert gehört zu keinem Schlüssel."));
     CHECK(Refuses("[-HKEY_LOCAL_MACHINE\\A]") == false);
     CHECK(RefusalOf("[-HKEY_LOCAL_MACHINE\\A]\n\"v\"=dword:1")
-              .ends_with("line 4: a value without a key"));
+              .ends_with("line 4: Der Wert gehört zu keinem Schlüssel."));
 }
 
 TEST_CASE_FIXTURE(RegistrationFile, "no cut or changed byte of a file does more than be refused") {
