@@ -1,6 +1,8 @@
 // What regedit exports, byte for byte and by hand.
 #include <doctest/doctest.h>
 
+#include <algorithm>
+
 #include "runtime/mistake.h"
 #include "units.h"
 
@@ -97,10 +99,17 @@ TEST_CASE("a name that fills the line leaves one byte on it") {
     const std::string name(75, 'n');
     CHECK(LinesOf({name, false, 3, {1, 2, 3}}) ==
           u"\"" + std::u16string(75, u'n') + u"\"=hex:01,\\\r\n  02,03");
-    // A character beyond the 16-bit plane counts as two.
-    std::string pairs;
-    for (int i = 0; i < 35; ++i) pairs += "😀";
-    CHECK(LinesOf({pairs, false, 3, {1, 2, 3}}).ends_with(u"=hex:01,\\\r\n  02,03"));
+}
+
+TEST_CASE("the line is measured in characters of 16 bits") {
+    // 20 and 40 of them, not the bytes that the name has in the program.
+    for (const auto& [name, bytes] :
+         {std::pair("üüüüüüüüüüüüüüüüüüüü", 17u), std::pair("😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀", 10u)}) {
+        CAPTURE(name);
+        const std::u16string lines = LinesOf({name, false, 3, std::vector<std::uint8_t>(30, 0x55)});
+        const auto first = lines.substr(0, lines.find(u"\r\n"));
+        CHECK(std::count(first.begin(), first.end(), u',') == bytes);
+    }
 }
 
 TEST_CASE("a text stands in quotes only where they give back its very bytes") {
