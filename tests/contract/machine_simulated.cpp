@@ -1,3 +1,4 @@
+#include "contract/layer.h"
 #include "contract/machine.h"
 #include "platform/simulated/machine.h"
 #include "runtime/failure.h"
@@ -33,6 +34,7 @@ class NotingSystemClock final : public platform::SystemClock {
 
 struct TestMachine::Inside {
     platform::simulated::Machine machine;
+    Layer layer{machine.services};
     NotingSystemClock clock{machine};
     std::uint16_t lastPort = 4000;
 };
@@ -42,11 +44,12 @@ TestMachine::TestMachine() : inside_(std::make_unique<Inside>()) {}
 TestMachine::~TestMachine() = default;
 
 platform::Machine& TestMachine::Services() {
-    return inside_->machine.services;
+    return inside_->layer.Services();
 }
 
 std::optional<Stored> TestMachine::StoredAt(platform::Registry::Key root, std::string_view path,
                                             std::string_view valueName) const {
+    if (inside_->layer.KeepsWrites()) return inside_->layer.StoredAt(root, path, valueName);
     const auto value = inside_->machine.registry.Value(root, path, valueName);
     if (!value) return std::nullopt;
     return Stored{value->type, {value->bytes.begin(), value->bytes.end()}};

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "contract/layer.h"
 #include "contract/machine.h"
 #include "contract/win32/cacheentries.h"
 #include "contract/win32/child.h"
@@ -170,6 +171,7 @@ struct TestMachine::Inside {
     std::vector<std::unique_ptr<TimeServer>> servers;
     NoForms forms;
     win32::Machine machine{forms};
+    Layer layer{machine.services};
     StandIns windows;
     CacheEntries cache;
     std::unique_ptr<MenuUser> menuUser;
@@ -191,11 +193,12 @@ TestMachine::~TestMachine() {
 }
 
 platform::Machine& TestMachine::Services() {
-    return inside_->machine.services;
+    return inside_->layer.Services();
 }
 
 std::optional<Stored> TestMachine::StoredAt(platform::Registry::Key root, std::string_view path,
                                             std::string_view valueName) const {
+    if (inside_->layer.KeepsWrites()) return inside_->layer.StoredAt(root, path, valueName);
     win32::RegistryKey key;
     if (RegOpenKeyExW(reinterpret_cast<HKEY>(root), win32::ToWide(path).c_str(), 0, KEY_QUERY_VALUE,
                       key.Out()) != ERROR_SUCCESS) {
