@@ -1,8 +1,3 @@
-# A room is one static library for one folder of src/. Its sources are listed by hand, and it uses
-# only rooms of lower floors, so the link order is the architecture; SYSTEM are libraries of Windows.
-# Files that a program of the tests replaces by one of its own are ALONE: each stays an object of its
-# own. A BUSY room is one in which the suites spend their time: optimised, it takes longer to compile
-# and less than half to run. A room of headers alone has no SOURCES.
 set(ROOM_WARNINGS
   -Wcast-qual
   -Wctor-dtor-privacy
@@ -23,6 +18,11 @@ set(ROOM_WARNINGS
   -Wunused-macros
   -Wzero-as-null-pointer-constant)
 
+# A room is one static library for one folder of src/. Its sources are listed by hand, and it uses
+# only rooms of lower floors, so the link order is the architecture; SYSTEM are libraries of Windows.
+# Files that a program of the tests replaces by one of its own are ALONE: each stays an object of its
+# own. A BUSY room is one in which the suites spend their time: optimised, it takes longer to compile
+# and less than half to run. A room of headers alone has no SOURCES.
 function(add_room name)
   cmake_parse_arguments(ROOM "BUSY" "FLOOR" "SOURCES;ALONE;USES;SYSTEM" ${ARGN})
   set(scope PUBLIC)

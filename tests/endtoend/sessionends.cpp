@@ -33,7 +33,7 @@ struct SessionlessProgram {
     }
 };
 
-struct End {
+struct SessionEnd {
     const char* button;
     // In the tray menu.
     int item;
@@ -42,7 +42,7 @@ struct End {
     std::string action;
 };
 
-const End Ends[] = {
+const SessionEnd Ends[] = {
     {"cmdShutdown(0)", 5, "Computer herunterfahren",
      "Soll der Computer wirklich heruntergefahren werden?", "8"},
     {"cmdShutdown(1)", 4, "Computer neu starten",
@@ -52,7 +52,7 @@ const End Ends[] = {
 };
 
 TEST_CASE("each button of the session asks, and Yes ends session and program") {
-    for (const End& end : Ends) {
+    for (const SessionEnd& end : Ends) {
         CAPTURE(end.title);
         const SessionlessProgram sessionless(false);
         sessionless.program.Click(end.button);
@@ -62,7 +62,7 @@ TEST_CASE("each button of the session asks, and Yes ends session and program") {
 }
 
 TEST_CASE("each item of the tray menu asks, and Yes ends session and program, forced if so set") {
-    for (const End& end : Ends) {
+    for (const SessionEnd& end : Ends) {
         CAPTURE(end.title);
         const SessionlessProgram sessionless(true);
         sessionless.user.Hide();

@@ -49,7 +49,7 @@ const Excused UsersOwnMatter{"it is the user's own matter, which no preset touch
                               "chkSHMediaDLL", "chkShowALLFiles"}};
 const Excused OfThisWindows{"it differs from one Windows to the next",
                             {"txtCompanyName", "txtOSBuild", "txtProductId", "txtUserName"}};
-const Excused Paths{
+const Excused OfPathsPage{
     "it is a path: its label says all, and its page has its own way to the standard",
     {"lblVerwaltung(0)", "lblVerwaltung(1)", "lblVerwaltung(2)", "lblVerwaltung(3)",
      "lblVerwaltung(4)", "lblVerwaltung(5)", "lblVerwaltung(6)", "lblVerwaltung(7)",
@@ -195,8 +195,8 @@ bool HoldsOption(const std::string& name) {
 
 std::vector<NameList> ListsOf(const toolkit::Form& form) {
     const std::vector<Excused> noPass{ActingAtOnce, BesideSlider, AlongWithBox, OfCleanUp};
-    const std::vector<Excused> noTip{LabelSaysAll, Paths};
-    const std::vector<Excused> noPreset{ForThisHardware, UsersOwnMatter, OfThisWindows, Paths,
+    const std::vector<Excused> noTip{LabelSaysAll, OfPathsPage};
+    const std::vector<Excused> noPreset{ForThisHardware, UsersOwnMatter, OfThisWindows, OfPathsPage,
                                         OfCleanUp};
     return {
         {"not on a page", NamesOnPages(form), {OfCleanUp}},

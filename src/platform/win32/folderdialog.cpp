@@ -34,19 +34,19 @@ class OpenDialog final : public FolderDialog {
     PCIDLIST_ABSOLUTE selected_;
 };
 
-struct Session {
+struct CallbackContext {
     const platform::Shell::FolderCallback& callback;
     platform::Messages& messages;
 };
 
 int CALLBACK Reported(HWND window, UINT message, LPARAM argument, LPARAM data) {
-    const auto& session = *reinterpret_cast<const Session*>(data);
+    const auto& context = *reinterpret_cast<const CallbackContext*>(data);
     // With the selection comes the item, with the other messages something else or nothing.
     const auto selected = message == BFFM_SELCHANGED ? reinterpret_cast<PCIDLIST_ABSOLUTE>(argument)
                                                      : PCIDLIST_ABSOLUTE{};
-    GuardEvent(session.messages, [&] {
+    GuardEvent(context.messages, [&] {
         OpenDialog dialog(window, selected);
-        session.callback(dialog, message);
+        context.callback(dialog, message);
     });
     return 0;
 }
@@ -56,7 +56,7 @@ int CALLBACK Reported(HWND window, UINT message, LPARAM argument, LPARAM data) {
 std::string Shell::BrowseForFolder(const toolkit::Form& owner, std::string_view title,
                                    std::uint32_t flags, const FolderCallback& callback) {
     const std::string shownTitle = ToAnsi(title);
-    const Session session{callback, messages_};
+    const CallbackContext context{callback, messages_};
     char displayName[MAX_PATH];
     BROWSEINFOA browse = {};
     browse.hwndOwner = forms_.WindowOf(owner);
@@ -64,7 +64,7 @@ std::string Shell::BrowseForFolder(const toolkit::Form& owner, std::string_view 
     browse.lpszTitle = shownTitle.c_str();
     browse.ulFlags = flags;
     browse.lpfn = Reported;
-    browse.lParam = reinterpret_cast<LPARAM>(&session);
+    browse.lParam = reinterpret_cast<LPARAM>(&context);
     const IdList chosen(SHBrowseForFolderA(&browse));
     return PathOf(chosen.Get()).value_or("");
 }
