@@ -8,10 +8,6 @@ namespace {
 using Key = Service::Key;
 using Result = Service::Result;
 
-bool IsRoot(Key key) {
-    return key >= Service::ClassesRoot;
-}
-
 }  // namespace
 
 Call& Recorder::Note(Call::Kind kind, Key key, std::string_view name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,8 +25,11 @@ class Registry {
     static constexpr Result AccessDenied = 5;
     static constexpr Result InvalidHandle = 6;
     static constexpr Result InvalidParameter = 87;
+    static constexpr Result BadPathName = 161;
     static constexpr Result MoreData = 234;
     static constexpr Result NoMoreItems = 259;
+    // Through a handle to a key that somebody deleted.
+    static constexpr Result KeyDeleted = 1018;
 
     // Value types.
     static constexpr std::uint32_t None = 0;
@@ -42,6 +46,15 @@ class Registry {
     static constexpr std::uint32_t MayCreateSubKey = 0x04;
     static constexpr std::uint32_t MayEnumerateSubKeys = 0x08;
     static constexpr std::uint32_t MayDoAll = 0x3F;
+
+    // Limits of the platform, names in characters of the code page.
+    static constexpr std::size_t LongestKeyName = 255;
+    static constexpr std::size_t ValueNameLimit = 16383;
+    static constexpr int DeepestKey = 512;
+    // The buffer for the names of keys, the NUL included.
+    static constexpr std::size_t EnumerationRoom = 255;
+
+    static constexpr bool IsRoot(Key key) { return key >= ClassesRoot && key <= LocalMachine; }
 
     virtual ~Registry() = default;
 
@@ -70,7 +83,7 @@ class Registry {
     // RegDeleteKeyA. A key with sub-keys stays and gives AccessDenied.
     virtual Result RemoveKey(Key parent, std::string_view path) = 0;
 
-    // RegEnumKeyA in a buffer of 255 characters: the sub-key of that index, counted from 0.
+    // RegEnumKeyA in a buffer of EnumerationRoom: the sub-key of that index, counted from 0.
     // NoMoreItems behind the last one. A name of 255 characters, the longest that there is, leaves
     // no room for its NUL and gives MoreData.
     virtual Result EnumerateKey(Key key, std::uint32_t index, std::string& name) = 0;

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "regfile/encoding.h"
 #include "regfile/places.h"
 #include "regfile/registrationfile.h"
+#include "runtime/encoding.h"
 #include "runtime/text.h"
 
 namespace regfile {
@@ -121,7 +121,7 @@ class Reader {
         if (Take("-")) {
             value.removes = true;
         } else if (rest_.starts_with('"')) {
-            const std::string units = ToUtf16(TakeText());
+            const std::string units = runtime::ToUtf16(TakeText());
             value.type = 1;
             value.bytes.assign(units.begin(), units.end());
             value.bytes.insert(value.bytes.end(), 2, 0);
@@ -213,8 +213,8 @@ class Reader {
 void CheckCharacters(std::string_view text) {
     for (std::string_view rest = text; !rest.empty();) {
         const std::size_t at = text.size() - rest.size();
-        const char32_t character = TakeCharacter(rest);
-        if (character != Malformed && character != 0) continue;
+        const char32_t character = runtime::TakeCharacter(rest);
+        if (character != runtime::Malformed && character != 0) continue;
         throw Slip(1 + LinesIn(text.substr(0, at)), character == 0
                                                         ? "Ein Zeichen mit der Nummer 0."
                                                         : "Der Text ist kein gültiges UTF-8.");
@@ -231,9 +231,9 @@ std::vector<Key> ReadText(std::string_view text) {
 
 std::vector<Key> Read(std::string_view file) {
     if (file.starts_with(Utf8Mark)) return ReadText(file);
-    if (!file.starts_with(LittleEndianMark)) return ReadText(FromWestern(file));
+    if (!file.starts_with(LittleEndianMark)) return ReadText(runtime::FromWestern(file));
     file.remove_prefix(2);
-    const std::string text = FromUtf16(file);
+    const std::string text = runtime::FromUtf16(file);
     if (file.size() % 2 != 0) {
         throw Slip(1 + LinesIn(text), "Die Datei endet mitten in einem Zeichen.");
     }

@@ -1,9 +1,9 @@
 #include <cstddef>
 #include <optional>
 
-#include "regfile/encoding.h"
 #include "regfile/places.h"
 #include "regfile/registrationfile.h"
+#include "runtime/encoding.h"
 #include "runtime/mistake.h"
 
 namespace regfile {
@@ -38,9 +38,9 @@ std::optional<std::string> PlainText(const Value& value) {
     const auto& bytes = value.bytes;
     if (value.type != 1 || bytes.size() < 2 || bytes.size() % 2 != 0) return std::nullopt;
     if (bytes.back() != 0 || bytes[bytes.size() - 2] != 0) return std::nullopt;
-    const std::string text = FromUtf16(std::string(bytes.begin(), bytes.end() - 2));
+    const std::string text = runtime::FromUtf16(std::string(bytes.begin(), bytes.end() - 2));
     for (std::string_view rest = text; !rest.empty();) {
-        const char32_t character = TakeCharacter(rest);
+        const char32_t character = runtime::TakeCharacter(rest);
         const bool halfPair = character >= 0xD800 && character < 0xE000;
         if (character == 0 || character == '\r' || character == '\n' || halfPair) {
             return std::nullopt;
@@ -87,7 +87,7 @@ std::string LineOf(const Value& value) {
     }
     const std::string kind =
         head + (value.type == 3 ? "hex:" : "hex(" + TypeNumber(value.type) + "):");
-    return kind + WrappedBytes(bytes, Units(kind));
+    return kind + WrappedBytes(bytes, runtime::Units(kind));
 }
 
 }  // namespace
@@ -106,7 +106,7 @@ std::string Write(const std::vector<Key>& keys) {
         for (const Value& value : key.values) text += LineOf(value) + "\r\n";
         text += "\r\n";
     }
-    return ToUtf16(text);
+    return runtime::ToUtf16(text);
 }
 
 }  // namespace regfile

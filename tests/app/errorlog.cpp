@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/simulated/machine.h"
+#include "runtime/encoding.h"
 
 using app::ErrorLog;
 using platform::simulated::Machine;
@@ -30,7 +31,7 @@ struct Log {
     ErrorLog log{machine.services, version};
 
     std::string Content() {
-        return platform::simulated::FromWesternBytes(machine.files.Content(Path).value_or("none"));
+        return runtime::FromWestern(machine.files.Content(Path).value_or("none"));
     }
 };
 

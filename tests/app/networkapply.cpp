@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 
 #include "app/program.h"
+#include "runtime/encoding.h"
 
 using namespace app_test;
 using platform::Registry;
@@ -15,9 +16,7 @@ struct Applying : Program {
         FillNumbers();
     }
 
-    std::string Log() {
-        return platform::simulated::FromWesternBytes(machine.files.Content(LogPath).value_or(""));
-    }
+    std::string Log() { return runtime::FromWestern(machine.files.Content(LogPath).value_or("")); }
     auto OfTcp(const char* value) {
         return machine.registry.Value(Registry::LocalMachine, TcpKey, value);
     }

@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 
 #include "app/program.h"
+#include "runtime/encoding.h"
 
 using namespace app_test;
 using platform::Registry;
@@ -24,9 +25,7 @@ struct Paths : Program {
     toolkit::Label& Path(int index) {
         return form->Find<toolkit::Label>("lblVerwaltung(" + std::to_string(index) + ")");
     }
-    std::string Log() {
-        return platform::simulated::FromWesternBytes(machine.files.Content(LogPath).value_or(""));
-    }
+    std::string Log() { return runtime::FromWestern(machine.files.Content(LogPath).value_or("")); }
     auto StoredDesktop() {
         return machine.registry.Value(Registry::LocalMachine, FoldersKey, "Common Desktop");
     }

@@ -170,12 +170,11 @@ TEST_CASE_FIXTURE(RegistryKeysFixture,
     const Registry::Key key = MakeScratch();
     REQUIRE(SetNumber(key) == Registry::Success);
     REQUIRE(registry.RemoveKey(Registry::CurrentUser, Scratch) == Registry::Success);
-    constexpr Registry::Result keyDeleted = 1018;
-    CHECK(AskNumber(key) == keyDeleted);
-    CHECK(SetNumber(key) == keyDeleted);
-    CHECK(registry.RemoveValue(key, "number") == keyDeleted);
+    CHECK(AskNumber(key) == Registry::KeyDeleted);
+    CHECK(SetNumber(key) == Registry::KeyDeleted);
+    CHECK(registry.RemoveValue(key, "number") == Registry::KeyDeleted);
     Registry::Key below = 0;
-    CHECK(registry.Create(key, "Below", Registry::MayDoAll, below) == keyDeleted);
+    CHECK(registry.Create(key, "Below", Registry::MayDoAll, below) == Registry::KeyDeleted);
     CHECK(registry.Close(key) == Registry::Success);
 }
 

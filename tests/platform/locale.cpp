@@ -4,7 +4,8 @@
 
 #include <cstdint>
 
-using platform::simulated::FromWesternBytes;
+#include "runtime/encoding.h"
+
 using platform::simulated::Locale;
 using platform::simulated::ToWesternBytes;
 
@@ -26,17 +27,17 @@ TEST_CASE("German letters and the code page's own signs are one byte each") {
     CHECK(ToWesternBytes("€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ") ==
           "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93\x94\x95\x96\x97\x98\x99"
           "\x9A\x9B\x9C\x9E\x9F");
-    CHECK(FromWesternBytes("\x80 \xFC \x9F") == "€ ü Ÿ");
+    CHECK(runtime::FromWestern("\x80 \xFC \x9F") == "€ ü Ÿ");
 }
 
 TEST_CASE("every byte survives the way to text and back") {
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
-    CHECK(ToWesternBytes(FromWesternBytes(bytes)) == bytes);
+    CHECK(ToWesternBytes(runtime::FromWestern(bytes)) == bytes);
 }
 
 TEST_CASE("the unassigned bytes stand for the control characters of the same number") {
-    CHECK(FromWesternBytes("\x81\x8D\x8F\x90\x9D") == "\u0081\u008D\u008F\u0090\u009D");
+    CHECK(runtime::FromWestern("\x81\x8D\x8F\x90\x9D") == "\u0081\u008D\u008F\u0090\u009D");
     CHECK(ToWesternBytes("\u0081\u0080") == "\x81?");
 }
 

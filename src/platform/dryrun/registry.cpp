@@ -11,17 +11,9 @@ namespace {
 
 using Result = Registry::Result;
 
-constexpr std::size_t LongestKeyName = 255;
-constexpr std::size_t EnumerationRoom = 255;
-constexpr std::size_t LongestValue = 16383;
-constexpr int DeepestKey = 512;
 constexpr Registry::Key HandleStep = 4;
 // The right to delete a key.
 constexpr std::uint32_t MayDelete = 0x10000;
-
-bool IsRoot(Registry::Key key) {
-    return key >= Registry::ClassesRoot && key <= Registry::LocalMachine;
-}
 
 bool IsText(std::uint32_t type) {
     return type == Registry::String || type == Registry::ExpandString ||
@@ -106,7 +98,7 @@ Result Registry::Set(Key key, std::string_view valueName, std::uint32_t type,
     Handle handle;
     if (Result result = Use(key, MaySetValue, handle); result != Success) return result;
     const std::string name = AsStored(valueName);
-    if (LengthOf(name) > LongestValue) return InvalidParameter;
+    if (LengthOf(name) > ValueNameLimit) return InvalidParameter;
     RegistryValue value{type, {}};
     if (data) value.bytes.assign(data, data + size);
     const auto [entry, isNew] = handle.node->values.try_emplace(Folded(name));

@@ -5,6 +5,7 @@
 #include "platform/simulated/faults.h"
 #include "platform/simulated/locale.h"
 #include "platform/simulated/wording.h"
+#include "runtime/encoding.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 
@@ -61,7 +62,7 @@ Files::Handle Files::OpenForReading(std::string_view path) {
 
 void Files::Write(Handle file, std::string_view bytes) {
     auto line = journal_.Note([&] {
-        return "WriteFile #" + std::to_string(file) + " " + Quoted(FromWesternBytes(bytes));
+        return "WriteFile #" + std::to_string(file) + " " + Quoted(runtime::FromWestern(bytes));
     });
     auto found = open_.find(file);
     PassOrThrow(journal_, faults_, line, "WriteFile",

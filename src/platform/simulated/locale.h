@@ -20,12 +20,7 @@ class Locale final : public platform::Locale {
 };
 
 // Code page 1252 by itself. What it lacks, and each byte that is no UTF-8, becomes a question
-// mark, a character outside the 16-bit plane two. Its five unassigned bytes stand for the control
-// characters of the same number, as on Windows, so that any bytes survive the way there and back.
+// mark, a character outside the 16-bit plane two.
 std::string ToWesternBytes(std::string_view text);
-std::string FromWesternBytes(std::string_view bytes);
-
-// The byte of one character of the 16-bit plane.
-char WesternByte(char32_t character);
 
 }  // namespace platform::simulated

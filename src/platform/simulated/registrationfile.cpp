@@ -4,6 +4,7 @@
 
 #include "platform/simulated/locale.h"
 #include "platform/simulated/registry.h"
+#include "runtime/encoding.h"
 
 namespace platform::simulated {
 namespace {
@@ -24,7 +25,7 @@ StoredValue ValueOf(const regfile::Value& value) {
     StoredValue narrowed{value.type, {}};
     for (std::size_t i = 0; i < value.bytes.size(); i += 2) {
         const auto unit = static_cast<char32_t>(value.bytes[i] | value.bytes[i + 1] << 8);
-        narrowed.bytes.push_back(static_cast<std::uint8_t>(WesternByte(unit)));
+        narrowed.bytes.push_back(static_cast<std::uint8_t>(runtime::WesternByte(unit)));
     }
     return narrowed;
 }

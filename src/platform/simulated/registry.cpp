@@ -8,24 +8,14 @@
 #include "platform/simulated/locale.h"
 #include "platform/simulated/registrynode.h"
 #include "platform/simulated/wording.h"
+#include "runtime/encoding.h"
 
 namespace platform::simulated {
 namespace {
 
 using Result = Registry::Result;
 
-// Limits of the platform.
-constexpr std::size_t LongestKeyName = 255;
-// The buffer for the names of keys.
-constexpr std::size_t EnumerationRoom = 255;
-constexpr std::size_t ValueNameLimit = 16383;
-constexpr int DeepestKey = 512;
-
 constexpr const char* RootNames[] = {"HKCR", "HKCU", "HKLM"};
-
-bool IsRoot(Registry::Key key) {
-    return key >= Registry::ClassesRoot && key <= Registry::LocalMachine;
-}
 
 // "-> 0" and what came out.
 std::string ResultText(Result result, const std::string& out) {
@@ -39,7 +29,7 @@ Result NameAt(const Map& entries, std::uint32_t index, std::size_t room, std::st
     if (index >= entries.size()) return Registry::NoMoreItems;
     const std::string& found = std::next(entries.begin(), index)->first;
     if (found.size() >= room) return Registry::MoreData;
-    name = FromWesternBytes(found);
+    name = runtime::FromWestern(found);
     return Registry::Success;
 }
 
@@ -321,7 +311,7 @@ std::optional<Result> Registry::Fault(std::string_view call, Key key, std::strin
     if (faults_.Idle()) return std::nullopt;
     Handle handle;
     std::string subject = Look(key, handle) == InvalidHandle ? "" : handle.node->path;
-    if (!path.empty()) subject = FromWesternBytes(subject) + separator + std::string(path);
+    if (!path.empty()) subject = runtime::FromWestern(subject) + separator + std::string(path);
     return faults_.Check(call, subject);
 }
 

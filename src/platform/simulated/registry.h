@@ -44,9 +44,6 @@ class Registry final : public platform::Registry {
     Registry(Journal& journal, Faults& faults);
     ~Registry() override;
 
-    static constexpr Result BadPathName = 161;
-    static constexpr Result KeyDeleted = 1018;
-
     Result Open(Key parent, std::string_view path, std::uint32_t access, Key& opened) override;
     Result Create(Key parent, std::string_view name, std::uint32_t access, Key& created) override;
     Result Query(Key key, std::string_view valueName, std::uint32_t& type, std::uint8_t* data,

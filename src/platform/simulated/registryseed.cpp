@@ -4,6 +4,7 @@
 #include "platform/simulated/locale.h"
 #include "platform/simulated/registry.h"
 #include "platform/simulated/registrynode.h"
+#include "runtime/encoding.h"
 
 namespace platform::simulated {
 namespace {
@@ -11,10 +12,10 @@ namespace {
 constexpr std::uint32_t NoValues = 0xFFFFFFFF;
 
 void DumpKey(const RegistryNode& node, std::map<std::string, StoredValue>& dump) {
-    const std::string path = FromWesternBytes(node.path) + "|";
+    const std::string path = runtime::FromWestern(node.path) + "|";
     // The roots are always there and tell nothing.
     if (node.values.empty() && node.depth > 0) dump[path] = {NoValues, {}};
-    for (const auto& [name, value] : node.values) dump[path + FromWesternBytes(name)] = value;
+    for (const auto& [name, value] : node.values) dump[path + runtime::FromWestern(name)] = value;
     for (const auto& [name, child] : node.children) DumpKey(*child, dump);
 }
 

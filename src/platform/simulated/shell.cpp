@@ -6,6 +6,7 @@
 #include "platform/simulated/files.h"
 #include "platform/simulated/locale.h"
 #include "platform/simulated/wording.h"
+#include "runtime/encoding.h"
 #include "runtime/text.h"
 #include "toolkit/form.h"
 
@@ -60,7 +61,7 @@ std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path
         if (function != DeleteFiles) return InvalidParameter;
         // The call takes bytes: a character that the code page lacks becomes a question mark, and
         // that is a wildcard.
-        std::int32_t refused = files_.Take(FromWesternBytes(ToWesternBytes(path)));
+        std::int32_t refused = files_.Take(runtime::FromWestern(ToWesternBytes(path)));
         if (refused == 0 && flags & AllowUndo) recycleBin.emplace_back(path);
         return refused;
     };

@@ -5,6 +5,7 @@
 #include "platform/simulated/faults.h"
 #include "platform/simulated/locale.h"
 #include "platform/simulated/wording.h"
+#include "runtime/encoding.h"
 #include "runtime/failure.h"
 
 namespace platform::simulated {
@@ -56,7 +57,7 @@ void Socket::Close() {
 std::string Socket::GetData() {
     auto line = journal_.Note([] { return std::string("Socket.GetData"); });
     PassOrThrow(journal_, faults_, line, "Socket.GetData", "");
-    journal_.Finish(line, [&] { return Quoted(FromWesternBytes(arrived_)); });
+    journal_.Finish(line, [&] { return Quoted(runtime::FromWestern(arrived_)); });
     return std::exchange(arrived_, "");
 }
 

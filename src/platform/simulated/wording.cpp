@@ -2,6 +2,7 @@
 
 #include "platform/simulated/locale.h"
 #include "platform/simulated/registry.h"
+#include "runtime/encoding.h"
 
 namespace platform::simulated {
 namespace {
@@ -60,7 +61,7 @@ std::string Hex(std::uint32_t number) {
 std::string DataText(std::uint32_t type, const std::uint8_t* data, std::uint32_t size) {
     if (type == platform::Registry::Dword && size == 4) return std::to_string(LittleEndian(data));
     if (IsTextType(type)) {
-        return Quoted(FromWesternBytes({reinterpret_cast<const char*>(data), size}));
+        return Quoted(runtime::FromWestern({reinterpret_cast<const char*>(data), size}));
     }
     std::string text = "hex";
     for (std::uint32_t i = 0; i < size && i < ShownBytes; ++i) text += " " + ByteText(data[i]);

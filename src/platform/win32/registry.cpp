@@ -72,7 +72,7 @@ Registry::Result Registry::RemoveKey(Key parent, std::string_view path) {
 }
 
 Registry::Result Registry::EnumerateKey(Key key, std::uint32_t index, std::string& name) {
-    char buffer[255];
+    char buffer[EnumerationRoom];
     const Result result = RegEnumKeyA(Native(key), index, buffer, sizeof buffer);
     if (result == Success) name = FromAnsi(buffer);
     return result;

@@ -1,8 +1,11 @@
-#include "regfile/encoding.h"
+#include "runtime/encoding.h"
+
+#include <algorithm>
+#include <iterator>
 
 #include "runtime/mistake.h"
 
-namespace regfile {
+namespace runtime {
 namespace {
 
 // The characters of the bytes 0x80 to 0x9F; the unassigned ones stand for the control characters of
@@ -12,6 +15,13 @@ constexpr char16_t WesternSpecials[32] = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
+
+void AppendUnit(std::string& bytes, char32_t unit) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+}
+
+}  // namespace
 
 void AppendCharacter(std::string& text, char32_t character) {
     const auto append = [&](char32_t byte) { text += static_cast<char>(byte); };
@@ -32,13 +42,6 @@ void AppendCharacter(std::string& text, char32_t character) {
     }
     append(0x80 | (character & 0x3F));
 }
-
-void AppendUnit(std::string& bytes, char32_t unit) {
-    bytes += static_cast<char>(unit & 0xFF);
-    bytes += static_cast<char>(unit >> 8);
-}
-
-}  // namespace
 
 char32_t TakeCharacter(std::string_view& text) {
     const auto byteAt = [&](std::size_t i) -> char32_t {
@@ -86,7 +89,7 @@ std::string ToUtf16(std::string_view text) {
     bytes.reserve(text.size() * 2);
     while (!text.empty()) {
         const char32_t character = TakeCharacter(text);
-        if (character == Malformed) throw runtime::Mistake("a registration file with no UTF-8");
+        if (character == Malformed) throw Mistake("bytes that are no UTF-8");
         if (character < 0x10000) {
             AppendUnit(bytes, character);
         } else {
@@ -107,6 +110,16 @@ std::string FromWestern(std::string_view bytes) {
     return text;
 }
 
+char WesternByte(char32_t character) {
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+        return static_cast<char>(character);
+    }
+    const auto* found =
+        std::find(std::begin(WesternSpecials), std::end(WesternSpecials), character);
+    if (found == std::end(WesternSpecials)) return '?';
+    return static_cast<char>(0x80 + (found - WesternSpecials));
+}
+
 std::size_t Units(std::string_view text) {
     std::size_t count = 0;
     while (!text.empty()) {
@@ -116,4 +129,4 @@ std::size_t Units(std::string_view text) {
     return count;
 }
 
-}  // namespace regfile
+}  // namespace runtime
