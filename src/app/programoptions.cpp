@@ -11,6 +11,7 @@
 #include "runtime/text.h"
 #include "toolkit/controls.h"
 #include "toolkit/form.h"
+#include "tweaks/previewlibrary.h"
 
 namespace app {
 namespace {
@@ -44,15 +45,6 @@ void RestoreTrue(toolkit::Form& form, const char* name, const Settings& settings
         const std::string stored = settings.GetSetting(section, key);
         if (stored.empty()) return;
         form.Find<CheckBox>(name).SetValue(runtime::ToLower(stored) == "true" ? 1 : 0);
-    });
-}
-
-// The setting tells that the preview library is registered, the box that the preview is off: the
-// senses are opposite on purpose, and a store without the setting shows the box as set.
-void RestorePreviewLibrary(toolkit::Form& form, const Settings& settings) {
-    Skip([&] {
-        const bool registered = settings.GetSetting("VideoPrv", "Regged", "false") == "true";
-        form.Find<CheckBox>("chkSHMediaDLL").SetValue(registered ? 0 : 1);
     });
 }
 
@@ -134,7 +126,7 @@ void RestoreProgramOptions(toolkit::Form& form, const platform::Machine& machine
         form.Find<CheckBox>("chkCreateAutoStart").SetValue(exists ? 1 : 0);
     });
     RestoreTrayIcon(form, machine, settings);
-    RestorePreviewLibrary(form, settings);
+    Skip([&] { tweaks::RestorePreviewLibrary(form, settings); });
     RestoreMinimised(form, machine, settings);
     Restore(form, "chkRebootQuestion", settings, "Options", "RebootQuestion");
     Restore(form, "chkForceReboot", settings, "Options", "ForceReboot");

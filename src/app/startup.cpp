@@ -25,8 +25,6 @@ namespace {
 using platform::Settings;
 using runtime::Skip;
 
-// The one build that the program's values are made for.
-constexpr int WindowsXpBuild = 2600;
 constexpr char RawSwitch[] = "-RAW";
 // One more than the last page's number: the spare one passes the test and is then refused by the
 // tab control itself, so that the designed first page stays. On purpose.
@@ -76,7 +74,7 @@ void RestoreWindow(frmMain& form, const platform::Machine& machine, const Settin
 bool OperatingSystemFits(const platform::Machine& machine) {
     platform::OperatingSystemFacts facts;
     Skip([&] { facts = machine.operatingSystem.Facts(); });
-    if (facts.build == WindowsXpBuild) return true;
+    if (facts.build == platform::WindowsXpBuild) return true;
     Skip([&] {
         machine.messages.Show(
             "Dieses Programm ist NUR unter Windows XP (Build 2600) lauffähig!\r\n\r\n"

@@ -4,6 +4,9 @@
 
 namespace platform {
 
+// The one build that the program's values are made for.
+inline constexpr int WindowsXpBuild = 2600;
+
 struct OperatingSystemFacts {
     // As its vendor writes it, "Microsoft Windows XP".
     std::string name;

@@ -13,8 +13,8 @@ namespace platform {
 // of a text, with nothing converted. Names and paths are UTF-8, in which half a pair of surrogates
 // is three bytes like any other character. A key is named by its root, one of Registry's, and the
 // path below it, "" being the root itself. A key is opened for each call and closed again. The
-// results are those of the registry's: 0 is success, Registry::FileNotFound a key or a value that is
-// not there.
+// results are those of the registry's: 0 is success, Registry::FileNotFound a key or a value that
+// is not there.
 class WideRegistry {
   public:
     using Root = Registry::Key;

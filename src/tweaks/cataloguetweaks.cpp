@@ -1,10 +1,6 @@
-#include "platform/machine.h"
-#include "platform/settings.h"
-#include "toolkit/controls.h"
-#include "toolkit/form.h"
 #include "tweaks/catalogue.h"
 #include "tweaks/cataloguekeys.h"
-#include "tweaks/registerlibrary.h"
+#include "tweaks/previewlibrary.h"
 #include "tweaks/steps.h"
 
 namespace tweaks {
@@ -20,14 +16,10 @@ constexpr char EncodingKey[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Settings\\MP3E
 constexpr char EncodingKeyToWrite[] = "SOFTWARE\\Microsoft\\MediaPlayer\\Settings\\MP3Encoding\\";
 
 // The only option that runs a command from the pass: the library is registered or unregistered
-// anew in every pass. The settings remember the opposite of the box: whether the library is
-// registered. A command that cannot be started ends the pass before that is stored.
+// anew in every pass.
 void WritePreviewLibrary(const PassContext& pass, const Option& option) {
     WriteByRow(pass, option);
-    const bool previewOff = IsOn(pass, option.control);
-    RegisterLibrary(pass.machine.processes, "shmedia.dll", !previewOff);
-    platform::Settings settings(pass.machine.settingsStore);
-    settings.SaveSetting("VideoPrv", "Regged", previewOff ? "false" : "true");
+    SetPreviewLibrary(pass.machine, IsOn(pass, option.control));
 }
 
 constexpr Option TweaksRows[] = {

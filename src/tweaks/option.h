@@ -41,6 +41,10 @@ struct Condition {
     // Another value of the option's key; nullptr means the option's own one.
     const char* value = nullptr;
 
+    // What it asks of, the option's own place being given.
+    constexpr ValuePlace At(const ValuePlace& own) const {
+        return {own.root, own.key, value ? value : own.value};
+    }
     constexpr Condition Of(const char* valueName) const {
         return {question, number, text, valueName};
     }
@@ -115,6 +119,10 @@ struct Step {
         Step step = *this;
         step.value = valueName;
         return step;
+    }
+    // Where the step does it, the option's own place being given.
+    constexpr ValuePlace At(const ValuePlace& own) const {
+        return {root.value_or(own.root), key ? key : own.key, value ? value : own.value};
     }
     constexpr Step IfNumeric(const char* controlName, const char* elseMessage = nullptr) const {
         Step step = *this;

@@ -10,10 +10,6 @@
 namespace tweaks {
 namespace {
 
-const char* Or(const char* other, const char* own) {
-    return other ? other : own;
-}
-
 bool Holds(const PassContext& pass, const ValuePlace& place, const Condition& condition) {
     const auto present = [&] {
         return pass.registry.RegValuePresent(place.root, place.key, place.value);
@@ -54,7 +50,7 @@ bool Holds(const PassContext& pass, const ValuePlace& place, const Condition& co
 bool AllHold(const PassContext& pass, const ValuePlace& own, const Conditions& conditions) {
     bool all = true;
     for (const Condition& condition : conditions) {
-        all &= Holds(pass, {own.root, own.key, Or(condition.value, own.value)}, condition);
+        all &= Holds(pass, condition.At(own), condition);
     }
     return all;
 }
@@ -63,14 +59,10 @@ std::string TextAt(const PassContext& pass, const ValuePlace& place) {
     return pass.registry.RegReadValue(place.root, place.key, place.value);
 }
 
-ValuePlace PlaceOf(const Step& step, const ValuePlace& own) {
-    return {step.root.value_or(own.root), Or(step.key, own.key), Or(step.value, own.value)};
-}
-
 void ReadBoxesAlong(const PassContext& pass, const Option& option, const ValuePlace& own, bool on) {
     for (const Step& step : option.on) {
         if (step.action != Action::WriteTextOf) continue;
-        SetTextOfControl(pass.form, step.text, on ? TextAt(pass, PlaceOf(step, own)) : "");
+        SetTextOfControl(pass.form, step.text, on ? TextAt(pass, step.At(own)) : "");
     }
 }
 
@@ -101,7 +93,7 @@ bool NumericTestPasses(const PassContext& pass, const Step& step) {
 }
 
 void Carry(const PassContext& pass, const Option& option, const ValuePlace& own, const Step& step) {
-    const auto [root, key, value] = PlaceOf(step, own);
+    const auto [root, key, value] = step.At(own);
     registry::Registry& registry = pass.registry;
     const auto textOfControl = [&] {
         return TextOfControl(pass.form, step.text ? step.text : option.control);
