@@ -1,0 +1,276 @@
+#include "cmd/backup.h"
+
+#include <algorithm>
+
+#include "cmd/badinput.h"
+#include "runtime/text.h"
+
+namespace cmd {
+namespace {
+
+using platform::Registry;
+using runtime::EqualsIgnoringCase;
+using Result = Registry::Result;
+using Value = WideRegistry::Value;
+
+// Whether it was found; a refusal is noted.
+bool Found(Result result, Refusals& refusals, const std::string& place) {
+    if (result == Registry::Success) return true;
+    if (result != Registry::FileNotFound) refusals.push_back({place, result});
+    return false;
+}
+
+// A key as it is there: which of the two, or nobody knows.
+enum class Presence { There, Missing, Unknown };
+
+class Reading {
+  public:
+    Reading(WideRegistry& registry, Refusals& refusals)
+        : registry_(registry), refusals_(refusals) {}
+
+    Presence Ask(Root root, std::string_view path) {
+        const Result result = registry_.Ask(root, path);
+        if (Found(result, refusals_, PlaceText(root, path))) return Presence::There;
+        return result == Registry::FileNotFound ? Presence::Missing : Presence::Unknown;
+    }
+
+    Presence Read(Root root, std::string_view path, std::string_view name, Value& value) {
+        const Result result = registry_.Read(root, path, name, value);
+        if (Found(result, refusals_, PlaceText(root, path, name))) return Presence::There;
+        return result == Registry::FileNotFound ? Presence::Missing : Presence::Unknown;
+    }
+
+    std::vector<std::string> ValueNames(Root root, std::string_view path) {
+        std::vector<std::string> names;
+        Found(registry_.ValueNames(root, path, names), refusals_, PlaceText(root, path));
+        return names;
+    }
+
+    std::vector<std::string> KeyNames(Root root, std::string_view path) {
+        std::vector<std::string> names;
+        Found(registry_.KeyNames(root, path, names), refusals_, PlaceText(root, path));
+        return names;
+    }
+
+  private:
+    WideRegistry& registry_;
+    Refusals& refusals_;
+};
+
+bool Contains(const std::vector<std::string>& names, std::string_view name) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& other) { return EqualsIgnoringCase(other, name); });
+}
+
+void BackUpKey(const TouchedKey& key, Reading& reading, std::vector<regfile::Key>& file) {
+    regfile::Key kept{.root = LongRootName(key.root), .path = key.path};
+    std::vector<std::string> names = key.values;
+    if (key.mayGo) {
+        for (std::string& name : reading.ValueNames(key.root, key.path)) {
+            if (!Contains(names, name)) names.push_back(std::move(name));
+        }
+    }
+    for (const std::string& name : names) {
+        Value value;
+        switch (reading.Read(key.root, key.path, name, value)) {
+            case Presence::There:
+                kept.values.push_back({.name = name, .type = value.type, .bytes = value.bytes});
+                break;
+            case Presence::Missing:
+                kept.values.push_back({.name = name, .removes = true});
+                break;
+            case Presence::Unknown:
+                break;
+        }
+    }
+    file.push_back(std::move(kept));
+}
+
+// The topmost missing key, the one at `path` being missing; nothing when one above it cannot be
+// looked at.
+std::string_view TopmostMissing(Root root, std::string_view path, Reading& reading) {
+    for (std::string_view above = Above(path); !above.empty(); above = Above(above)) {
+        switch (reading.Ask(root, above)) {
+            case Presence::There:
+                return path;
+            case Presence::Missing:
+                path = above;
+                break;
+            case Presence::Unknown:
+                return {};
+        }
+    }
+    return path;
+}
+
+void RemoveOnce(Root root, std::string_view path, std::vector<regfile::Key>& file) {
+    const std::string name = LongRootName(root);
+    for (const regfile::Key& key : file) {
+        if (key.removes && key.root == name && EqualsIgnoringCase(key.path, path)) return;
+    }
+    file.push_back({.root = name, .path = std::string(path), .removes = true});
+}
+
+BadInput NotTouched(const std::string& place, int line) {
+    return BadInput(place + " ist kein Ort, den Quillmore ändert", line);
+}
+
+class Restoring {
+  public:
+    Restoring(WideRegistry& registry, Refusals& refusals) : reading_(registry, refusals) {}
+
+    void Take(const regfile::Key& key) {
+        const Root root = RootOfLongName(key.root);
+        if (root == 0 || !LeadsToTouched(root, key.path)) {
+            throw NotTouched(key.root + "\\" + key.path, key.line);
+        }
+        if (key.removes) {
+            RemoveTree(root, key.path, key.line);
+        } else {
+            TakeValues(root, key);
+        }
+    }
+
+    Changes Result() {
+        std::reverse(taken_.begin(), taken_.end());
+        Changes all = std::move(made_);
+        all.insert(all.end(), taken_.begin(), taken_.end());
+        return all;
+    }
+
+  private:
+    // The key, then what is in it: what goes is carried out from the end.
+    void RemoveTree(Root root, const std::string& path, int line) {
+        if (reading_.Ask(root, path) != Presence::There) return;
+        if (!LeadsToTouched(root, path)) throw NotTouched(PlaceText(root, path), line);
+        taken_.push_back({Change::Kind::DeleteKey, root, path});
+        const TouchedKey* touched = FindTouchedKey(root, path);
+        for (const std::string& name : reading_.ValueNames(root, path)) {
+            if (!touched || !(touched->mayGo || IsTouched(*touched, name))) {
+                throw NotTouched(PlaceText(root, path, name), line);
+            }
+            Value value;
+            if (reading_.Read(root, path, name, value) != Presence::There) continue;
+            taken_.push_back({Change::Kind::DeleteValue, root, path, name, value});
+        }
+        for (const std::string& name : reading_.KeyNames(root, path)) {
+            RemoveTree(root, path.empty() ? name : path + '\\' + name, line);
+        }
+    }
+
+    void TakeValues(Root root, const regfile::Key& key) {
+        const TouchedKey* touched = FindTouchedKey(root, key.path);
+        const Presence presence = reading_.Ask(root, key.path);
+        if (presence == Presence::Missing) {
+            made_.push_back({Change::Kind::CreateKey, root, key.path});
+        }
+        for (const regfile::Value& value : key.values) {
+            if (!touched || !(touched->mayGo || IsTouched(*touched, value.name))) {
+                throw NotTouched(PlaceText(root, key.path, value.name), value.line);
+            }
+            TakeValue(root, key.path, value);
+        }
+    }
+
+    void TakeValue(Root root, const std::string& path, const regfile::Value& wanted) {
+        Value now;
+        const bool isThere = reading_.Read(root, path, wanted.name, now) == Presence::There;
+        if (wanted.removes) {
+            if (isThere) {
+                taken_.push_back({Change::Kind::DeleteValue, root, path, wanted.name, now});
+            }
+            return;
+        }
+        const Value after{wanted.type, wanted.bytes};
+        if (isThere && now == after) return;
+        Change change{Change::Kind::WriteValue, root, path, wanted.name};
+        if (isThere) change.before = now;
+        change.after = after;
+        made_.push_back(std::move(change));
+    }
+
+    Reading reading_;
+    Changes made_;
+    Changes taken_;
+};
+
+bool IsAtOrBelow(const regfile::Key& key, const regfile::Key& above) {
+    const std::string_view path = key.path;
+    return key.root == above.root && path.size() >= above.path.size() &&
+           (path.size() == above.path.size() || above.path.empty() ||
+            path[above.path.size()] == '\\') &&
+           EqualsIgnoringCase(path.substr(0, above.path.size()), above.path);
+}
+
+// What the file comes to: of a value that it has twice the last one. A key that it removes and
+// makes again would need what is there to go first and come back; no backup has that.
+std::vector<regfile::Key> Merged(const std::vector<regfile::Key>& file) {
+    std::vector<regfile::Key> merged;
+    for (const regfile::Key& key : file) {
+        for (regfile::Key& other : merged) {
+            const bool clash = key.removes ? !other.removes && IsAtOrBelow(other, key)
+                                           : other.removes && IsAtOrBelow(key, other);
+            if (clash) {
+                throw BadInput("derselbe Schlüssel wird in Zeile " + std::to_string(other.line) +
+                                   (other.removes ? " gelöscht" : " angelegt"),
+                               key.line);
+            }
+            if (key.removes || other.removes || other.path.size() != key.path.size() ||
+                !IsAtOrBelow(other, key)) {
+                continue;
+            }
+            std::erase_if(other.values, [&](const regfile::Value& value) {
+                return std::any_of(key.values.begin(), key.values.end(), [&](const auto& later) {
+                    return EqualsIgnoringCase(later.name, value.name);
+                });
+            });
+        }
+        merged.push_back(key);
+        // Of two in one key, too.
+        std::vector<regfile::Value>& values = merged.back().values;
+        for (std::size_t i = 0; i < values.size();) {
+            const bool isRepeated =
+                std::any_of(values.begin() + static_cast<std::ptrdiff_t>(i) + 1, values.end(),
+                            [&](const regfile::Value& later) {
+                                return EqualsIgnoringCase(later.name, values[i].name);
+                            });
+            if (isRepeated) {
+                values.erase(values.begin() + static_cast<std::ptrdiff_t>(i));
+            } else {
+                ++i;
+            }
+        }
+    }
+    return merged;
+}
+
+}  // namespace
+
+std::vector<regfile::Key> Backup(WideRegistry& registry, Refusals& refusals) {
+    std::vector<regfile::Key> file;
+    Reading reading(registry, refusals);
+    for (const TouchedKey& key : TouchedKeys()) {
+        switch (reading.Ask(key.root, key.path)) {
+            case Presence::There:
+                BackUpKey(key, reading, file);
+                break;
+            case Presence::Missing:
+                if (const auto path = TopmostMissing(key.root, key.path, reading); !path.empty()) {
+                    RemoveOnce(key.root, path, file);
+                }
+                break;
+            case Presence::Unknown:
+                break;
+        }
+    }
+    return file;
+}
+
+Changes ToRestore(const std::vector<regfile::Key>& file, WideRegistry& registry,
+                  Refusals& refusals) {
+    Restoring restoring(registry, refusals);
+    for (const regfile::Key& key : Merged(file)) restoring.Take(key);
+    return restoring.Result();
+}
+
+}  // namespace cmd

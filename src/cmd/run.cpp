@@ -1,0 +1,279 @@
+#include "cmd/run.h"
+
+#include <algorithm>
+
+#include "cmd/arguments.h"
+#include "cmd/backup.h"
+#include "cmd/badinput.h"
+#include "cmd/help.h"
+#include "cmd/optionswindow.h"
+#include "cmd/profile.h"
+#include "cmd/statelist.h"
+#include "cmd/surroundings.h"
+#include "platform/operatingsystem.h"
+#include "runtime/failure.h"
+#include "tweaks/catalogue.h"
+
+namespace cmd {
+namespace {
+
+using platform::WideRegistry;
+using tweaks::Option;
+
+constexpr char Question[] = "Einstellungen übernehmen? (j/n)";
+
+// A profile's lines are looked up before anything is set.
+struct Setting {
+    const Option* option;
+    std::string value;
+    int line;
+};
+
+std::string LineOf(const std::string& file, const BadInput& input) {
+    std::string text = file.empty() ? "" : file + ": ";
+    if (input.line > 0) text += "Zeile " + std::to_string(input.line) + ": ";
+    return text + input.reason;
+}
+
+class Runner {
+  public:
+    Runner(const platform::Machine& machine, WideRegistry& wide, Surroundings& around)
+        : machine_(machine), wide_(wide), around_(around) {}
+
+    int Run(const std::vector<std::string>& given) {
+        try {
+            arguments_ = ParseArguments(given);
+        } catch (const BadInput& input) {
+            Complain(LineOf("", input) + ". Hilfe: QuillmoreCmd /?");
+            return WrongInput;
+        }
+        if (arguments_.utf8) around_.UseUtf8();
+        if (arguments_.verb == Verb::Help) {
+            around_.Out(Help);
+            return Fine;
+        }
+        if (!arguments_.raw && !SystemFits()) return WrongSystem;
+        try {
+            const int code = Carry();
+            return failed_ ? NotAll : code;
+        } catch (const BadInput& input) {
+            Complain(LineOf(file_, input));
+            return WrongInput;
+        } catch (const FileFailure& failure) {
+            Complain(file_ + ": " + failure.reason);
+            return NotAll;
+        }
+    }
+
+  private:
+    int Carry() {
+        switch (arguments_.verb) {
+            case Verb::State:
+                return State();
+            case Verb::Profile:
+                return Profile();
+            case Verb::Plan:
+                return Plan();
+            case Verb::Backup:
+                WriteBackup(arguments_.file);
+                return Fine;
+            case Verb::Apply:
+                return Apply();
+            default:
+                return Restore();
+        }
+    }
+
+    // Only the build counts. A system that does not tell it is not the right one.
+    bool SystemFits() {
+        platform::OperatingSystemFacts facts;
+        runtime::Skip([&] { facts = machine_.operatingSystem.Facts(); });
+        if (facts.build == platform::WindowsXpBuild) return true;
+        Complain("Quillmore ist nur für Windows XP (Build 2600) gemacht; hier läuft " + facts.name +
+                 " (Build " + std::to_string(facts.build) + "). Mit /raw läuft es trotzdem.");
+        return false;
+    }
+
+    int State() {
+        OptionsWindow window(machine_);
+        window.Read();
+        Tell(window);
+        Refusals refusals;
+        around_.Out(StateList(window, wide_, arguments_.csv, refusals));
+        Tell(refusals);
+        return Fine;
+    }
+
+    int Profile() {
+        OptionsWindow window(machine_);
+        window.Read();
+        Tell(window);
+        std::vector<ProfileLine> lines;
+        for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
+            for (const Option& option : page.options) {
+                const std::string shown = window.Shown(option);
+                // Without its number a control says nothing; elsewhere it would be wrong.
+                const bool isOff = shown.empty() && OptionsWindow::WantsNumber(option.control);
+                lines.push_back({std::string(PageName(page.tab)), std::string(option.control),
+                                 shown, 0, window.Caption(option), isOff});
+            }
+        }
+        file_ = arguments_.file;
+        around_.WriteFile(file_, WriteProfile(lines));
+        return Fine;
+    }
+
+    int Plan() {
+        const Changes changes = Planned();
+        for (const Change& change : changes) around_.Out(ToDo(change) + "\n");
+        if (!arguments_.regFile.empty()) {
+            file_ = arguments_.regFile;
+            around_.WriteFile(file_, regfile::Write(AsRegistrationFile(changes)));
+        }
+        return changes.empty() ? Fine : Differs;
+    }
+
+    int Apply() {
+        const Changes changes = Planned();
+        if (changes.empty()) return NothingToDo();
+        if (!Agreed(changes)) return RefusedByUser;
+        if (!arguments_.backupFile.empty() && !WriteBackup(arguments_.backupFile)) {
+            Complain("Ohne vollständige Sicherung wird nichts geändert.");
+            return NotAll;
+        }
+        Execute(changes);
+        return Fine;
+    }
+
+    int Restore() {
+        file_ = arguments_.file;
+        const std::string bytes = around_.ReadFile(file_);
+        Refusals refusals;
+        Changes changes;
+        try {
+            changes = ToRestore(regfile::Read(bytes), wide_, refusals);
+        } catch (const regfile::Slip& slip) {
+            throw BadInput(slip.reason, slip.line);
+        }
+        Tell(refusals);
+        if (changes.empty()) return NothingToDo();
+        if (!Agreed(changes)) return RefusedByUser;
+        Execute(changes);
+        return Fine;
+    }
+
+    int NothingToDo() {
+        around_.Out("Nichts zu tun.\n");
+        return Fine;
+    }
+
+    // What Apply would write from the state as it is read, with the profile and the presets over
+    // it.
+    Changes Planned() {
+        std::vector<Setting> settings;
+        if (!arguments_.file.empty()) settings = Settings();
+        OptionsWindow window(machine_);
+        window.Read();
+        for (const Setting& setting : settings) {
+            try {
+                window.Set(*setting.option, setting.value);
+            } catch (const BadInput& input) {
+                throw BadInput(input.reason, setting.line);
+            }
+        }
+        for (const std::string& preset : arguments_.presets) window.UsePreset(preset);
+        Changes changes = window.Write();
+        Tell(window);
+        return changes;
+    }
+
+    std::vector<Setting> Settings() {
+        file_ = arguments_.file;
+        std::vector<Setting> settings;
+        for (const ProfileLine& line : ReadProfile(around_.ReadFile(file_))) {
+            settings.push_back({&OptionOf(line), line.value, line.line});
+        }
+        return settings;
+    }
+
+    static const Option& OptionOf(const ProfileLine& line) {
+        for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
+            if (PageName(page.tab) != line.page) continue;
+            for (const Option& option : page.options) {
+                if (option.control == line.control) return option;
+            }
+            throw BadInput("die Seite " + line.page + " hat keine Einstellung " + line.control,
+                           line.line);
+        }
+        throw BadInput("es gibt keine Seite " + line.page, line.line);
+    }
+
+    // Whether it is complete and on the disk.
+    bool WriteBackup(const std::string& path) {
+        Refusals refusals;
+        const std::vector<regfile::Key> kept = Backup(wide_, refusals);
+        Tell(refusals);
+        if (arguments_.verb == Verb::Apply && !refusals.empty()) return false;
+        file_ = path;
+        around_.WriteNewFile(path, regfile::Write(kept));
+        return true;
+    }
+
+    // Where nobody sees a question none is put, but the answer is still read.
+    bool Agreed(const Changes& changes) {
+        if (arguments_.yes) return true;
+        if (around_.OutputIsSeen()) {
+            for (const Change& change : changes) around_.Out(ToDo(change) + "\n");
+            around_.Out(std::string(Question) + " ");
+        }
+        const auto answer = around_.ReadLine();
+        if (answer && (*answer == "j" || *answer == "J")) return true;
+        around_.Out("Nichts geändert.\n");
+        return false;
+    }
+
+    void Execute(const Changes& changes) {
+        Refusals refusals;
+        CarryOut(changes, wide_, refusals,
+                 [&](const Change& change) { around_.Out(Done(change) + "\n"); });
+        Tell(refusals);
+    }
+
+    void Tell(const OptionsWindow& window) {
+        Tell(window.Refused());
+        for (const std::string& complaint : window.Complaints()) Complain(complaint);
+        failed_ |= window.Failed();
+    }
+
+    void Tell(const Refusals& refusals) {
+        for (const Refusal& refusal : refusals) {
+            Complain(refusal.place + ": " + around_.SystemText(refusal.reason) + " (" +
+                     std::to_string(refusal.reason) + ")");
+        }
+        failed_ |= !refusals.empty();
+    }
+
+    // On one line, whatever it says.
+    void Complain(std::string text) {
+        std::replace(text.begin(), text.end(), '\n', ' ');
+        std::erase(text, '\r');
+        around_.Err(text + "\n");
+    }
+
+    const platform::Machine& machine_;
+    WideRegistry& wide_;
+    Surroundings& around_;
+    Arguments arguments_;
+    // What is being read or written.
+    std::string file_;
+    bool failed_ = false;
+};
+
+}  // namespace
+
+int Run(const std::vector<std::string>& arguments, const platform::Machine& machine,
+        platform::WideRegistry& wide, Surroundings& around) {
+    return Runner(machine, wide, around).Run(arguments);
+}
+
+}  // namespace cmd
