@@ -14,6 +14,7 @@
 #include "platform/otherwindows.h"
 #include "platform/registry.h"
 #include "platform/tooltips.h"
+#include "platform/wideregistry.h"
 #include "support/serveranswer.h"
 
 // One suite for two machines. The cases below know the services by their interfaces only; which
@@ -82,6 +83,9 @@ class TestMachine {
 
     platform::Machine& Services();
 
+    // The registry's other door, always that of the machine itself.
+    platform::WideRegistry& Wide();
+
     std::optional<Stored> StoredAt(platform::Registry::Key root, std::string_view path,
                                    std::string_view valueName) const;
 
@@ -136,6 +140,9 @@ class TestMachine {
 
     // Wine answers no question about who is logged on.
     bool LacksWorkstationService() const;
+
+    // Wine makes keys whose names are longer than Windows lets them be.
+    bool TakesTooLongKeys() const;
 
     // Stands for the service of that kind, which no test may use: what comes out at its far end is
     // noted, and no clock is set.

@@ -1,6 +1,7 @@
 #include "contract/layer.h"
 #include "contract/machine.h"
 #include "platform/simulated/machine.h"
+#include "platform/simulated/wideregistry.h"
 #include "runtime/failure.h"
 
 namespace contract {
@@ -34,6 +35,7 @@ class NotingSystemClock final : public platform::SystemClock {
 
 struct TestMachine::Inside {
     platform::simulated::Machine machine;
+    platform::simulated::WideRegistry wide{machine.registry};
     Layer layer{machine.services};
     NotingSystemClock clock{machine};
     std::uint16_t lastPort = 4000;
@@ -45,6 +47,10 @@ TestMachine::~TestMachine() = default;
 
 platform::Machine& TestMachine::Services() {
     return inside_->layer.Services();
+}
+
+platform::WideRegistry& TestMachine::Wide() {
+    return inside_->wide;
 }
 
 std::optional<Stored> TestMachine::StoredAt(platform::Registry::Key root, std::string_view path,
@@ -167,6 +173,10 @@ int TestMachine::NumberOfBreak() const {
 }
 
 bool TestMachine::LacksWorkstationService() const {
+    return false;
+}
+
+bool TestMachine::TakesTooLongKeys() const {
     return false;
 }
 

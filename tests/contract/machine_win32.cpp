@@ -15,6 +15,7 @@
 #include "contract/win32/folderuser.h"
 #include "contract/win32/menuuser.h"
 #include "contract/win32/standins.h"
+#include "platform/win32/console/wideregistry.h"
 #include "platform/win32/formhandles.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/machine.h"
@@ -170,6 +171,7 @@ struct TestMachine::Inside {
     win32::SystemClock clock{NoteLocal, NoteSystem};
     std::vector<std::unique_ptr<TimeServer>> servers;
     NoForms forms;
+    win32::WideRegistry wide;
     win32::Machine machine{forms};
     Layer layer{machine.services};
     StandIns windows;
@@ -194,6 +196,10 @@ TestMachine::~TestMachine() {
 
 platform::Machine& TestMachine::Services() {
     return inside_->layer.Services();
+}
+
+platform::WideRegistry& TestMachine::Wide() {
+    return inside_->wide;
 }
 
 std::optional<Stored> TestMachine::StoredAt(platform::Registry::Key root, std::string_view path,
@@ -361,6 +367,10 @@ int TestMachine::NumberOfBreak() const {
 }
 
 bool TestMachine::LacksWorkstationService() const {
+    return WineVersion() != 0;
+}
+
+bool TestMachine::TakesTooLongKeys() const {
     return WineVersion() != 0;
 }
 
