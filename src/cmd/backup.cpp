@@ -149,9 +149,11 @@ class Restoring {
             if (!touched || !(touched->mayGo || IsTouched(*touched, name))) {
                 throw NotTouched(PlaceText(root, path, name), line);
             }
+            Change change{Change::Kind::DeleteValue, root, path, name};
             Value value;
-            if (reading_.Read(root, path, name, value) != Presence::There) continue;
-            taken_.push_back({Change::Kind::DeleteValue, root, path, name, value});
+            change.isBeforeKnown = reading_.Read(root, path, name, value) == Presence::There;
+            if (change.isBeforeKnown) change.before = value;
+            taken_.push_back(std::move(change));
         }
         for (const std::string& name : reading_.KeyNames(root, path)) {
             RemoveTree(root, path.empty() ? name : path + '\\' + name, line);
@@ -174,19 +176,18 @@ class Restoring {
 
     void TakeValue(Root root, const std::string& path, const regfile::Value& wanted) {
         Value now;
-        const bool isThere = reading_.Read(root, path, wanted.name, now) == Presence::There;
+        const Presence presence = reading_.Read(root, path, wanted.name, now);
+        if (wanted.removes && presence == Presence::Missing) return;
+        Change change{Change::Kind::DeleteValue, root, path, wanted.name};
+        if (presence == Presence::There) change.before = now;
+        change.isBeforeKnown = presence != Presence::Unknown;
         if (wanted.removes) {
-            if (isThere) {
-                taken_.push_back({Change::Kind::DeleteValue, root, path, wanted.name, now});
-            }
+            taken_.push_back(std::move(change));
             return;
         }
-        const Value after{wanted.type, wanted.bytes};
-        if (isThere && now == after) return;
-        Change change{Change::Kind::WriteValue, root, path, wanted.name};
-        if (isThere) change.before = now;
-        change.after = after;
-        made_.push_back(std::move(change));
+        change.kind = Change::Kind::WriteValue;
+        change.after = Value{wanted.type, wanted.bytes};
+        if (change.before != change.after) made_.push_back(std::move(change));
     }
 
     Reading reading_;

@@ -165,6 +165,7 @@ struct Words {
 
 Words WordsOf(const Change& change) {
     if (Takes(change)) return {"löschen ", "gelöscht "};
+    if (!change.isBeforeKnown) return {"setzen  ", "gesetzt "};
     if (change.kind == Change::Kind::WriteValue && change.before) return {"ändern  ", "geändert "};
     return {"anlegen ", "angelegt "};
 }
@@ -177,11 +178,15 @@ regfile::Key& FileKeyFor(std::vector<regfile::Key>& keys, const Change& change) 
     return keys.emplace_back(regfile::Key{.root = root, .path = change.path});
 }
 
+// A value that goes with that key.
+bool IsWithin(const Change& value, const Change& key) {
+    return key.kind == Change::Kind::DeleteKey && value.kind == Change::Kind::DeleteValue &&
+           value.root == key.root && value.path == key.path;
+}
+
 bool GoesWithItsKey(const Change& value, const Changes& changes) {
-    return std::any_of(changes.begin(), changes.end(), [&](const Change& change) {
-        return change.kind == Change::Kind::DeleteKey && change.root == value.root &&
-               change.path == value.path;
-    });
+    return std::any_of(changes.begin(), changes.end(),
+                       [&](const Change& change) { return IsWithin(value, change); });
 }
 
 }  // namespace
@@ -199,15 +204,36 @@ Changes ChangesOf(const std::vector<platform::dryrun::Change>& kept,
     return changes;
 }
 
+void ReadBefore(Changes& changes, WideRegistry& registry, Refusals& refusals) {
+    for (Change& change : changes) {
+        if (IsOfKey(change)) continue;
+        Value now;
+        const Registry::Result result =
+            registry.Read(change.root, change.path, change.valueName, now);
+        if (result == Registry::Success) {
+            change.before = now;
+        } else if (result != Registry::FileNotFound) {
+            refusals.push_back({ChangedPlace(change), result});
+            change.isBeforeKnown = change.before.has_value();
+        }
+    }
+}
+
 void CarryOut(const Changes& changes, WideRegistry& registry, Refusals& refusals,
               const std::function<void(const Change&)>& done) {
     for (const Change& change : changes) {
+        if (GoesWithItsKey(change, changes)) continue;
         const Registry::Result result = CarryOut(change, registry);
-        if (result == Registry::Success) {
-            done(change);
-        } else {
+        // Where nobody knew what was there, nothing may have been.
+        if (result == Registry::FileNotFound && !change.isBeforeKnown && Takes(change)) continue;
+        if (result != Registry::Success) {
             refusals.push_back({ChangedPlace(change), result});
+            continue;
         }
+        for (const Change& other : changes) {
+            if (IsWithin(other, change)) done(other);
+        }
+        done(change);
     }
 }
 

@@ -27,6 +27,8 @@ struct Change {
     std::string valueName = {};
     std::optional<WideRegistry::Value> before = std::nullopt;
     std::optional<WideRegistry::Value> after = std::nullopt;
+    // Otherwise nobody knows whether the value is there.
+    bool isBeforeKnown = true;
 };
 
 // In the order in which they can be carried out: what comes into being from the roots on, what goes
@@ -46,8 +48,13 @@ struct Refusal {
 };
 using Refusals = std::vector<Refusal>;
 
-// Carries them out one after the other; one that fails is noted, and the next one runs. `done`
-// hears of each that succeeded.
+// Puts what is there now into the changes of values, to the byte; of a dry run they have it as the
+// ANSI calls tell it. What cannot be read is noted.
+void ReadBefore(Changes& changes, WideRegistry& registry, Refusals& refusals);
+
+// Carries them out one after the other; one that fails is noted, and the next one runs. The values
+// of a key that goes are not deleted one by one: they go with it or stay with it. `done` hears of
+// each that succeeded.
 void CarryOut(const Changes& changes, WideRegistry& registry, Refusals& refusals,
               const std::function<void(const Change&)>& done);
 

@@ -9,7 +9,7 @@ inline constexpr char Help[] =
     "QuillmoreCmd state [/csv]            zeigt alle Einstellungen und ihre Orte\n"
     "QuillmoreCmd profile DATEI           schreibt die Einstellungen in ein Profil\n"
     "QuillmoreCmd plan [DATEI] [/preset:NAME,...] [/reg:DATEI.reg]\n"
-    "                                     zeigt, was apply ändern würde, ändert nichts\n"
+    "                                     zeigt, was apply ändern würde\n"
     "QuillmoreCmd backup DATEI.reg        sichert alle Orte, die apply ändern kann\n"
     "QuillmoreCmd apply [DATEI] [/preset:NAME,...] /backup:DATEI.reg | /nobackup\n"
     "                   [/yes]            sichert, fragt und setzt die Einstellungen\n"

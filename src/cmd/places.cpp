@@ -123,8 +123,8 @@ bool IsTouched(const TouchedKey& key, std::string_view valueName) {
 bool LeadsToTouched(Root root, std::string_view path) {
     return std::any_of(TouchedKeys().begin(), TouchedKeys().end(), [&](const TouchedKey& key) {
         const std::string_view all = key.path;
-        const bool ends =
-            all.size() == path.size() || (all.size() > path.size() && all[path.size()] == '\\');
+        const bool ends = path.empty() || all.size() == path.size() ||
+                          (all.size() > path.size() && all[path.size()] == '\\');
         return key.root == root && ends && EqualsIgnoringCase(all.substr(0, path.size()), path);
     });
 }

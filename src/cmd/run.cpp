@@ -184,6 +184,9 @@ class Runner {
         for (const std::string& preset : arguments_.presets) window.UsePreset(preset);
         Changes changes = window.Write();
         Tell(window);
+        Refusals refusals;
+        ReadBefore(changes, wide_, refusals);
+        Tell(refusals);
         return changes;
     }
 

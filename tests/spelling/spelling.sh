@@ -20,12 +20,13 @@ Sources() {
         \( -name '*.cpp' -o -name '*.h' \) -print0 | sort -z
 }
 
-# The words of each literal, with its file. What is written together with digits, underscores or
+# The words of each literal, with its file; a quote between apostrophes begins none. What is written together with digits, underscores or
 # capitals inside is a name, and so is what stands alone and begins small; then there are paths, file
 # names and the patterns of dates.
 Words() {
     xargs -0 -r perl -CSD -Mutf8 -ne '
         next if m{^\s*(//|#include|static_assert)|Mistake\(|logic_error};
+        s{\x27(?:\\.|[^\x27\\])\x27}{ }g;
         for my $text (/"((?:[^"\\]|\\.)*)"/g) {
             next if $text =~ /\\\\|^\w*$/ && $text !~ /^\p{Lu}\p{Ll}+$/;
             $text =~ s{\\[rnt"]|%\w+%?|\w+://\S+}{ }g;
