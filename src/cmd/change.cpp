@@ -205,8 +205,8 @@ Changes ChangesOf(const std::vector<platform::dryrun::Change>& kept,
 }
 
 void ReadBefore(Changes& changes, WideRegistry& registry, Refusals& refusals) {
-    for (Change& change : changes) {
-        if (IsOfKey(change)) continue;
+    std::erase_if(changes, [&](Change& change) {
+        if (IsOfKey(change)) return false;
         Value now;
         const Registry::Result result =
             registry.Read(change.root, change.path, change.valueName, now);
@@ -216,7 +216,8 @@ void ReadBefore(Changes& changes, WideRegistry& registry, Refusals& refusals) {
             refusals.push_back({ChangedPlace(change), result});
             change.isBeforeKnown = change.before.has_value();
         }
-    }
+        return change.isBeforeKnown && change.before == change.after;
+    });
 }
 
 void CarryOut(const Changes& changes, WideRegistry& registry, Refusals& refusals,

@@ -48,8 +48,9 @@ struct Refusal {
 };
 using Refusals = std::vector<Refusal>;
 
-// Puts what is there now into the changes of values, to the byte; of a dry run they have it as the
-// ANSI calls tell it. What cannot be read is noted.
+// Puts what is there now into the changes of values, to the byte, and takes those out that change
+// none: a dry run tells what the ANSI calls tell, in which a character that the code page lacks is
+// a question mark. What cannot be read is noted.
 void ReadBefore(Changes& changes, WideRegistry& registry, Refusals& refusals);
 
 // Carries them out one after the other; one that fails is noted, and the next one runs. The values

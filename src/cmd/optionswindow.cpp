@@ -292,7 +292,8 @@ void OptionsWindow::Set(const Option& option, const std::string& value) {
 
 Changes OptionsWindow::Write() {
     Report("WriteRegistry", [&] { passes_.Write(); });
-    return ChangesOf(dry_.registry.Changes(), dry_.services.locale);
+    return ChangesOf(dry_.registry.Changes(platform::dryrun::Registry::Telling::Writes),
+                     dry_.services.locale);
 }
 
 std::string_view PageName(std::string_view tab) {

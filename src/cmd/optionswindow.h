@@ -38,7 +38,8 @@ class OptionsWindow {
     // throws BadInput with the reason. What the control shows anyway is always right.
     void Set(const tweaks::Option& option, const std::string& value);
 
-    // What the write pass would change now. It can be asked once.
+    // What the write pass would write now, what is there already included; see ReadBefore. It can
+    // be asked once.
     Changes Write();
 
     // What went wrong so far: places that could not be read, sentences for the user, among them

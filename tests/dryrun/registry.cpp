@@ -66,6 +66,9 @@ TEST_CASE_FIXTURE(OverKeys, "a value that is written tells what it was and what 
 TEST_CASE_FIXTURE(OverKeys, "a write that equals what is there is no change") {
     REQUIRE(Set(Opened("A\\B"), "v", DwordValue(1)) == Registry::Success);
     CHECK(registry.Changes().empty());
+    CHECK(registry.Changes(platform::dryrun::Registry::Telling::Writes) ==
+          std::vector<Change>{{Kind::ValueWritten, HKLM, "A\\B", "v", AsTold(DwordValue(1)),
+                               AsTold(DwordValue(1))}});
     REQUIRE(Set(Opened("A\\B"), "v", {Registry::Binary, DwordValue(1).bytes}) == Registry::Success);
     CHECK(registry.Changes().size() == 1);
 }

@@ -429,22 +429,22 @@ bool Registry::HasValue(const RegistryNode& node, const std::string& name) {
     return result != FileNotFound;
 }
 
-std::vector<Change> Registry::Changes() {
+std::vector<Change> Registry::Changes(Telling telling) {
     std::vector<Change> changes;
-    for (const NodeRef& root : roots_) AddChanges(*root, changes);
+    for (const NodeRef& root : roots_) AddChanges(*root, telling, changes);
     return changes;
 }
 
-void Registry::AddChanges(const RegistryNode& node, std::vector<Change>& changes) {
+void Registry::AddChanges(const RegistryNode& node, Telling telling, std::vector<Change>& changes) {
     std::string path;
     for (const std::string& name : PathOf(node)) path += (path.empty() ? "" : "\\") + name;
     if (!node.isInside) changes.push_back({Change::Kind::KeyCreated, node.root, path});
     if (node.deleted) changes.push_back({Change::Kind::KeyDeleted, node.root, path});
-    AddValueChanges(node, path, changes);
-    for (const auto& [folded, child] : node.children) AddChanges(*child, changes);
+    AddValueChanges(node, path, telling, changes);
+    for (const auto& [folded, child] : node.children) AddChanges(*child, telling, changes);
 }
 
-void Registry::AddValueChanges(const RegistryNode& node, const std::string& path,
+void Registry::AddValueChanges(const RegistryNode& node, const std::string& path, Telling telling,
                                std::vector<Change>& changes) {
     const bool isRenewed = node.isInside && (node.deleted || !node.readsThrough);
     if (node.values.empty() && !isRenewed) return;
@@ -460,7 +460,8 @@ void Registry::AddValueChanges(const RegistryNode& node, const std::string& path
         Change change{Change::Kind::ValueDeleted, node.root, path, name};
         if (inside) change.before = inner_.Value(inside, name);
         if (pending != node.values.end()) change.after = pending->second.value;
-        if (change.before == change.after) continue;
+        const bool isWritten = change.after && telling == Telling::Writes;
+        if (change.before == change.after && !isWritten) continue;
         if (change.after) change.kind = Change::Kind::ValueWritten;
         changes.push_back(std::move(change));
     }

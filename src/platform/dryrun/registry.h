@@ -49,7 +49,11 @@ class Registry final : public platform::Registry {
     // equals the inner registry, names in any case, is no change. Done in this order, the deletions
     // last and backwards, it never meets a key with sub-keys to delete, or a parent that is
     // missing.
-    std::vector<Change> Changes();
+    //
+    // Values are compared as the ANSI calls tell them. Whoever can compare the bytes behind those
+    // may have the values told, too, that were written with what they had.
+    enum class Telling { Differences, Writes };
+    std::vector<Change> Changes(Telling telling = Telling::Differences);
 
   private:
     using NodeRef = std::shared_ptr<RegistryNode>;
@@ -86,8 +90,8 @@ class Registry final : public platform::Registry {
     bool HasChildren(const RegistryNode& node);
     bool HasValue(const RegistryNode& node, const std::string& name);
 
-    void AddChanges(const RegistryNode& node, std::vector<Change>& changes);
-    void AddValueChanges(const RegistryNode& node, const std::string& path,
+    void AddChanges(const RegistryNode& node, Telling telling, std::vector<Change>& changes);
+    void AddValueChanges(const RegistryNode& node, const std::string& path, Telling telling,
                          std::vector<Change>& changes);
 
     InnerRegistry inner_;
