@@ -179,7 +179,7 @@ void OptionsWindow::Report(const char* procedure, const Body& body) {
                               std::to_string(failure.number) + ": " + failure.description);
     }
     for (const platform::dryrun::Message& message : dry_.messages.shown) {
-        complaints_.push_back(message.text);
+        complaints_.push_back("Meldung: " + message.text);
     }
     dry_.messages.shown.clear();
 }

@@ -118,9 +118,9 @@ TEST_CASE("what the pass complains about stands on the standard error output") {
     program.console.files["p.txt"] = "\xEF\xBB\xBF[Quillmore]\nProfil=1\n[DFÜ]\ncboMTU=1500\n";
     CHECK(program.Run({"plan", "p.txt"}) == cmd::Differs);
     CHECK(program.console.err ==
-          "TTL falscher Wert eingegeben\n"
-          "HTTP1.0 Wert falsch eingegeben\n"
-          "HTTP1.1 Wert falsch eingegeben\n");
+          "Meldung: TTL falscher Wert eingegeben\n"
+          "Meldung: HTTP1.0 Wert falsch eingegeben\n"
+          "Meldung: HTTP1.1 Wert falsch eingegeben\n");
 }
 
 TEST_CASE("a pass that ends early is told, what came before is done, and the exit code is 3") {
