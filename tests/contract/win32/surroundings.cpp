@@ -20,6 +20,7 @@ using win32::KernelHandle;
 
 extern "C" {
 extern void* entryOfWriteFile asm("__imp__WriteFile@20");
+extern void* entryOfFileType asm("__imp__GetFileType@4");
 extern void* entryOfFlush asm("__imp__FlushFileBuffers@4");
 extern void* entryOfWriteConsole asm("__imp__WriteConsoleW@20");
 }
@@ -138,6 +139,10 @@ BOOL WINAPI WriteLittle(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
 BOOL WINAPI WriteNothing(HANDLE, LPCVOID, DWORD, LPDWORD written, LPOVERLAPPED) {
     *written = 0;
     return TRUE;
+}
+
+DWORD WINAPI SayDevice(HANDLE) {
+    return FILE_TYPE_CHAR;
 }
 
 BOOL WINAPI NoteFlush(HANDLE file) {
@@ -393,6 +398,10 @@ TEST_CASE_FIXTURE(SurroundingsFixture, "no device or pipe is taken for a file") 
         CHECK(ReasonOf([&] { around.WriteNewFile(path, "x"); }) == Reason(ERROR_INVALID_NAME));
     }
     CHECK(machine.FileContent(file) == "bytes");
+    // One that is told by opening it alone.
+    const support::StandInFunction devices(entryOfFileType, SayDevice);
+    CHECK(ReasonOf([&] { around.ReadFile(file); }) == Reason(ERROR_INVALID_NAME));
+    CHECK(ReasonOf([&] { around.WriteNewFile(file + "2", "x"); }) == Reason(ERROR_INVALID_NAME));
 }
 
 TEST_CASE_FIXTURE(SurroundingsFixture, "a file that is not written whole goes again") {

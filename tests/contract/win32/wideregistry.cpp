@@ -13,6 +13,8 @@
 #include "support/standinfunction.h"
 
 extern void* deleteKeyEntry asm("__imp__RegDeleteKeyW@8");
+extern void* openKeyEntry asm("__imp__RegOpenKeyExW@20");
+extern void* enumKeyEntry asm("__imp__RegEnumKeyExW@32");
 
 // What the simulated machine, whose registry has one code page, cannot hold.
 
@@ -73,6 +75,17 @@ int deletions = 0;
 LONG WINAPI NoteDeletion(HKEY, LPCWSTR) {
     ++deletions;
     return ERROR_SUCCESS;
+}
+
+int openings = 0;
+
+LONG WINAPI NoteOpening(HKEY, LPCWSTR, DWORD, REGSAM, PHKEY) {
+    ++openings;
+    return ERROR_FILE_NOT_FOUND;
+}
+
+LONG WINAPI NoSubKeys(HKEY, DWORD, LPWSTR, LPDWORD, LPDWORD, LPWSTR, LPDWORD, PFILETIME) {
+    return ERROR_NO_MORE_ITEMS;
 }
 
 }  // namespace
@@ -215,9 +228,25 @@ TEST_CASE_FIXTURE(WindowsWideRegistryFixture,
     const support::StandInFunction noting(deleteKeyEntry, NoteDeletion);
     deletions = 0;
     CHECK(wide.RemoveKey(Registry::CurrentUser, path) == Registry::AccessDenied);
-    CHECK(wide.RemoveKey(Registry::CurrentUser, "") == Registry::AccessDenied);
     CHECK(wide.RemoveKey(Registry::CurrentUser, path + "\\none") == Registry::FileNotFound);
+    {
+        const support::StandInFunction bare(enumKeyEntry, NoSubKeys);
+        CHECK(wide.RemoveKey(Registry::CurrentUser, "") == Registry::AccessDenied);
+    }
     CHECK(deletions == 0);
     CHECK(wide.RemoveKey(Registry::CurrentUser, path + "\\b") == Registry::Success);
     CHECK(deletions == 1);
+}
+
+TEST_CASE_FIXTURE(WindowsWideRegistryFixture,
+                  "a name that the system cannot count never gets there") {
+    const support::StandInFunction noting(openKeyEntry, NoteOpening);
+    openings = 0;
+    const std::string longer(0x7FFF, 'x');
+    CHECK(wide.Ask(Registry::CurrentUser, longer) == Registry::InvalidParameter);
+    CHECK(Write(longer, {REG_DWORD, {}}) == Registry::InvalidParameter);
+    CHECK(wide.RemoveValue(Registry::CurrentUser, Scratch, longer) == Registry::InvalidParameter);
+    CHECK(openings == 0);
+    CHECK(wide.Ask(Registry::CurrentUser, longer.substr(1)) == Registry::FileNotFound);
+    CHECK(openings == 1);
 }

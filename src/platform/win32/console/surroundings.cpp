@@ -159,7 +159,6 @@ void Surroundings::Put(Stream& stream, std::string_view text) const {
     const std::string lines = WithCarriageReturns(text);
     const auto write = [&] {
         if (stream.isConsole) return WriteConsoleWhole(stream.handle, ToUnits(lines));
-        if (outputCodePage_ == CP_UTF8) return WriteAll(stream.handle, lines);
         return WriteAll(stream.handle, ToCodePage(outputCodePage_, ToUnits(lines)));
     };
     if (!write() && GetLastError() != ERROR_INVALID_HANDLE) stream.lost = true;
