@@ -1,15 +1,19 @@
 #!/bin/bash
 # Proves of a finished program that the loader of Windows XP accepts it, whatever service pack.
-#   audit.sh imports ALLOWED HEADERS        every imported function is on the list, and comctl32's
-#                                           InitCommonControls is imported
+#   audit.sh imports ALLOWED HEADERS        every imported function is on the list
+#   audit.sh common-controls HEADERS        comctl32's InitCommonControls is imported
+#   audit.sh libraries HEADERS              nothing is imported but from those that each program has
 #   audit.sh service-packs LATER HEADERS    none of them came with a service pack
 #   audit.sh asked LATER PROGRAM            of those functions the program names the ones marked so
-#   audit.sh headers HEADERS                32-bit, windowed, for Windows 5.1, with a manifest
+#   audit.sh headers KIND HEADERS           32-bit, for Windows 5.1, and windowed with a manifest, or
+#                                           console
 #   audit.sh instructions DISASSEMBLY       nothing that a processor without SSE cannot run
 #   audit.sh size PROGRAM BYTES             the file is no larger than that
 #   audit.sh code-end MAP                   prints where the linker put the end of the code
-#   audit.sh program ALLOWED LATER BYTES OBJDUMP PROGRAM MAP
-#                                           all of that for one program
+#   audit.sh program KIND ALLOWED LATER BYTES OBJDUMP PROGRAM MAP
+#                                           all of that for one program: common-controls for a
+#                                           windowed one; libraries for a console one, which asks
+#                                           for no function of a service pack
 # HEADERS is what `objdump -p` prints, DISASSEMBLY what `objdump -d` prints. Every violation is one
 # line; the exit code is 1 when there is any.
 set -euo pipefail
@@ -35,23 +39,33 @@ Imports() {
 }
 
 CheckImports() {
-    local allowed=$1 found unknown status=0
+    local allowed=$1 found unknown
     found=$(Imports "$2")
     if [[ -z $found ]]; then
         echo "no import table found"
         return 1
     fi
     unknown=$(LC_ALL=C comm -13 <(grep -v '^#' "$allowed" | LC_ALL=C sort -u) <(echo "$found"))
-    if [[ -n $unknown ]]; then
-        sed 's/^/not known to be exported by XP SP3: /' <<<"$unknown"
-        status=1
-    fi
-    # Without it the common controls of the manifest are not loaded, and no window comes up.
-    if ! grep -qx 'comctl32!InitCommonControls' <<<"$found"; then
+    [[ -z $unknown ]] && return
+    sed 's/^/not known to be exported by XP SP3: /' <<<"$unknown"
+    return 1
+}
+
+# Without it the common controls of the manifest are not loaded, and no window comes up.
+CheckCommonControls() {
+    if ! grep -qx 'comctl32!InitCommonControls' <<<"$(Imports "$1")"; then
         echo "comctl32!InitCommonControls is not imported"
-        status=1
+        return 1
     fi
-    return $status
+}
+
+# The others take longer to load than the console program takes to do its work.
+CheckLibraries() {
+    local others
+    others=$(Imports "$1" | sed -E '/^(advapi32|kernel32|msvcrt)!/d')
+    [[ -z $others ]] && return
+    sed 's/^/from a library that is not for the console: /' <<<"$others"
+    return 1
 }
 
 # The names alone, since a line of the list tells more.
@@ -83,7 +97,13 @@ CheckAsked() {
 }
 
 CheckHeaders() {
-    awk '
+    local subsystem
+    case $1 in
+        windowed) subsystem=00000002 ;;
+        console) subsystem=00000003 ;;
+        *) echo "no kind of program: $1" && return 1 ;;
+    esac
+    awk -v kind="$1" -v subsystem=$subsystem '
         function Expect(label, wanted) {
             found = label in field ? field[label] : "absent"
             if (found != wanted) {
@@ -107,13 +127,13 @@ CheckHeaders() {
             Expect("MinorOSystemVersion", "1")
             Expect("MajorSubsystemVersion", "5")
             Expect("MinorSubsystemVersion", "1")
-            Expect("Subsystem", "00000002")
-            Expect("manifest", "present")
+            Expect("Subsystem", subsystem)
+            if (kind == "windowed") Expect("manifest", "present")
             # Functions in a table of their own would escape the look at the imports.
             Expect("delayed imports", "00000000")
             exit bad
         }
-    ' "$1"
+    ' "$2"
 }
 
 # %xmm came with SSE, %ymm and %zmm later; the others named here touch no such register.
@@ -157,7 +177,7 @@ CheckSize() {
 }
 
 CheckProgram() {
-    local allowed=$1 later=$2 limit=$3 objdump=$4 program=$5 map=$6 status=0 texts code_end
+    local kind=$1 allowed=$2 later=$3 limit=$4 objdump=$5 program=$6 map=$7 status=0 texts code_end
     if ! code_end=$(CodeEnd "$map"); then
         echo "$code_end"
         return 1
@@ -167,8 +187,14 @@ CheckProgram() {
     "$objdump" -d --stop-address="$code_end" "$program" >"$texts/disassembly"
     CheckImports "$allowed" "$texts/headers" || status=1
     CheckServicePacks "$later" "$texts/headers" || status=1
-    CheckAsked "$later" "$program" || status=1
-    CheckHeaders "$texts/headers" || status=1
+    if [[ $kind == windowed ]]; then
+        CheckCommonControls "$texts/headers" || status=1
+        CheckAsked "$later" "$program" || status=1
+    else
+        CheckLibraries "$texts/headers" || status=1
+        CheckAsked <(sed 's/ asked$//' "$later") "$program" || status=1
+    fi
+    CheckHeaders "$kind" "$texts/headers" || status=1
     CheckInstructions "$texts/disassembly" || status=1
     CheckSize "$program" "$limit" || status=1
     rm -r "$texts"
@@ -182,6 +208,8 @@ what=${1:-}
 shift || true
 case $what in
     imports) CheckImports "$@" ;;
+    common-controls) CheckCommonControls "$@" ;;
+    libraries) CheckLibraries "$@" ;;
     service-packs) CheckServicePacks "$@" ;;
     asked) CheckAsked "$@" ;;
     headers) CheckHeaders "$@" ;;
@@ -189,5 +217,5 @@ case $what in
     code-end) CodeEnd "$@" ;;
     size) CheckSize "$@" ;;
     program) CheckProgram "$@" ;;
-    *) sed -n '2,16s/^# \?//p' "$0" >&2; exit 2 ;;
+    *) sed -n '2,/^$/s/^# \?//p' "$0" >&2; exit 2 ;;
 esac

@@ -42,8 +42,6 @@ Refuses "a known function of an unknown DLL" "bcrypt!ShellExecuteA" \
     's/SHELL32.dll/bcrypt.dll/' headers.txt "${imports[@]}"
 Refuses "an unknown ordinal" "shell32!#179" \
     's/  178  <none>/  179  <none>/' headers.txt "${imports[@]}"
-Refuses "common controls that are not initialised" "InitCommonControls is not imported" \
-    '/InitCommonControls/d' headers.txt "${imports[@]}"
 Refuses "a text without imports" "no import table found" '/^\t/d' headers.txt "${imports[@]}"
 
 Accepts "known functions pass, as newer tools print them" \
@@ -52,6 +50,14 @@ Refuses "an unknown function, as newer tools print it" "shell32!SHGetKnownFolder
     's/ShellExecuteA/SHGetKnownFolderPath/' headers-newer.txt "${imports[@]}"
 Refuses "an unknown ordinal, as newer tools print it" "shell32!#179" \
     's/  178  <none>/  179  <none>/' headers-newer.txt "${imports[@]}"
+
+Accepts "common controls that are initialised pass" common-controls "$here/samples/headers.txt"
+Refuses "common controls that are not initialised" "InitCommonControls is not imported" \
+    '/InitCommonControls/d' headers.txt common-controls
+
+Accepts "the libraries of each program pass" libraries "$here/samples/headers-console.txt"
+Refuses "a library that the console program is to do without" "the console: ole32!RegCloseKey" \
+    's/ADVAPI32.dll/ole32.dll/' headers-console.txt libraries
 
 later=$here/samples/service-packs.txt
 Accepts "functions of the first XP pass" service-packs "$later" "$here/samples/headers.txt"
@@ -68,23 +74,28 @@ Refuses "an unmarked function that is asked for" \
     "service pack 2 and is named without being marked: shell32!LaterFunction" \
     's/OfMine//' texts.txt asked "$later"
 
-Accepts "headers for XP pass" headers "$here/samples/headers.txt"
+Accepts "headers for XP pass" headers windowed "$here/samples/headers.txt"
 Refuses "a later system" "MajorOSystemVersion is 6" \
-    's/^\(MajorOSystemVersion\t\)5/\16/' headers.txt headers
+    's/^\(MajorOSystemVersion\t\)5/\16/' headers.txt headers windowed
 Refuses "an earlier subsystem" "MajorSubsystemVersion is 4" \
-    's/^\(MajorSubsystemVersion\t\)5/\14/' headers.txt headers
+    's/^\(MajorSubsystemVersion\t\)5/\14/' headers.txt headers windowed
 Refuses "Windows 2000" "MinorSubsystemVersion is 0" \
-    's/^\(MinorSubsystemVersion\t\)1/\10/' headers.txt headers
+    's/^\(MinorSubsystemVersion\t\)1/\10/' headers.txt headers windowed
 Refuses "another minor version of the system" "MinorOSystemVersion is 2" \
-    's/^\(MinorOSystemVersion\t\)1/\12/' headers.txt headers
+    's/^\(MinorOSystemVersion\t\)1/\12/' headers.txt headers windowed
 Refuses "a console program" "Subsystem is 00000003" \
-    's/^\(Subsystem\t*\)00000002/\100000003/' headers.txt headers
-Refuses "64 bits" "file format is pei-x86-64" 's/pei-i386/pei-x86-64/' headers.txt headers
-Refuses "64-bit magic" "Magic is (PE32+)" 's/(PE32)/(PE32+)/' headers.txt headers
-Refuses "a missing manifest" "manifest is absent" 's/ID: 0x000018/ID: 0x000010/' headers.txt headers
-Refuses "a library's manifest" "manifest is absent" 's/ID: 0x000001/ID: 0x000002/' headers.txt headers
+    's/^\(Subsystem\t*\)00000002/\100000003/' headers.txt headers windowed
+Refuses "64 bits" "file format is pei-x86-64" 's/pei-i386/pei-x86-64/' headers.txt headers windowed
+Refuses "64-bit magic" "Magic is (PE32+)" 's/(PE32)/(PE32+)/' headers.txt headers windowed
+Refuses "a missing manifest" "manifest is absent" 's/ID: 0x000018/ID: 0x000010/' headers.txt headers windowed
+Refuses "a library's manifest" "manifest is absent" 's/ID: 0x000001/ID: 0x000002/' headers.txt headers windowed
 Refuses "delayed imports" "delayed imports is 00007400" \
-    's/^Entry d 00000000/Entry d 00007400/' headers.txt headers
+    's/^Entry d 00000000/Entry d 00007400/' headers.txt headers windowed
+Accepts "headers of a console program pass" headers console "$here/samples/headers-console.txt"
+Refuses "a windowed program for the console" "Subsystem is 00000002" \
+    's/^\(Subsystem\t*\)00000003/\100000002/' headers-console.txt headers console
+Refuses "a console program for a later system" "MinorSubsystemVersion is 2" \
+    's/^\(MinorSubsystemVersion\t\)1/\12/' headers-console.txt headers console
 
 Accepts "plain instructions pass" instructions "$here/samples/disassembly.txt"
 Refuses "an SSE2 register" "xmm0" 's/fldl   0x8(%esp)/movsd  0x8(%esp),%xmm0/' disassembly.txt \
