@@ -230,7 +230,7 @@ class Runner {
             around_.Out(std::string(Question) + " ");
         }
         const auto answer = around_.ReadLine();
-        if (answer && (*answer == "j" || *answer == "J")) return true;
+        if (answer == "j") return true;
         around_.Out("Nichts geändert.\n");
         return false;
     }

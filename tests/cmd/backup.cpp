@@ -158,13 +158,13 @@ TEST_CASE_FIXTURE(BackingUp,
     console.files["r.reg"] =
         "Windows Registry Editor Version 5.00\r\n\r\n"
         "[HKEY_CURRENT_USER\\Control Panel\\Desktop]\r\n\"HungAppTimeout\"=\"1\"\r\n";
-    for (const char* answer : {"n", "", "ja", " j", "y"}) {
+    for (const char* answer : {"n", "", "ja", " j", "y", "J"}) {
         console.answers = {answer};
         CHECK(Run({"restore", "r.reg"}) == cmd::RefusedByUser);
         CHECK(machine.registry.Dump().empty());
     }
     CHECK(Run({"restore", "r.reg"}) == cmd::RefusedByUser);
-    console.answers = {"J"};
+    console.answers = {"j"};
     CHECK(Run({"restore", "r.reg"}) == cmd::Fine);
     CHECK(console.out ==
           "anlegen HKCU\\Control Panel\\Desktop\n"
