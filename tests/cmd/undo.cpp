@@ -13,7 +13,7 @@ using namespace cmd_test;
 
 namespace {
 
-constexpr int Rounds = 15;
+constexpr int Rounds = 10;
 
 }  // namespace
 
