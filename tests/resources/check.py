@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""check.py GENERATED: the icon, the pictures of the tabs and the version block are what Windows XP shows."""
+"""check.py GENERATED: the icon, the pictures of the tabs and the version blocks are what Windows XP shows."""
 
 import pathlib
 import re
@@ -60,14 +60,24 @@ class Resources(unittest.TestCase):
             self.assertIn(0, part, f"picture {tab} leaves nothing free")
             self.assertGreater(sum(byte != 0 for byte in part), 30, f"picture {tab} is empty")
 
-    def test_the_version_block_is_german_and_tells_the_version_of_the_project(self):
-        script = (RESOURCES / "Quillmore.rc").read_text(encoding="utf-8")
+    def test_each_version_block_is_german_and_has_the_names_of_its_program(self):
+        for program in ("Quillmore", "QuillmoreCmd"):
+            script = (RESOURCES / f"{program}.rc").read_text(encoding="utf-8")
+            for name in ("FILEVERSION", "PRODUCTVERSION"):
+                self.assertIn(f"{name} VERSION_NUMBERS\n", script)
+            for name in ("FileVersion", "ProductVersion"):
+                self.assertIn(f'VALUE "{name}", VERSION_TEXT\n', script)
+            self.assertIn(f'VALUE "InternalName", "{program}"\n', script)
+            self.assertIn(f'VALUE "OriginalFilename", "{program}.exe"\n', script)
+            self.assertIn('VALUE "ProductName", "Quillmore"\n', script)
+            self.assertIn("LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\n", script)
+            self.assertIn(f'VALUE "Translation", 0x{GERMAN:04x}, 1200\n', script)
+            self.assertIn(f'BLOCK "{GERMAN:04X}04B0"\n', script)
+            self.assertIn('1 ICON "Quillmore.ico"\n', script)
+
+    def test_the_version_is_that_of_the_project(self):
         project = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
         version = re.search(r"VERSION ([\d.]+) LANGUAGES", project).group(1)
-        for name in ("FILEVERSION", "PRODUCTVERSION"):
-            self.assertIn(f"{name} VERSION_NUMBERS\n", script)
-        for name in ("FileVersion", "ProductVersion"):
-            self.assertIn(f'VALUE "{name}", VERSION_TEXT\n', script)
         told = (GENERATED / "version.rc.h").read_text(encoding="utf-8")
         self.assertIn(f"#define VERSION_NUMBERS {version.replace('.', ',')}\n", told)
         self.assertIn(f'#define VERSION_TEXT "{version}"\n', told)
@@ -78,9 +88,6 @@ class Resources(unittest.TestCase):
         self.assertEqual(version.split("."), [*shown[:2], "0", shown[2]])
         manifest = (GENERATED / "Quillmore.manifest").read_text(encoding="utf-8")
         self.assertIn(f'name="Quillmore" version="{version}"', manifest)
-        self.assertIn("LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\n", script)
-        self.assertIn(f'VALUE "Translation", 0x{GERMAN:04x}, 1200\n', script)
-        self.assertIn(f'BLOCK "{GERMAN:04X}04B0"\n', script)
 
 
 if __name__ == "__main__":
