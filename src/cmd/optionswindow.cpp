@@ -287,7 +287,11 @@ void OptionsWindow::Set(const Option& option, const std::string& value) {
         throw BadInput("der Text von " + name + " hat ein Zeichen, das niemand eingeben kann");
     }
     CheckNumber(name, value);
-    tweaks::SetTextOfControl(form_, name, value);
+    try {
+        tweaks::SetTextOfControl(form_, name, value);
+    } catch (const runtime::Failure& failure) {
+        throw BadInput(name + " kann nicht \"" + value + "\" sein: " + failure.description);
+    }
 }
 
 Changes OptionsWindow::Write() {

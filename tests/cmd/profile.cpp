@@ -125,6 +125,8 @@ TEST_CASE("every slip of a profile is told with file, line and reason, and nothi
         {"[DFÜ]\ntxtRWIN=-1\n", "txtRWIN will eine Zahl von 0 bis 2147483647, nicht \"-1\""},
         {"[DFÜ]\ntxtTTL=3000000000\n",
          "txtTTL will eine Zahl von 0 bis 2147483647, nicht \"3000000000\""},
+        {"[System]\ntxtStartmenu=3000000000\n",
+         "txtStartmenu kann nicht \"3000000000\" sein: Überlauf"},
         {"[DFÜ]\ntxtIETitel=日本\n",
          "der Text von txtIETitel hat ein Zeichen, das dieses Windows hier nicht speichern kann"},
         {"[DFÜ]\ntxtIETitel=\"a\\r\\nb\"\n",

@@ -67,8 +67,8 @@ TEST_CASE("the dialogue of Apply asks in its own words and writes between the qu
     CHECK(CacheIsWritten());
     CHECK(workplace.Stored("Options", "TrayIcon") == "0");
     DeclineRestart(program);
-    Until(
-        "the window to be free", [&] { return program.Responds("frmMain"); }, Blocked);
+    const auto isFree = [&] { return program.Responds("frmMain"); };
+    Until("the window to be free", isFree, Blocked);
     CHECK(program.Running());
 }
 

@@ -144,8 +144,8 @@ TEST_CASE_FIXTURE(SoftwareDialogue,
         // Longer than the watch looks away, which is half a second.
         Sleep(750);
         CHECK(RowOf("Quillmore A") == row);
-        Until(
-            "the list to be free", [&] { return program.Responds(SoftwareForm); }, Blocked);
+        const auto isFree = [&] { return program.Responds(SoftwareForm); };
+        Until("the list to be free", isFree, Blocked);
         hold.LetGo();
         WaitGone("Quillmore A");
         CHECK(RowOf("Quillmore B") == row);

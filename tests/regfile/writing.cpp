@@ -103,8 +103,11 @@ TEST_CASE("a name that fills the line leaves one byte on it") {
 
 TEST_CASE("the line is measured in characters of 16 bits") {
     // 20 and 40 of them, not the bytes that the name has in the program.
-    for (const auto& [name, bytes] :
-         {std::pair("üüüüüüüüüüüüüüüüüüüü", 17u), std::pair("😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀", 10u)}) {
+    const std::pair<const char*, std::ptrdiff_t> rows[] = {
+        {"üüüüüüüüüüüüüüüüüüüü", 17},
+        {"😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀😀", 10},
+    };
+    for (const auto& [name, bytes] : rows) {
         CAPTURE(name);
         const std::u16string lines = LinesOf({name, false, 3, std::vector<std::uint8_t>(30, 0x55)});
         const auto first = lines.substr(0, lines.find(u"\r\n"));
