@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "contract/machine.h"
 #include "platform/win32/console/utf16.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/program.h"
@@ -40,7 +41,13 @@ struct InheritedPipe {
     }
 };
 
-// Runs contract_console.exe, the console program's main around something else, to its end.
+// Of contract_console.exe, the console program's main around something else.
+std::wstring CommandLine(std::string_view arguments) {
+    return platform::win32::ToUnits('"' + platform::win32::Program().Directory() +
+                                    "\\contract_console.exe\" " + std::string(arguments));
+}
+
+// Runs it to its end.
 Ended RunConsole(std::string_view arguments, bool somebodyReads = true) {
     InheritedPipe out;
     InheritedPipe err;
@@ -105,4 +112,21 @@ TEST_CASE("an output that got lost is a failure of its own, none worse is hidden
               (code <= 1 ? 3 : code));
         CHECK(RunConsole("say " + std::to_string(code), false).code == code);
     }
+}
+
+TEST_CASE("in a console of its own the console program speaks and listens") {
+    contract::TestMachine machine;
+    const std::string path = machine.FilePath("seen.txt");
+    std::wstring command = CommandLine("console \"" + path + '"');
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = SW_HIDE;
+    PROCESS_INFORMATION process = {};
+    REQUIRE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE,
+                           nullptr, nullptr, &startup, &process));
+    const KernelHandle thread(process.hThread);
+    const KernelHandle running(process.hProcess);
+    CHECK(WaitForSingleObject(running.Get(), 30000) == WAIT_OBJECT_0);
+    CHECK(machine.FileContent(path) == "seen|Größe € |zwei    |jä||n|");
 }

@@ -20,6 +20,8 @@ using win32::KernelHandle;
 
 extern "C" {
 extern void* entryOfWriteFile asm("__imp__WriteFile@20");
+extern void* entryOfConsoleMode asm("__imp__GetConsoleMode@8");
+extern void* entryOfReadConsole asm("__imp__ReadConsoleW@20");
 extern void* entryOfFileType asm("__imp__GetFileType@4");
 extern void* entryOfFlush asm("__imp__FlushFileBuffers@4");
 extern void* entryOfWriteConsole asm("__imp__WriteConsoleW@20");
@@ -159,6 +161,20 @@ std::string Large() {
     std::string bytes;
     for (int i = 0; i < 3000000; ++i) bytes += static_cast<char>(i % 251);
     return bytes;
+}
+
+BOOL WINAPI SayConsole(HANDLE, LPDWORD) {
+    return TRUE;
+}
+
+std::vector<std::wstring> typed;
+
+BOOL WINAPI TypeNext(HANDLE, LPVOID units, DWORD, LPDWORD length, PCONSOLE_READCONSOLE_CONTROL) {
+    *length = 0;
+    if (typed.empty()) return FALSE;
+    *length = static_cast<DWORD>(typed.front().copy(static_cast<wchar_t*>(units), 512));
+    typed.erase(typed.begin());
+    return TRUE;
 }
 
 std::wstring toConsole;
@@ -485,60 +501,37 @@ TEST_CASE_FIXTURE(SurroundingsFixture, "the system's texts are sentences on one 
     CHECK(told > 500);
 }
 
-// A console of its own, shown nowhere.
 TEST_CASE("a console gets characters, in pieces that it can take") {
-    FreeConsole();
-    REQUIRE(AllocConsole());
-    {
-        const win32::FileHandle screen(CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
-                                                   FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                                   OPEN_EXISTING, 0, nullptr));
-        const win32::FileHandle keys(CreateFileW(L"CONIN$", GENERIC_READ | GENERIC_WRITE,
-                                                 FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                                 OPEN_EXISTING, 0, nullptr));
-        const Standard output(STD_OUTPUT_HANDLE, screen.Get());
-        const Standard input(STD_INPUT_HANDLE, keys.Get());
-        win32::Surroundings around;
-        CHECK(around.OutputIsSeen());
-        around.Out("Größe €\nzwei");
-        wchar_t shown[8] = {};
-        DWORD count = 0;
-        ReadConsoleOutputCharacterW(screen.Get(), shown, 7, {0, 0}, &count);
-        CHECK(win32::FromUnits(shown) == "Größe €");
-        ReadConsoleOutputCharacterW(screen.Get(), shown, 7, {0, 1}, &count);
-        CHECK(win32::FromUnits(shown).starts_with("zwei"));
+    const support::StandInFunction yes(entryOfConsoleMode, SayConsole);
+    const support::StandInFunction noting(entryOfWriteConsole, NoteConsole);
+    win32::Surroundings around;
+    CHECK(around.OutputIsSeen());
+    toConsole.clear();
+    around.Out("Größe €\n");
+    around.Err("\n");
+    around.UseUtf8();
+    around.Out("ä");
+    CHECK(win32::FromUnits(toConsole) == "Größe €\r\n\r\nä");
+    toConsole.clear();
+    std::string text;
+    for (int i = 0; i < 10000; ++i) text += "\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E-";
+    around.Out(text);
+    CHECK((win32::FromUnits(toConsole) == text));
+    CHECK(largestPiece * sizeof(wchar_t) < 60000);
+    CHECK_FALSE(cutsPairs);
+    CHECK_FALSE(around.OutputLost());
+}
 
-        std::string text;
-        while (text.size() < 100000)
-            text +=
-                "\xF0\x9D\x84\x9E"
-                "a\xF0\x9D\x84\x9E";
-        {
-            const support::StandInFunction noting(entryOfWriteConsole, NoteConsole);
-            around.Out(text);
-        }
-        CHECK((win32::FromUnits(toConsole) == text));
-        CHECK(largestPiece * sizeof(wchar_t) < 60000);
-        CHECK_FALSE(cutsPairs);
-        CHECK_FALSE(around.OutputLost());
-
-        std::vector<INPUT_RECORD> typed;
-        for (const wchar_t unit : std::wstring_view(L"jä\r\rn\r\x1A\r")) {
-            for (const BOOL down : {TRUE, FALSE}) {
-                INPUT_RECORD record = {};
-                record.EventType = KEY_EVENT;
-                record.Event.KeyEvent.bKeyDown = down;
-                record.Event.KeyEvent.wRepeatCount = 1;
-                record.Event.KeyEvent.uChar.UnicodeChar = unit;
-                record.Event.KeyEvent.wVirtualKeyCode = unit == L'\r' ? VK_RETURN : 0;
-                typed.push_back(record);
-            }
-        }
-        WriteConsoleInputW(keys.Get(), typed.data(), static_cast<DWORD>(typed.size()), &count);
-        CHECK(around.ReadLine() == "jä");
-        CHECK(around.ReadLine() == "");
-        CHECK(around.ReadLine() == "n");
-        CHECK(around.ReadLine() == std::nullopt);
-    }
-    FreeConsole();
+TEST_CASE("lines of a console are read one by one, until its user ends them") {
+    const support::StandInFunction yes(entryOfConsoleMode, SayConsole);
+    const support::StandInFunction typing(entryOfReadConsole, TypeNext);
+    win32::Surroundings around;
+    typed = {L"jä\r\n", L"\r\n", L"ein langes", L" Wort\r\nn\r\n", L"\x1A\r\n"};
+    CHECK(around.ReadLine() == "jä");
+    CHECK(around.ReadLine() == "");
+    CHECK(around.ReadLine() == "ein langes Wort");
+    CHECK(around.ReadLine() == "n");
+    CHECK(around.ReadLine() == std::nullopt);
+    // As the system has it when the user breaks it off.
+    CHECK(around.ReadLine() == std::nullopt);
 }
