@@ -160,7 +160,7 @@ void ParseDump(std::string_view text, const std::string& path, RegistryState& st
     }
 }
 
-void DumpTree(const std::string& root, const std::string& key, RegistryState& state) {
+std::string SavedTree(const std::string& root, const std::string& key) {
     EnableBackupPrivilege();
     RegistryKey opened;
     RegOpenKeyExW(RootOf(root), ToWide(key).c_str(), 0, KEY_READ, opened.Out());
@@ -169,9 +169,14 @@ void DumpTree(const std::string& root, const std::string& key, RegistryState& st
         FromWide({folder, GetTempPathW(MAX_PATH, folder)}) + "quillmore-registry.dump";
     const LSTATUS result = RegSaveKeyW(opened.Get(), ToWide(file).c_str(), nullptr);
     if (result) throw Failed("cannot save " + key + ", error " + std::to_string(result));
-    const std::string text = ReadFile(file);
+    std::string text = ReadFile(file);
     DeleteFileW(ToWide(file).c_str());
-    ParseDump(text, LowerCase(ToWide(key.empty() ? root : root + '\\' + key)), state);
+    return text;
+}
+
+void DumpTree(const std::string& root, const std::string& key, RegistryState& state) {
+    ParseDump(SavedTree(root, key), LowerCase(ToWide(key.empty() ? root : root + '\\' + key)),
+              state);
 }
 
 RegistryState SnapshotOfMachine() {

@@ -9,8 +9,12 @@
 // for the machine's software; its server writes the same to a file in one.
 namespace endtoend {
 
-// Adds everything below the key to the state, as Snapshot does. Wine does not save what lives until
-// the next start only. Throws Failed when the branch cannot be saved or its file is not understood.
+// The file that Wine saves the branch to; what lives until the next start only is not in it. Throws
+// Failed when it cannot be saved.
+std::string SavedTree(const std::string& root, const std::string& key);
+
+// Adds everything below the key to the state, as Snapshot does. Throws Failed when the branch
+// cannot be saved or its file is not understood.
 void DumpTree(const std::string& root, const std::string& key, RegistryState& state);
 
 // What a program like ours could touch: the machine's software and system, the user's whole tree.
