@@ -76,11 +76,11 @@ class Parser {
             }
         }
         for (const Switch& one : switches_) {
-            if (one.name == "?") return {};
+            if (Has("? h help -help", one.name)) return {};
         }
         if (!command_) {
-            if (!switches_.empty()) throw BadInput("der Befehl fehlt");
-            return {};
+            if (switches_.empty()) return {};
+            throw BadInput("vor oder hinter /" + switches_.front().name + " fehlt der Befehl");
         }
         arguments_.verb = command_->verb;
         if (command_->file == FileUse::Needed && arguments_.file.empty()) {
@@ -105,7 +105,8 @@ class Parser {
             }
             return;
         }
-        if (command_->file == FileUse::None || !arguments_.file.empty() || word.empty()) {
+        if (word.empty()) throw BadInput("ein Name ist leer");
+        if (command_->file == FileUse::None || !arguments_.file.empty()) {
             throw BadInput("\"" + word + "\" ist hier zu viel");
         }
         arguments_.file = word;

@@ -117,7 +117,8 @@ BadInput NotTouched(const std::string& place, int line) {
 
 class Restoring {
   public:
-    Restoring(WideRegistry& registry, Refusals& refusals) : reading_(registry, refusals) {}
+    Restoring(WideRegistry& registry, Refusals& refusals, std::vector<std::string>& staying)
+        : reading_(registry, refusals), staying_(staying) {}
 
     void Take(const regfile::Key& key) {
         const Root root = RootOfLongName(key.root);
@@ -125,7 +126,7 @@ class Restoring {
             throw NotTouched(key.root + "\\" + key.path, key.line);
         }
         if (key.removes) {
-            RemoveTree(root, key.path, key.line);
+            RemoveTree(root, key.path);
         } else {
             TakeValues(root, key);
         }
@@ -139,15 +140,22 @@ class Restoring {
     }
 
   private:
-    // The key, then what is in it: what goes is carried out from the end.
-    void RemoveTree(Root root, const std::string& path, int line) {
-        if (reading_.Ask(root, path) != Presence::There) return;
-        if (!LeadsToTouched(root, path)) throw NotTouched(PlaceText(root, path), line);
-        taken_.push_back({Change::Kind::DeleteKey, root, path});
+    // The key, then what is in it: what goes is carried out from the end. Returns whether all of
+    // it goes.
+    bool RemoveTree(Root root, const std::string& path) {
+        if (reading_.Ask(root, path) != Presence::There) return true;
+        if (!LeadsToTouched(root, path)) {
+            staying_.push_back(PlaceText(root, path));
+            return false;
+        }
+        const std::size_t place = taken_.size();
+        bool allGoes = true;
         const TouchedKey* touched = FindTouchedKey(root, path);
         for (const std::string& name : reading_.ValueNames(root, path)) {
             if (!touched || !(touched->mayGo || IsTouched(*touched, name))) {
-                throw NotTouched(PlaceText(root, path, name), line);
+                staying_.push_back(PlaceText(root, path, name));
+                allGoes = false;
+                continue;
             }
             Change change{Change::Kind::DeleteValue, root, path, name};
             Value value;
@@ -156,8 +164,13 @@ class Restoring {
             taken_.push_back(std::move(change));
         }
         for (const std::string& name : reading_.KeyNames(root, path)) {
-            RemoveTree(root, path.empty() ? name : path + '\\' + name, line);
+            allGoes &= RemoveTree(root, path.empty() ? name : path + '\\' + name);
         }
+        if (allGoes) {
+            taken_.insert(taken_.begin() + static_cast<std::ptrdiff_t>(place),
+                          {Change::Kind::DeleteKey, root, path});
+        }
+        return allGoes;
     }
 
     void TakeValues(Root root, const regfile::Key& key) {
@@ -191,6 +204,7 @@ class Restoring {
     }
 
     Reading reading_;
+    std::vector<std::string>& staying_;
     Changes made_;
     Changes taken_;
 };
@@ -267,9 +281,9 @@ std::vector<regfile::Key> Backup(WideRegistry& registry, Refusals& refusals) {
     return file;
 }
 
-Changes ToRestore(const std::vector<regfile::Key>& file, WideRegistry& registry,
-                  Refusals& refusals) {
-    Restoring restoring(registry, refusals);
+Changes ToRestore(const std::vector<regfile::Key>& file, WideRegistry& registry, Refusals& refusals,
+                  std::vector<std::string>& staying) {
+    Restoring restoring(registry, refusals, staying);
     for (const regfile::Key& key : Merged(file)) restoring.Take(key);
     return restoring.Result();
 }

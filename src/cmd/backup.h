@@ -12,8 +12,9 @@ namespace cmd {
 std::vector<regfile::Key> Backup(WideRegistry& registry, Refusals& refusals);
 
 // What brings the registry to what the file says. Throws BadInput, with the file's line, for a
-// place that the write pass never touches, which a key to be removed has below it just as well.
-Changes ToRestore(const std::vector<regfile::Key>& file, WideRegistry& registry,
-                  Refusals& refusals);
+// place that the write pass never touches. What a key to be removed holds beside such places is
+// somebody else's: it stays, with the keys above it, and its place is added to `staying`.
+Changes ToRestore(const std::vector<regfile::Key>& file, WideRegistry& registry, Refusals& refusals,
+                  std::vector<std::string>& staying);
 
 }  // namespace cmd

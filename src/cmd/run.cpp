@@ -20,8 +20,6 @@ namespace {
 using platform::WideRegistry;
 using tweaks::Option;
 
-constexpr char Question[] = "Einstellungen übernehmen? (j/n)";
-
 // A profile's lines are looked up before anything is set.
 struct Setting {
     const Option* option;
@@ -30,7 +28,7 @@ struct Setting {
 };
 
 std::string LineOf(const std::string& file, const BadInput& input) {
-    std::string text = file.empty() ? "" : file + ": ";
+    std::string text = file + ": ";
     if (input.line > 0) text += "Zeile " + std::to_string(input.line) + ": ";
     return text + input.reason;
 }
@@ -44,7 +42,7 @@ class Runner {
         try {
             arguments_ = ParseArguments(given);
         } catch (const BadInput& input) {
-            Complain(LineOf("", input) + ". Hilfe: QuillmoreCmd /?");
+            Complain("QuillmoreCmd: " + input.reason + ". Hilfe: QuillmoreCmd /?");
             return WrongInput;
         }
         if (arguments_.utf8) around_.UseUtf8();
@@ -119,7 +117,7 @@ class Runner {
             }
         }
         file_ = arguments_.file;
-        around_.WriteFile(file_, WriteProfile(lines));
+        around_.WriteNewFile(file_, WriteProfile(lines));
         return Fine;
     }
 
@@ -128,15 +126,15 @@ class Runner {
         for (const Change& change : changes) around_.Out(ToDo(change) + "\n");
         if (!arguments_.regFile.empty()) {
             file_ = arguments_.regFile;
-            around_.WriteFile(file_, regfile::Write(AsRegistrationFile(changes)));
+            around_.WriteNewFile(file_, regfile::Write(AsRegistrationFile(changes)));
         }
-        return changes.empty() ? Fine : Differs;
+        return changes.empty() ? NothingToDo() : Differs;
     }
 
     int Apply() {
         const Changes changes = Planned();
         if (changes.empty()) return NothingToDo();
-        if (!Agreed(changes)) return RefusedByUser;
+        if (!Agreed(changes, "Einstellungen übernehmen? (j/n)")) return RefusedByUser;
         if (!arguments_.backupFile.empty() && !WriteBackup(arguments_.backupFile)) {
             Complain("Ohne vollständige Sicherung wird nichts geändert.");
             return NotAll;
@@ -150,14 +148,18 @@ class Runner {
         const std::string bytes = around_.ReadFile(file_);
         Refusals refusals;
         Changes changes;
+        std::vector<std::string> staying;
         try {
-            changes = ToRestore(regfile::Read(bytes), wide_, refusals);
+            changes = ToRestore(regfile::Read(bytes), wide_, refusals, staying);
         } catch (const regfile::Slip& slip) {
             throw BadInput(slip.reason, slip.line);
         }
         Tell(refusals);
+        for (const std::string& place : staying) {
+            Complain(place + " bleibt: Das ist nicht von Quillmore.");
+        }
         if (changes.empty()) return NothingToDo();
-        if (!Agreed(changes)) return RefusedByUser;
+        if (!Agreed(changes, "Einstellungen zurückholen? (j/n)")) return RefusedByUser;
         Execute(changes);
         return Fine;
     }
@@ -223,23 +225,29 @@ class Runner {
     }
 
     // Where nobody sees a question none is put, but the answer is still read.
-    bool Agreed(const Changes& changes) {
+    bool Agreed(const Changes& changes, const std::string& question) {
         if (arguments_.yes) return true;
         if (around_.OutputIsSeen()) {
             for (const Change& change : changes) around_.Out(ToDo(change) + "\n");
-            around_.Out(std::string(Question) + " ");
+            around_.Out(question + " ");
         }
         const auto answer = around_.ReadLine();
         if (answer == "j") return true;
-        around_.Out("Nichts geändert.\n");
+        around_.Out(around_.OutputIsSeen() ? "Nichts geändert.\n"
+                                           : "Nichts geändert. Ohne Frage geht es mit /yes.\n");
         return false;
     }
 
     void Execute(const Changes& changes) {
         Refusals refusals;
-        CarryOut(changes, wide_, refusals,
-                 [&](const Change& change) { around_.Out(Done(change) + "\n"); });
+        std::size_t count = 0;
+        CarryOut(changes, wide_, refusals, [&](const Change& change) {
+            around_.Out(Done(change) + "\n");
+            ++count;
+        });
         Tell(refusals);
+        around_.Out(std::to_string(count) + " von " + std::to_string(changes.size()) +
+                    " Änderungen ausgeführt.\n");
     }
 
     void Tell(const OptionsWindow& window) {

@@ -35,10 +35,9 @@ class Surroundings {
     // A line of the standard input without its end; nothing at the end of the input.
     virtual std::optional<std::string> ReadLine() = 0;
 
-    // These throw FileFailure. A file is on the disk, not only in a buffer, when it is written.
+    // These throw FileFailure. A file is on the disk, not only in a buffer, when it is written;
+    // where there is a file or a folder of that name, it is refused.
     virtual std::string ReadFile(std::string_view path) = 0;
-    virtual void WriteFile(std::string_view path, std::string_view bytes) = 0;
-    // The same, but refused when there is a file or a folder of that name.
     virtual void WriteNewFile(std::string_view path, std::string_view bytes) = 0;
 
     // What the system says of an error of its own, such as 5, in the user's language: one sentence

@@ -24,7 +24,8 @@ std::string Reason(const Given& given) {
 }  // namespace
 
 TEST_CASE("no command and the question mark show the help, whatever else stands there") {
-    for (const Given& given : {Given{}, {"/?"}, {"-?"}, {"apply", "/?"}, {"/?", "unsinn"}}) {
+    for (const Given& given :
+         {Given{}, {"/?"}, {"-?"}, {"--help"}, {"/H"}, {"apply", "/?"}, {"/?", "unsinn"}}) {
         Program program;
         if (given == Given{"/?", "unsinn"}) {
             CHECK(program.Run(given) == cmd::WrongInput);
@@ -67,11 +68,11 @@ TEST_CASE("presets come in the order of the command line, files with a colon of 
 
 TEST_CASE("what a command does not know or lacks is refused in one sentence") {
     CHECK(Reason({"los"}) == "unbekannter Befehl \"los\"");
-    CHECK(Reason({"/csv"}) == "der Befehl fehlt");
+    CHECK(Reason({"/csv"}) == "vor oder hinter /csv fehlt der Befehl");
     CHECK(Reason({"state", "datei"}) == "\"datei\" ist hier zu viel");
     CHECK(Reason({"plan", "a", "b"}) == "\"b\" ist hier zu viel");
     CHECK(Reason({"profile"}) == "hinter profile fehlt die Datei");
-    CHECK(Reason({"backup", ""}) == "\"\" ist hier zu viel");
+    CHECK(Reason({"backup", ""}) == "ein Name ist leer");
     CHECK(Reason({"restore"}) == "hinter restore fehlt die Datei");
     CHECK(Reason({"state", "/yes"}) == "state kennt keinen Schalter /yes");
     CHECK(Reason({"plan", "/"}) == "taken");
@@ -105,7 +106,8 @@ TEST_CASE("a wrong command line writes nothing, says why on one line, and has ex
     Program program;
     CHECK(program.Run({"apply", "/preset:schnell", "/nobackup"}) == cmd::WrongInput);
     CHECK(program.console.out == "");
-    CHECK(program.console.err == "unbekannte Voreinstellung \"schnell\". Hilfe: QuillmoreCmd /?\n");
+    CHECK(program.console.err ==
+          "QuillmoreCmd: unbekannte Voreinstellung \"schnell\". Hilfe: QuillmoreCmd /?\n");
     CHECK(program.machine.journal.Lines().empty());
 }
 

@@ -118,7 +118,6 @@ TEST_CASE_FIXTURE(BackingUp,
         {"[HKEY_CURRENT_USER\\Control Panel]\r\n\"x\"=\"1\"\r\n",
          "Zeile 6: HKCU\\Control Panel [x]"},
         {"[-HKEY_CURRENT_USER\\Control Panel]\r\n", "Zeile 5: derselbe Schlüssel"},
-        {"[-HKEY_LOCAL_MACHINE\\SOFTWARE]\r\n", "Zeile 5: HKLM\\SOFTWARE\\Fremd"},
         {"[-HKEY_LOCAL_MACHINE]\r\n", "Zeile 5: Ein ganzer Stamm wird nicht gelöscht."},
     };
     for (const auto& row : rows) {
@@ -169,7 +168,26 @@ TEST_CASE_FIXTURE(BackingUp,
     CHECK(console.out ==
           "anlegen HKCU\\Control Panel\\Desktop\n"
           "anlegen HKCU\\Control Panel\\Desktop [HungAppTimeout]: REG_SZ \"1\"\n"
-          "Einstellungen übernehmen? (j/n) "
+          "Einstellungen zurückholen? (j/n) "
           "angelegt HKCU\\Control Panel\\Desktop\n"
-          "angelegt HKCU\\Control Panel\\Desktop [HungAppTimeout]: REG_SZ \"1\"\n");
+          "angelegt HKCU\\Control Panel\\Desktop [HungAppTimeout]: REG_SZ \"1\"\n"
+          "2 von 2 Änderungen ausgeführt.\n");
+}
+
+TEST_CASE_FIXTURE(BackingUp,
+                  "what others have put below a key that was missing stays, and all else goes") {
+    REQUIRE(Run({"backup", "a.reg"}) == cmd::Fine);
+    REQUIRE(Run({"apply", "/preset:empfohlen", "/nobackup", "/yes"}) == cmd::Fine);
+    machine.registry.Put(HKCU, DesktopKey, "Wallpaper", TextValue("bild.bmp"));
+    machine.registry.Put(HKLM, "SOFTWARE\\Fremd\\Unten", "x", TextValue("y"));
+    CHECK(Run({"restore", "a.reg", "/yes"}) == cmd::Fine);
+    CHECK(Has(console.err, "HKLM\\SOFTWARE\\Fremd bleibt: Das ist nicht von Quillmore.\n"));
+    CHECK(Has(console.err, "HKCU\\Control Panel\\Desktop [Wallpaper] bleibt: "));
+    const auto left = machine.registry.Dump();
+    // The two values, and three keys above them.
+    CHECK(left.size() == 5);
+    CHECK(machine.registry.Value(HKCU, DesktopKey, "Wallpaper") == TextValue("bild.bmp"));
+    CHECK(machine.registry.Value(HKLM, "SOFTWARE\\Fremd\\Unten", "x") == TextValue("y"));
+    CHECK(Run({"restore", "a.reg", "/yes"}) == cmd::Fine);
+    CHECK(console.out == "Nichts zu tun.\n");
 }

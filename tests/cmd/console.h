@@ -47,13 +47,10 @@ class Console final : public cmd::Surroundings {
         if (file == files.end()) throw cmd::FileFailure("Datei nicht gefunden");
         return file->second;
     }
-    void WriteFile(std::string_view path, std::string_view bytes) override {
-        if (diskIsFull) throw cmd::FileFailure("Datenträger voll");
-        files[std::string(path)] = bytes;
-    }
     void WriteNewFile(std::string_view path, std::string_view bytes) override {
         if (files.contains(path)) throw cmd::FileFailure("Datei ist schon vorhanden");
-        WriteFile(path, bytes);
+        if (diskIsFull) throw cmd::FileFailure("Datenträger voll");
+        files[std::string(path)] = bytes;
     }
     std::string SystemText(int error) const override { return "Grund " + std::to_string(error); }
 

@@ -106,7 +106,7 @@ TEST_CASE("where nobody sees the output no question is put, but an answer is tak
     Program program;
     program.console.isSeen = false;
     CHECK(program.Run({"apply", "/preset:dsl", "/nobackup"}) == cmd::RefusedByUser);
-    CHECK(program.console.out == "Nichts geändert.\n");
+    CHECK(program.console.out == "Nichts geändert. Ohne Frage geht es mit /yes.\n");
     program.console.answers = {"j"};
     CHECK(program.Run({"apply", "/preset:dsl", "/nobackup"}) == cmd::Fine);
     CHECK_FALSE(Has(program.console.out, "?"));

@@ -109,18 +109,6 @@ FileHandle OpenDiskFile(const std::wstring& path, DWORD access, DWORD sharing, D
     return file;
 }
 
-// Half a file would pass for a whole one, so it goes again.
-void WriteWhole(std::string_view path, std::string_view bytes, DWORD disposition) {
-    const NoMediumBox quiet;
-    const std::wstring full = FullPath(path);
-    FileHandle file = OpenDiskFile(full, GENERIC_WRITE, FILE_SHARE_READ, disposition);
-    if (WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get())) return;
-    const DWORD error = GetLastError();
-    file.Close();
-    DeleteFileW(full.c_str());
-    Fail(error);
-}
-
 }  // namespace
 
 Surroundings::Stream::Stream(DWORD which) : handle(GetStdHandle(which)) {
@@ -212,12 +200,16 @@ std::string Surroundings::ReadFile(std::string_view path) {
     return content;
 }
 
-void Surroundings::WriteFile(std::string_view path, std::string_view bytes) {
-    WriteWhole(path, bytes, CREATE_ALWAYS);
-}
-
 void Surroundings::WriteNewFile(std::string_view path, std::string_view bytes) {
-    WriteWhole(path, bytes, CREATE_NEW);
+    const NoMediumBox quiet;
+    const std::wstring full = FullPath(path);
+    FileHandle file = OpenDiskFile(full, GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW);
+    if (WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get())) return;
+    const DWORD error = GetLastError();
+    // Half a file would pass for a whole one, so it goes again.
+    file.Close();
+    DeleteFileW(full.c_str());
+    Fail(error);
 }
 
 std::string Surroundings::SystemText(int error) const {

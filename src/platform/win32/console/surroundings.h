@@ -19,7 +19,6 @@ class Surroundings final : public cmd::Surroundings {
 
     // Only files and folders on a disk have such paths: devices and pipes are refused.
     std::string ReadFile(std::string_view path) override;
-    void WriteFile(std::string_view path, std::string_view bytes) override;
     void WriteNewFile(std::string_view path, std::string_view bytes) override;
 
     std::string SystemText(int error) const override;
