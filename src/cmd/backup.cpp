@@ -40,16 +40,12 @@ class Reading {
         return result == Registry::FileNotFound ? Presence::Missing : Presence::Unknown;
     }
 
-    std::vector<std::string> ValueNames(Root root, std::string_view path) {
-        std::vector<std::string> names;
-        Found(registry_.ValueNames(root, path, names), refusals_, PlaceText(root, path));
-        return names;
+    // Those that were found, and whether these are all.
+    bool ValueNames(Root root, std::string_view path, std::vector<std::string>& names) {
+        return Found(registry_.ValueNames(root, path, names), refusals_, PlaceText(root, path));
     }
-
-    std::vector<std::string> KeyNames(Root root, std::string_view path) {
-        std::vector<std::string> names;
-        Found(registry_.KeyNames(root, path, names), refusals_, PlaceText(root, path));
-        return names;
+    bool KeyNames(Root root, std::string_view path, std::vector<std::string>& names) {
+        return Found(registry_.KeyNames(root, path, names), refusals_, PlaceText(root, path));
     }
 
   private:
@@ -66,7 +62,9 @@ void BackUpKey(const TouchedKey& key, Reading& reading, std::vector<regfile::Key
     regfile::Key kept{.root = LongRootName(key.root), .path = key.path};
     std::vector<std::string> names = key.values;
     if (key.mayGo) {
-        for (std::string& name : reading.ValueNames(key.root, key.path)) {
+        std::vector<std::string> all;
+        reading.ValueNames(key.root, key.path, all);
+        for (std::string& name : all) {
             if (!Contains(names, name)) names.push_back(std::move(name));
         }
     }
@@ -143,15 +141,20 @@ class Restoring {
     // The key, then what is in it: what goes is carried out from the end. Returns whether all of
     // it goes.
     bool RemoveTree(Root root, const std::string& path) {
-        if (reading_.Ask(root, path) != Presence::There) return true;
+        const Presence presence = reading_.Ask(root, path);
+        if (presence != Presence::There) return presence == Presence::Missing;
         if (!LeadsToTouched(root, path)) {
             staying_.push_back(PlaceText(root, path));
             return false;
         }
         const std::size_t place = taken_.size();
-        bool allGoes = true;
+        std::vector<std::string> values;
+        std::vector<std::string> keys;
+        // What cannot be looked through may hold what is somebody else's.
+        bool allGoes = reading_.ValueNames(root, path, values);
+        allGoes &= reading_.KeyNames(root, path, keys);
         const TouchedKey* touched = FindTouchedKey(root, path);
-        for (const std::string& name : reading_.ValueNames(root, path)) {
+        for (const std::string& name : values) {
             if (!touched || !(touched->mayGo || IsTouched(*touched, name))) {
                 staying_.push_back(PlaceText(root, path, name));
                 allGoes = false;
@@ -163,7 +166,7 @@ class Restoring {
             if (change.isBeforeKnown) change.before = value;
             taken_.push_back(std::move(change));
         }
-        for (const std::string& name : reading_.KeyNames(root, path)) {
+        for (const std::string& name : keys) {
             allGoes &= RemoveTree(root, path.empty() ? name : path + '\\' + name);
         }
         if (allGoes) {

@@ -8,6 +8,7 @@
 #include "platform/locale.h"
 #include "registry/littleendian.h"
 #include "runtime/encoding.h"
+#include "runtime/text.h"
 
 namespace cmd {
 namespace {
@@ -189,6 +190,32 @@ bool GoesWithItsKey(const Change& value, const Changes& changes) {
                        [&](const Change& change) { return IsWithin(value, change); });
 }
 
+// The values of the keys that go, as far as they are not told yet.
+void AddLostValues(Changes& changes, WideRegistry& registry, Refusals& refusals) {
+    Changes all;
+    for (Change& change : changes) {
+        if (change.kind == Change::Kind::DeleteKey) {
+            std::vector<std::string> names;
+            const Registry::Result result = registry.ValueNames(change.root, change.path, names);
+            if (result != Registry::Success && result != Registry::FileNotFound) {
+                refusals.push_back({ChangedPlace(change), result});
+            }
+            for (const std::string& name : names) {
+                const bool isTold =
+                    std::any_of(changes.begin(), changes.end(), [&](const Change& other) {
+                        return IsWithin(other, change) &&
+                               runtime::EqualsIgnoringCase(other.valueName, name);
+                    });
+                if (!isTold) {
+                    all.push_back({Change::Kind::DeleteValue, change.root, change.path, name});
+                }
+            }
+        }
+        all.push_back(change);
+    }
+    changes = std::move(all);
+}
+
 }  // namespace
 
 Changes ChangesOf(const std::vector<platform::dryrun::Change>& kept,
@@ -205,6 +232,7 @@ Changes ChangesOf(const std::vector<platform::dryrun::Change>& kept,
 }
 
 void ReadBefore(Changes& changes, WideRegistry& registry, Refusals& refusals) {
+    AddLostValues(changes, registry, refusals);
     std::erase_if(changes, [&](Change& change) {
         if (IsOfKey(change)) return false;
         Value now;

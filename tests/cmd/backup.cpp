@@ -191,3 +191,16 @@ TEST_CASE_FIXTURE(BackingUp,
     CHECK(Run({"restore", "a.reg", "/yes"}) == cmd::Fine);
     CHECK(console.out == "Nichts zu tun.\n");
 }
+
+TEST_CASE_FIXTURE(BackingUp,
+                  "a key that cannot be looked through stays, as nobody knows what else it holds") {
+    REQUIRE(Run({"backup", "a.reg"}) == cmd::Fine);
+    machine.registry.Put(HKCU, DesktopKey, "HungAppTimeout", TextValue("1"));
+    machine.registry.Put(HKCU, DesktopKey, "Wallpaper", TextValue("bild.bmp"));
+    for (const char* call : {"RegEnumValueA", "RegEnumKeyA"}) {
+        machine.faults.FailAll(call, platform::Registry::AccessDenied);
+        CHECK(Run({"restore", "a.reg", "/yes"}) == cmd::NotAll);
+        machine.faults.Clear();
+        CHECK(machine.registry.Value(HKCU, DesktopKey, "Wallpaper").has_value());
+    }
+}

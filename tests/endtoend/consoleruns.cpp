@@ -79,8 +79,8 @@ TEST_CASE_FIXTURE(SettledMachine,
     REQUIRE(console.Run("backup A.reg").code == 0);
     Remember();
     for (const char* command : {"apply P.txt /nobackup", "apply P.txt /backup:N.reg"}) {
-        for (const char* answer : {"", "\r\n", "n\r\n", "N\n", "ja\r\n", "nein", " j\r\n", "y\r\n",
-                                   "\x1A", "n\r\nj\r\n"}) {
+        for (const char* answer : {"", "\r\n", "n\r\n", "N\n", "ja\r\n", "J\n", "nein", " j\r\n",
+                                   "y\r\n", "\x1A", "n\r\nj\r\n"}) {
             CAPTURE(command);
             CAPTURE(answer);
             const ConsoleRun run = console.Run(command, answer);
@@ -90,7 +90,7 @@ TEST_CASE_FIXTURE(SettledMachine,
         }
     }
     CHECK(Untouched());
-    for (const char* answer : {"j\r\n", "J\n", "j"}) {
+    for (const char* answer : {"j\r\n", "j\n", "j"}) {
         CAPTURE(answer);
         CHECK(console.Run("apply P.txt /nobackup", answer).code == 0);
         CHECK(ReadValue(TimeOut) == BareText("4711"));
