@@ -39,7 +39,21 @@ void ForEachSeed(unsigned count, const Body& body) {
     }
 }
 
+// Where the last line of a value's bytes holds only one, Wine's regedit has room for it and no
+// more, and breaks its heap as it adds the end to a text that has none. There that one byte is put
+// behind those before it; all the rest is handed over as the program wrote it.
+std::string WithoutLonelyBytes(const std::string& file) {
+    std::wstring text(reinterpret_cast<const wchar_t*>(file.data()), file.size() / sizeof(wchar_t));
+    static const std::wstring wrapped = L"\\\r\n  ";
+    for (std::size_t at = text.find(wrapped); at != text.npos; at = text.find(wrapped, at + 1)) {
+        const std::size_t line = at + wrapped.size();
+        if (text.compare(line + 2, 2, L"\r\n") == 0) text.erase(at, wrapped.size());
+    }
+    return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)};
+}
+
 void ImportWithRegedit(const std::string& path) {
+    WriteFile(path, WithoutLonelyBytes(ReadFile(path)));
     Program(WindowsFolder() + "\\regedit.exe", "/S \"" + path + "\"").WaitForEnd();
 }
 
