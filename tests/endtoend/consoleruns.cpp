@@ -2,11 +2,13 @@
 #include <windows.h>
 
 #include <doctest/doctest.h>
+#include <sddl.h>
 
 #include "endtoend/console.h"
 #include "endtoend/lines.h"
 #include "endtoend/tools.h"
 #include "endtoend/wholeregistry.h"
+#include "platform/win32/handle.h"
 #include "platform/win32/text.h"
 
 namespace endtoend {
@@ -18,6 +20,31 @@ constexpr char Head[] = "[Quillmore]\r\nProfil=1\r\n";
 constexpr char Utf8[] = "\xEF\xBB\xBF";
 const ValuePlace TimeOut = {"HKCU", "Control Panel\\Desktop", "HungAppTimeout"};
 constexpr char TimeOutProfile[] = "[Tweaks]\r\ntxtTimeOut=4711\r\n";
+
+// As long as it lives, a key may be read and nothing else.
+class ReadOnlyKey {
+  public:
+    ReadOnlyKey(const std::string& root, const std::string& key) {
+        RegOpenKeyExW(RootOf(root), ToWide(key).c_str(), 0, READ_CONTROL | WRITE_DAC, key_.Out());
+        DWORD size = 0;
+        RegGetKeySecurity(key_.Get(), DACL_SECURITY_INFORMATION, nullptr, &size);
+        before_.resize(size);
+        RegGetKeySecurity(key_.Get(), DACL_SECURITY_INFORMATION, before_.data(), &size);
+        PSECURITY_DESCRIPTOR onlyRead = nullptr;
+        ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:(A;;KR;;;WD)", SDDL_REVISION_1,
+                                                             &onlyRead, nullptr);
+        const LSTATUS result = RegSetKeySecurity(key_.Get(), DACL_SECURITY_INFORMATION, onlyRead);
+        LocalFree(onlyRead);
+        if (result) throw Failed("the rights to " + key + " cannot be taken away");
+    }
+    ~ReadOnlyKey() { RegSetKeySecurity(key_.Get(), DACL_SECURITY_INFORMATION, before_.data()); }
+    ReadOnlyKey(const ReadOnlyKey&) = delete;
+    ReadOnlyKey& operator=(const ReadOnlyKey&) = delete;
+
+  private:
+    platform::win32::RegistryKey key_;
+    std::vector<char> before_;
+};
 
 // A machine on which a first Apply has been, so that a bare one would change nothing.
 class SettledMachine {
@@ -278,6 +305,40 @@ TEST_CASE_FIXTURE(SettledMachine,
     CHECK(run.err.starts_with("R.reg: Zeile 4: "));
     DeleteFileW(ToWide(console.Path("R.reg")).c_str());
     CHECK(Untouched("P.txt"));
+}
+
+TEST_CASE_FIXTURE(SettledMachine, "a key that may only be read is told, and all the rest is done") {
+    const ValuePlace rate = {"HKLM", "SOFTWARE\\Microsoft\\MediaPlayer\\Settings\\MP3Encoding",
+                             "LowRate"};
+    WriteProfile("P.txt", std::string(Head) + TimeOutProfile + "chkMP3BitRate=1\r\n");
+    REQUIRE(console.Run("backup A.reg").code == 0);
+    Remember();
+    const auto timeOut = ReadValue(TimeOut);
+    {
+        const ReadOnlyKey desktop(TimeOut.root, TimeOut.key);
+        const ConsoleRun run = console.Run("apply P.txt /nobackup /yes");
+        CHECK(run.code == 3);
+        CHECK(run.err.starts_with("HKCU\\Control Panel\\Desktop: "));
+        CHECK(run.err.ends_with(" (5)\r\n"));
+        CHECK(LinesOf(run.err).size() == 1);
+        CHECK(run.out.find("HungAppTimeout") == std::string::npos);
+        CHECK(run.out.find("[LowRate]: REG_DWORD 0x0000dac0 (56000)") != std::string::npos);
+        CHECK(ReadValue(TimeOut) == timeOut);
+        CHECK(ReadValue(rate) == Dword(56000));
+    }
+    CHECK(console.Run("apply P.txt /nobackup /yes").code == 0);
+    {
+        const ReadOnlyKey desktop(TimeOut.root, TimeOut.key);
+        const ConsoleRun run = console.Run("restore A.reg /yes");
+        CHECK(run.code == 3);
+        CHECK(run.err.starts_with("HKCU\\Control Panel\\Desktop [HungAppTimeout]: "));
+        CHECK(run.err.ends_with(" (5)\r\n"));
+        CHECK(LinesOf(run.err).size() == 1);
+        CHECK(ReadValue(TimeOut) == BareText("4711"));
+        CHECK_FALSE(ReadValue(rate));
+    }
+    CHECK(console.Run("restore A.reg /yes").code == 0);
+    CHECK(Untouched());
 }
 
 }  // namespace
