@@ -204,8 +204,11 @@ void OptionsWindow::UsePreset(std::string_view name) {
         return;
     }
     if (preset.connectionType) {
-        Report(preset.connectionType,
-               [&] { form_.Find<toolkit::OptionButton>(preset.connectionType).SetValue(true); });
+        // Selected already, it would load nothing: nobody sees here that it is.
+        Report(preset.connectionType, [&] {
+            auto& type = form_.Find<toolkit::OptionButton>(preset.connectionType);
+            type.Value() ? type.onClick() : type.SetValue(true);
+        });
         return;
     }
     for (const char* button : preset.buttons) PressButton(button);
@@ -215,9 +218,9 @@ void OptionsWindow::PressButton(const char* name) {
     Report(name, [&] { form_.Find<controls::chameleonButton>(name).onClick(); });
 }
 
-std::string OptionsWindow::Caption(const Option& option) const {
-    const toolkit::Control* own = form_.FindControl(option.control);
-    if (option.IsCheckBox()) return WithoutAccessMarks(own->Caption());
+std::string OptionsWindow::Caption(std::string_view name) const {
+    const toolkit::Control* own = form_.FindControl(name);
+    if (IsCheckBox(name)) return WithoutAccessMarks(own->Caption());
     // A box is called what the label before it says, or else the frame around it.
     std::string caption;
     for (const auto& control : form_.Controls()) {
@@ -231,9 +234,9 @@ std::string OptionsWindow::Caption(const Option& option) const {
     return caption;
 }
 
-std::string OptionsWindow::Shown(const Option& option) const {
-    if (!option.IsCheckBox()) return tweaks::TextOfControl(form_, option.control);
-    return std::to_string(form_.Find<toolkit::CheckBox>(option.control).Value());
+std::string OptionsWindow::Shown(std::string_view name) const {
+    if (!IsCheckBox(name)) return tweaks::TextOfControl(form_, name);
+    return std::to_string(form_.Find<toolkit::CheckBox>(name).Value());
 }
 
 bool OptionsWindow::WantsNumber(std::string_view control) {
@@ -258,16 +261,20 @@ void OptionsWindow::CheckNumber(std::string_view control, const std::string& tex
     });
 }
 
-void OptionsWindow::Set(const Option& option, const std::string& value) {
-    if (value == Shown(option)) return;
-    const std::string name(option.control);
-    if (option.IsCheckBox()) {
+void OptionsWindow::Set(std::string_view which, const std::string& value) {
+    if (value == Shown(which)) return;
+    const std::string name(which);
+    const toolkit::Control& control = *form_.FindControl(name);
+    if (!control.Enabled()) {
+        complaints_.push_back(name + " ist hier nicht wählbar und bleibt, wie es ist.");
+        return;
+    }
+    if (IsCheckBox(name)) {
         if (value != "0" && value != "1") {
             throw BadInput(name + " kann nur 0 oder 1 sein, nicht \"" + value + '"');
         }
         return form_.Find<toolkit::CheckBox>(name).SetValue(value == "1" ? 1 : 0);
     }
-    const toolkit::Control& control = *form_.FindControl(name);
     const int longest = LongestText(control);
     const std::size_t length = runtime::Length(value);
     if (longest > 0 && length > static_cast<std::size_t>(longest)) {
@@ -298,11 +305,6 @@ Changes OptionsWindow::Write() {
     Report("WriteRegistry", [&] { passes_.Write(); });
     return ChangesOf(dry_.registry.Changes(platform::dryrun::Registry::Telling::Writes),
                      dry_.services.locale);
-}
-
-std::string_view PageName(std::string_view tab) {
-    while (tab.starts_with(' ')) tab.remove_prefix(1);
-    return tab;
 }
 
 }  // namespace cmd

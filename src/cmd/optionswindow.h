@@ -31,12 +31,13 @@ class OptionsWindow {
     void UsePreset(std::string_view name);
     static void CheckPreset(std::string_view name);
 
-    std::string Caption(const tweaks::Option& option) const;
+    std::string Caption(std::string_view control) const;
     // "0" or "1" of a check box, the text of all others.
-    std::string Shown(const tweaks::Option& option) const;
+    std::string Shown(std::string_view control) const;
     // What the user could choose or type there, and the pass would write as it stands; otherwise
-    // throws BadInput with the reason. What the control shows anyway is always right.
-    void Set(const tweaks::Option& option, const std::string& value);
+    // throws BadInput with the reason. What the control shows anyway is always right. A control
+    // that is shut, as for want of its driver, is passed over with a complaint.
+    void Set(std::string_view control, const std::string& value);
 
     // What the write pass would write now, what is there already included; see ReadBefore. It can
     // be asked once.
@@ -66,8 +67,5 @@ class OptionsWindow {
     std::vector<std::string> complaints_;
     bool failed_ = false;
 };
-
-// A page's name without the blank that its tab has.
-std::string_view PageName(std::string_view tab);
 
 }  // namespace cmd

@@ -83,7 +83,35 @@ std::vector<TouchedKey> CollectTouchedKeys() {
     return keys;
 }
 
+std::string_view PageName(std::string_view tab) {
+    while (tab.starts_with(' ')) tab.remove_prefix(1);
+    return tab;
+}
+
+std::vector<Setting> CollectSettings() {
+    std::vector<Setting> settings;
+    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
+        for (const Option& option : page.options) {
+            const std::string_view name = PageName(page.tab);
+            settings.push_back({name, option.control, PlacesOf(option)});
+            for (const Step& step : option.on) {
+                const bool isAlong = step.action == tweaks::Action::WriteTextOf && step.text &&
+                                     !tweaks::FindOption(step.text);
+                if (isAlong) {
+                    settings.push_back({name, step.text, {PlaceOf(step.At(option.place))}});
+                }
+            }
+        }
+    }
+    return settings;
+}
+
 }  // namespace
+
+const std::vector<Setting>& Settings() {
+    static const std::vector<Setting> settings = CollectSettings();
+    return settings;
+}
 
 std::vector<Place> PlacesOf(const Option& option) {
     std::vector<Place> places;

@@ -22,6 +22,22 @@ struct Place {
 // Where the option reads or writes, its own place first, each place once.
 std::vector<Place> PlacesOf(const tweaks::Option& option);
 
+// A control that the passes read or write: an option's own, or a box that goes along with an
+// option's check box.
+struct Setting {
+    // The page's name, without the blank that its tab has.
+    std::string_view page;
+    std::string_view control;
+    std::vector<Place> places;
+};
+
+// In the order of the pages, a box behind its check box.
+const std::vector<Setting>& Settings();
+
+inline bool IsCheckBox(std::string_view control) {
+    return control.starts_with("chk");
+}
+
 // A key in which the write pass may do something to these values.
 struct TouchedKey {
     Root root = 0;

@@ -142,7 +142,7 @@ class Reader {
         }
         if (!isProfile_) throw NoProfile();
         for (const ProfileLine& other : lines_) {
-            if (other.control == name) {
+            if (runtime::EqualsIgnoringCase(other.control, name)) {
                 throw BadInput(name + " steht schon in Zeile " + std::to_string(other.line), line_);
             }
         }

@@ -12,17 +12,17 @@
 #include "cmd/surroundings.h"
 #include "platform/operatingsystem.h"
 #include "runtime/failure.h"
-#include "tweaks/catalogue.h"
+#include "runtime/text.h"
 
 namespace cmd {
 namespace {
 
 using platform::WideRegistry;
-using tweaks::Option;
 
-// A profile's lines are looked up before anything is set.
-struct Setting {
-    const Option* option;
+// A profile's line, looked up before anything is set. They are set in the order of the window, as
+// one control may take another along.
+struct Wish {
+    std::size_t setting;
     std::string value;
     int line;
 };
@@ -107,14 +107,12 @@ class Runner {
         window.Read();
         Tell(window);
         std::vector<ProfileLine> lines;
-        for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
-            for (const Option& option : page.options) {
-                const std::string shown = window.Shown(option);
-                // Without its number a control says nothing; elsewhere it would be wrong.
-                const bool isOff = shown.empty() && OptionsWindow::WantsNumber(option.control);
-                lines.push_back({std::string(PageName(page.tab)), std::string(option.control),
-                                 shown, 0, window.Caption(option), isOff});
-            }
+        for (const Setting& setting : Settings()) {
+            const std::string shown = window.Shown(setting.control);
+            // Without its number a control says nothing; elsewhere it would be wrong.
+            const bool isOff = shown.empty() && OptionsWindow::WantsNumber(setting.control);
+            lines.push_back({std::string(setting.page), std::string(setting.control), shown, 0,
+                             window.Caption(setting.control), isOff});
         }
         file_ = arguments_.file;
         around_.WriteNewFile(file_, WriteProfile(lines));
@@ -133,7 +131,10 @@ class Runner {
 
     int Apply() {
         const Changes changes = Planned();
-        if (changes.empty()) return NothingToDo();
+        if (changes.empty()) {
+            if (!arguments_.backupFile.empty()) WriteBackup(arguments_.backupFile);
+            return NothingToDo();
+        }
         if (!Agreed(changes, "Einstellungen übernehmen? (j/n)")) return RefusedByUser;
         if (!arguments_.backupFile.empty() && !WriteBackup(arguments_.backupFile)) {
             Complain("Ohne vollständige Sicherung wird nichts geändert.");
@@ -172,15 +173,15 @@ class Runner {
     // What Apply would write from the state as it is read, with the profile and the presets over
     // it.
     Changes Planned() {
-        std::vector<Setting> settings;
-        if (!arguments_.file.empty()) settings = Settings();
+        std::vector<Wish> wishes;
+        if (!arguments_.file.empty()) wishes = Wishes();
         OptionsWindow window(machine_);
         window.Read();
-        for (const Setting& setting : settings) {
+        for (const Wish& wish : wishes) {
             try {
-                window.Set(*setting.option, setting.value);
+                window.Set(Settings()[wish.setting].control, wish.value);
             } catch (const BadInput& input) {
-                throw BadInput(input.reason, setting.line);
+                throw BadInput(input.reason, wish.line);
             }
         }
         for (const std::string& preset : arguments_.presets) window.UsePreset(preset);
@@ -192,25 +193,28 @@ class Runner {
         return changes;
     }
 
-    std::vector<Setting> Settings() {
+    std::vector<Wish> Wishes() {
         file_ = arguments_.file;
-        std::vector<Setting> settings;
+        std::vector<Wish> wishes;
         for (const ProfileLine& line : ReadProfile(around_.ReadFile(file_))) {
-            settings.push_back({&OptionOf(line), line.value, line.line});
+            wishes.push_back({SettingOf(line), line.value, line.line});
         }
-        return settings;
+        std::sort(wishes.begin(), wishes.end(),
+                  [](const Wish& left, const Wish& right) { return left.setting < right.setting; });
+        return wishes;
     }
 
-    static const Option& OptionOf(const ProfileLine& line) {
-        for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
-            if (PageName(page.tab) != line.page) continue;
-            for (const Option& option : page.options) {
-                if (option.control == line.control) return option;
-            }
-            throw BadInput("die Seite " + line.page + " hat keine Einstellung " + line.control,
-                           line.line);
+    static std::size_t SettingOf(const ProfileLine& line) {
+        const std::string page = runtime::ToLower(line.page);
+        bool isPage = false;
+        for (std::size_t i = 0; i < Settings().size(); ++i) {
+            if (runtime::ToLower(Settings()[i].page) != page) continue;
+            isPage = true;
+            if (runtime::EqualsIgnoringCase(Settings()[i].control, line.control)) return i;
         }
-        throw BadInput("es gibt keine Seite " + line.page, line.line);
+        if (!isPage) throw BadInput("es gibt keine Seite " + line.page, line.line);
+        throw BadInput("die Seite " + line.page + " hat keine Einstellung " + line.control,
+                       line.line);
     }
 
     // Whether it is complete and on the disk.

@@ -3,13 +3,11 @@
 #include <algorithm>
 
 #include "cmd/optionswindow.h"
-#include "tweaks/catalogue.h"
 
 namespace cmd {
 namespace {
 
 using platform::Registry;
-using tweaks::Option;
 
 constexpr char Absent[] = "nicht vorhanden";
 constexpr char Unreadable[] = "nicht lesbar";
@@ -36,13 +34,16 @@ PlaceState StateOf(const Place& place, WideRegistry& registry, bool all, Refusal
     return state;
 }
 
-std::string ShownText(const Option& option, const std::string& shown) {
-    if (option.IsCheckBox()) return shown == "0" ? "aus" : "ein";
-    std::string line = shown;
-    for (char& c : line) {
+std::string OnOneLine(std::string text) {
+    for (char& c : text) {
         if (c == '\r' || c == '\n' || c == '\t') c = ' ';
     }
-    return '"' + line + '"';
+    return text;
+}
+
+std::string ShownText(std::string_view control, const std::string& shown) {
+    if (IsCheckBox(control)) return shown == "0" ? "aus" : "ein";
+    return '"' + shown + '"';
 }
 
 std::string CsvField(const std::string& text) {
@@ -80,26 +81,24 @@ std::string StateList(const OptionsWindow& window, WideRegistry& registry, bool 
         list = CsvLine({"Seite", "Steuerelement", "Beschriftung", "Anzeige", "Schlüssel", "Wert",
                         "Typ", "Daten"});
     }
-    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
-        for (const Option& option : page.options) {
-            std::vector<PlaceState> places;
-            for (const Place& place : PlacesOf(option)) {
-                places.push_back(StateOf(place, registry, csv, refusals));
-            }
-            const std::string shown = window.Shown(option);
-            std::vector<std::string> fields{std::string(PageName(page.tab)),
-                                            std::string(option.control), window.Caption(option)};
-            if (!csv) {
-                fields.push_back(ShownText(option, shown));
-                list += PlainLine(fields, places);
-                continue;
-            }
-            fields.push_back(shown);
-            for (const PlaceState& place : places) {
-                fields.insert(fields.end(), {place.key, place.value, place.type, place.data});
-            }
-            list += CsvLine(fields);
+    for (const Setting& setting : Settings()) {
+        std::vector<PlaceState> places;
+        for (const Place& place : setting.places) {
+            places.push_back(StateOf(place, registry, csv, refusals));
         }
+        const std::string shown = OnOneLine(window.Shown(setting.control));
+        std::vector<std::string> fields{std::string(setting.page), std::string(setting.control),
+                                        window.Caption(setting.control)};
+        if (!csv) {
+            fields.push_back(ShownText(setting.control, shown));
+            list += PlainLine(fields, places);
+            continue;
+        }
+        fields.push_back(shown);
+        for (const PlaceState& place : places) {
+            fields.insert(fields.end(), {place.key, place.value, place.type, place.data});
+        }
+        list += CsvLine(fields);
     }
     return list;
 }

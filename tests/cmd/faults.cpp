@@ -49,13 +49,20 @@ void CheckTold(const Dump& before, const Dump& after, const std::string& out) {
         if (!Tells(lines, word, PlaceOfEntry(entry))) FAIL_CHECK(entry);
         ++told;
     };
-    for (const auto& [entry, value] : before) {
-        const auto now = after.find(entry);
-        if (value.type == EmptyKey || (now != after.end() && now->second == value)) continue;
-        check(entry, now == after.end() ? "gelöscht" : "geändert");
+    // An empty key stands where its default value would.
+    const auto valueIn = [](const Dump& dump, const std::string& entry) {
+        const auto found = dump.find(entry);
+        const bool isValue = found != dump.end() && found->second.type != EmptyKey;
+        return isValue ? &found->second : nullptr;
+    };
+    for (const auto& [entry, ignored] : before) {
+        const StoredValue* was = valueIn(before, entry);
+        const StoredValue* is = valueIn(after, entry);
+        if (was && !is) check(entry, "gelöscht");
+        if (was && is && *was != *is) check(entry, "geändert");
     }
-    for (const auto& [entry, value] : after) {
-        if (value.type != EmptyKey && !before.contains(entry)) check(entry, "angelegt");
+    for (const auto& [entry, ignored] : after) {
+        if (valueIn(after, entry) && !valueIn(before, entry)) check(entry, "angelegt");
     }
     CHECK(told == std::count_if(lines.begin(), lines.end(), [](const std::string& line) {
               const bool isDone = line.starts_with("angelegt ") || line.starts_with("geändert ") ||

@@ -96,6 +96,15 @@ TEST_CASE("apply with a user: the plan, the question, then what was done") {
     CHECK(program.console.files.contains("a.reg"));
 }
 
+TEST_CASE("a backup that was asked for is made, also where nothing is to be changed") {
+    Program program;
+    program.Run({"apply", "/preset:dsl", "/nobackup", "/yes"});
+    program.Run({"apply", "/preset:dsl", "/nobackup", "/yes"});
+    CHECK(program.Run({"apply", "/backup:a.reg"}) == cmd::Fine);
+    CHECK(program.console.out == "Nichts zu tun.\n");
+    CHECK(program.console.files.contains("a.reg"));
+}
+
 TEST_CASE("a refusal leaves no backup behind") {
     Program program;
     CHECK(program.Run({"apply", "/backup:a.reg"}) == cmd::RefusedByUser);

@@ -181,3 +181,41 @@ TEST_CASE("a profile that cannot be read or written is told with exit code 3") {
     CHECK(program.Run({"profile", "p.txt"}) == cmd::NotAll);
     CHECK(program.console.err == "p.txt: Datenträger voll\n");
 }
+
+TEST_CASE("the boxes that go along with a check box have lines of their own") {
+    Planning planning;
+    CHECK(planning.With("[System]\nchkAutoLogin=1\ntxtALUserName=Paul\ntxtALPassword=geheim\n") ==
+          cmd::Differs);
+    CHECK(Has(planning.console.out, "[DefaultUserName]: REG_SZ \"Paul\"\n"));
+    CHECK(Has(planning.console.out, "[DefaultPassword]: REG_SZ \"geheim\"\n"));
+    CHECK(planning.Run({"profile", "q.txt"}) == cmd::Fine);
+    CHECK(Has(planning.console.files["q.txt"], "\r\ntxtALUserName=\r\n"));
+    CHECK(Has(planning.console.files["q.txt"], "\r\ntxtExtensions=\r\n"));
+}
+
+TEST_CASE("a profile says the same in whatever order its lines stand, and in any letter case") {
+    Planning planning;
+    for (const char* lines :
+         {"[DFÜ]\ncboMTU=1500\ntxtRWIN=7000\n", "[dfü]\nTXTRWIN=7000\nCBOMTU=1500\n"}) {
+        CHECK(planning.With(lines) == cmd::Differs);
+        CHECK(Has(planning.console.out, "[TcpWindowSize]: REG_DWORD 0x00001b58 (7000)"));
+    }
+}
+
+TEST_CASE("a control that is shut is left and told") {
+    Planning planning;
+    CHECK(planning.With("[System]\nchkEnableAGP4x=1\n") == cmd::Differs);
+    CHECK(planning.console.err.starts_with(
+        "chkEnableAGP4x ist hier nicht wählbar und bleibt, wie es ist.\n"));
+    CHECK_FALSE(Has(planning.console.out, "nv4"));
+}
+
+TEST_CASE("a connection's preset loads its numbers, also where the machine has them already") {
+    Planning planning;
+    planning.Run({"apply", "/preset:dsl", "/nobackup", "/yes"});
+    planning.console.files["p.txt"] = "\xEF\xBB\xBF" + std::string(Head) + "[DFÜ]\ntxtTTL=77\n";
+    planning.Run({"plan", "p.txt"});
+    CHECK(Has(planning.console.out, "[DefaultTTL]"));
+    planning.Run({"plan", "p.txt", "/preset:dsl"});
+    CHECK_FALSE(Has(planning.console.out, "[DefaultTTL]"));
+}

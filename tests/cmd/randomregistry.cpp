@@ -3,7 +3,6 @@
 #include "cmd/optionswindow.h"
 #include "cmd/places.h"
 #include "cmd/profile.h"
-#include "tweaks/catalogue.h"
 
 namespace cmd_test {
 namespace {
@@ -49,18 +48,16 @@ std::string RandomWord(std::mt19937& dice, int longest) {
 }  // namespace
 
 void FillAtRandom(platform::simulated::Registry& registry, std::mt19937& dice) {
-    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
-        for (const tweaks::Option& option : page.options) {
-            for (const cmd::Place& place : cmd::PlacesOf(option)) {
-                switch (dice() % 4) {
-                    case 0:
-                        break;
-                    case 1:
-                        registry.MakeKey(place.root, place.key);
-                        break;
-                    default:
-                        registry.Put(place.root, place.key, place.value, RandomValue(dice));
-                }
+    for (const cmd::Setting& setting : cmd::Settings()) {
+        for (const cmd::Place& place : setting.places) {
+            switch (dice() % 4) {
+                case 0:
+                    break;
+                case 1:
+                    registry.MakeKey(place.root, place.key);
+                    break;
+                default:
+                    registry.Put(place.root, place.key, place.value, RandomValue(dice));
             }
         }
     }
@@ -73,18 +70,16 @@ void FillAtRandom(platform::simulated::Registry& registry, std::mt19937& dice) {
 
 std::string RandomProfile(std::mt19937& dice) {
     std::vector<cmd::ProfileLine> lines;
-    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
-        for (const tweaks::Option& option : page.options) {
-            if (dice() % 5 == 0) continue;
-            std::string value = std::to_string(dice() % 2);
-            if (!option.IsCheckBox()) {
-                value = cmd::OptionsWindow::WantsNumber(option.control)
-                            ? std::to_string(dice() % 65536)
-                            : RandomWord(dice, 3);
-            }
-            lines.push_back({std::string(cmd::PageName(page.tab)), std::string(option.control),
-                             value, 0, "beliebig"});
+    for (const cmd::Setting& setting : cmd::Settings()) {
+        if (dice() % 5 == 0) continue;
+        std::string value = std::to_string(dice() % 2);
+        if (!cmd::IsCheckBox(setting.control)) {
+            value = cmd::OptionsWindow::WantsNumber(setting.control)
+                        ? std::to_string(dice() % 65536)
+                        : RandomWord(dice, 3);
         }
+        lines.push_back(
+            {std::string(setting.page), std::string(setting.control), value, 0, "beliebig"});
     }
     return cmd::WriteProfile(lines);
 }

@@ -3,18 +3,11 @@
 #include <set>
 
 #include "cmd/console.h"
-#include "cmd/optionswindow.h"
-#include "tweaks/catalogue.h"
+#include "cmd/places.h"
 
 using namespace cmd_test;
 
 namespace {
-
-std::size_t Options() {
-    std::size_t count = 0;
-    for (const tweaks::CataloguePage& page : tweaks::Catalogue()) count += page.options.size();
-    return count;
-}
 
 std::string LineOf(const Program& program, const std::string& control) {
     for (const std::string& line : program.OutLines()) {
@@ -31,7 +24,7 @@ TEST_CASE("state has a line for every option, with what the window shows and eac
     program.machine.registry.Put(HKCU, DesktopKey, "PaintDesktopVersion", DwordValue(0));
     CHECK(program.Run({"state"}) == cmd::Fine);
     CHECK(program.console.err == "");
-    CHECK(program.OutLines().size() == Options());
+    CHECK(program.OutLines().size() == cmd::Settings().size());
     CHECK(LineOf(program, "txtTimeOut") ==
           "Tweaks | txtTimeOut | Timeout für \"hängende\" Programme | \"5000\" | "
           "HKCU\\Control Panel\\Desktop [HungAppTimeout] REG_SZ \"5000\"");
@@ -71,7 +64,7 @@ TEST_CASE("the list of fields is one that a German spreadsheet takes") {
     CHECK(program.OutLines()[0] ==
           "\"Seite\";\"Steuerelement\";\"Beschriftung\";\"Anzeige\";\"Schlüssel\";\"Wert\";"
           "\"Typ\";\"Daten\"");
-    CHECK(program.OutLines().size() == Options() + 1);
+    CHECK(program.OutLines().size() == cmd::Settings().size() + 1);
     CHECK(LineOf(program, "\"txtTimeOut\"") ==
           "\"Tweaks\";\"txtTimeOut\";\"Timeout für \"\"hängende\"\" Programme\";\"a\"\";b\";"
           "\"HKCU\\Control Panel\\Desktop\";\"HungAppTimeout\";\"REG_SZ\";\"\"\"a\"\";b\"\"\"");
@@ -82,7 +75,7 @@ TEST_CASE("a place that cannot be read is told on both outputs, and the exit cod
     program.machine.registry.Put(HKCU, DesktopKey, "HungAppTimeout", BareTextValue("5000"));
     program.machine.registry.Deny(HKCU, DesktopKey, platform::Registry::MayQueryValue);
     CHECK(program.Run({"state"}) == cmd::NotAll);
-    CHECK(program.OutLines().size() == Options());
+    CHECK(program.OutLines().size() == cmd::Settings().size());
     CHECK(LineOf(program, "txtTimeOut").ends_with("[HungAppTimeout] nicht lesbar"));
     CHECK(program.console.err.find("HKCU\\Control Panel\\Desktop") != std::string::npos);
     CHECK(program.console.err.find(": Grund 5 (5)\n") != std::string::npos);

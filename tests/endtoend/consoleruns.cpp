@@ -6,6 +6,7 @@
 
 #include "endtoend/console.h"
 #include "endtoend/lines.h"
+#include "endtoend/optiontable.h"
 #include "endtoend/tools.h"
 #include "endtoend/wholeregistry.h"
 #include "platform/win32/handle.h"
@@ -339,6 +340,50 @@ TEST_CASE_FIXTURE(SettledMachine, "a key that may only be read is told, and all 
     }
     CHECK(console.Run("restore A.reg /yes").code == 0);
     CHECK(Untouched());
+}
+
+TEST_CASE_FIXTURE(SettledMachine, "a box that the window shuts is not set by a profile either") {
+    WriteProfile("P.txt", std::string(Head) + "[System]\r\nchkEnableAGP4x=1\r\n");
+    Remember();
+    console.Run("apply P.txt /nobackup /yes");
+    CHECK_FALSE(KeyExists("HKLM", GraphicsDriverKey));
+    CHECK(Untouched());
+}
+
+TEST_CASE_FIXTURE(SettledMachine, "a profile says the same in whatever order its lines stand") {
+    const ValuePlace window = {"HKLM", "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters",
+                               "TcpWindowSize"};
+    for (const char* lines :
+         {"cboMTU=1400\r\ntxtRWIN=5000\r\n", "txtRWIN=5000\r\ncboMTU=1400\r\n"}) {
+        CAPTURE(lines);
+        WriteProfile("P.txt", std::string(Head) + "[DF\xDC]\r\n" + lines);
+        CHECK(console.Run("apply P.txt /nobackup /yes").code == 0);
+        CHECK(ReadValue(window) == Dword(5000));
+        REQUIRE(console.Run("apply /preset:isdn /nobackup /yes").code == 0);
+    }
+}
+
+TEST_CASE_FIXTURE(SettledMachine,
+                  "a connection's preset sets its numbers over those of a profile") {
+    const ValuePlace live = {"HKLM", "SYSTEM\\CurrentControlSet\\Services\\Tcpip\\Parameters",
+                             "DefaultTTL"};
+    WriteProfile("P.txt", std::string(Head) + "[DF\xDC]\r\ntxtTTL=77\r\n");
+    // The machine has the numbers of DSL already.
+    CHECK(console.Run("apply P.txt /preset:dsl /nobackup /yes").code == 0);
+    CHECK(ReadValue(live) == Dword(64));
+}
+
+TEST_CASE_FIXTURE(SettledMachine, "state has one line an option, also when a text has more") {
+    const std::string logon = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon";
+    const std::size_t lines = LinesOf(console.Run("state").out).size();
+    CHECK(lines >= 100);
+    WriteValue({"HKLM", logon, "LegalNoticeCaption"}, TerminatedText("Achtung"));
+    WriteValue({"HKLM", logon, "LegalNoticeText"}, TerminatedText("Erste\r\nZweite \"Zeile\""));
+    const std::string plain = console.Run("state").out;
+    const std::string csv = console.Run("state /csv").out;
+    CHECK(LinesOf(plain).size() == lines);
+    CHECK(LinesOf(csv).size() == lines + 1);
+    CHECK(csv.find("\r\r") == std::string::npos);
 }
 
 }  // namespace
