@@ -13,7 +13,7 @@
 
 #include "calls.h"
 #include "platform/simulated/machine.h"
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 #include "support/optionsform.h"
 
 namespace {
@@ -34,7 +34,7 @@ struct BothPasses {
 BothPasses RecordedPasses(const std::string& baseline) {
     BaselineMachine machine(baseline);
     bench::Recorder recorder(machine.registry);
-    const auto services = platform::simulated::With(machine.services, {.registry = &recorder});
+    const auto services = platform::With(machine.services, {.registry = &recorder});
     tweak_tests::OptionsForm form(services);
     tweaks::Passes passes(form, services);
     recorder.Take();

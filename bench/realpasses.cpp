@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "calls.h"
+#include "platform/machinewith.h"
 #include "platform/simulated/machine.h"
-#include "platform/simulated/withservices.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/registry.h"
 #include "support/optionsform.h"
@@ -144,8 +144,7 @@ void Fill(const platform::simulated::Registry& from, platform::Registry& registr
 // A form with its passes on the given registry. Each is used once, as the program does.
 struct Options {
     explicit Options(platform::Registry& registry)
-        : services(platform::simulated::With(simulated.services,
-                                             {.registry = &registry, .locale = &locale})),
+        : services(platform::With(simulated.services, {.registry = &registry, .locale = &locale})),
           form(services),
           passes(form, services) {
         simulated.journal.Record(false);

@@ -21,7 +21,7 @@
 #include "cleanup/tempfilesframe.h"
 #include "platform/display.h"
 #include "platform/simulated/machine.h"
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 #include "platform/win32/folders.h"
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
@@ -252,7 +252,7 @@ bool WithoutScreen(int pairs) {
     platform::win32::Folders folders;
     NoDisplay display;
     platform::Machine machine =
-        platform::simulated::With(simulated.services, {.folders = &folders, .display = &display});
+        platform::With(simulated.services, {.folders = &folders, .display = &display});
     Walk walk(machine);
     return Compare(
         "clean-up walk without screen", pairs, tree.Files(),
@@ -268,7 +268,7 @@ bool WithScreen(int pairs) {
     platform::simulated::Machine simulated;
     simulated.journal.Record(false);
     // A row's own texts are not the screen's work.
-    platform::Machine machine = platform::simulated::With(
+    platform::Machine machine = platform::With(
         windows.services,
         {.shell = &simulated.services.shell, .locale = &simulated.services.locale});
     Walk walk(machine);

@@ -84,6 +84,12 @@ void BackUpKey(const TouchedKey& key, Reading& reading, std::vector<regfile::Key
     file.push_back(std::move(kept));
 }
 
+// The path without its last level; "" above the first.
+std::string_view Above(std::string_view path) {
+    const std::size_t end = path.rfind('\\');
+    return end == std::string_view::npos ? std::string_view() : path.substr(0, end);
+}
+
 // The topmost missing key, the one at `path` being missing; nothing when one above it cannot be
 // looked at.
 std::string_view TopmostMissing(Root root, std::string_view path, Reading& reading) {
@@ -220,12 +226,16 @@ bool IsAtOrBelow(const regfile::Key& key, const regfile::Key& above) {
            EqualsIgnoringCase(path.substr(0, above.path.size()), above.path);
 }
 
+bool IsSameKey(const regfile::Key& one, const regfile::Key& other) {
+    return one.path.size() == other.path.size() && IsAtOrBelow(one, other);
+}
+
 // What the file comes to: of a value that it has twice the last one. A key that it removes and
 // makes again would need what is there to go first and come back; no backup has that.
 std::vector<regfile::Key> Merged(const std::vector<regfile::Key>& file) {
     std::vector<regfile::Key> merged;
     for (const regfile::Key& key : file) {
-        for (regfile::Key& other : merged) {
+        for (const regfile::Key& other : merged) {
             const bool clash = key.removes ? !other.removes && IsAtOrBelow(other, key)
                                            : other.removes && IsAtOrBelow(key, other);
             if (clash) {
@@ -233,30 +243,17 @@ std::vector<regfile::Key> Merged(const std::vector<regfile::Key>& file) {
                                    (other.removes ? " gelöscht" : " angelegt"),
                                key.line);
             }
-            if (key.removes || other.removes || other.path.size() != key.path.size() ||
-                !IsAtOrBelow(other, key)) {
-                continue;
-            }
-            std::erase_if(other.values, [&](const regfile::Value& value) {
-                return std::any_of(key.values.begin(), key.values.end(), [&](const auto& later) {
-                    return EqualsIgnoringCase(later.name, value.name);
-                });
-            });
         }
         merged.push_back(key);
-        // Of two in one key, too.
-        std::vector<regfile::Value>& values = merged.back().values;
-        for (std::size_t i = 0; i < values.size();) {
-            const bool isRepeated =
-                std::any_of(values.begin() + static_cast<std::ptrdiff_t>(i) + 1, values.end(),
-                            [&](const regfile::Value& later) {
-                                return EqualsIgnoringCase(later.name, values[i].name);
-                            });
-            if (isRepeated) {
-                values.erase(values.begin() + static_cast<std::ptrdiff_t>(i));
-            } else {
-                ++i;
+        merged.back().values.clear();
+        for (const regfile::Value& value : key.values) {
+            for (regfile::Key& other : merged) {
+                if (!IsSameKey(other, key)) continue;
+                std::erase_if(other.values, [&](const regfile::Value& earlier) {
+                    return EqualsIgnoringCase(earlier.name, value.name);
+                });
             }
+            merged.back().values.push_back(value);
         }
     }
     return merged;

@@ -297,6 +297,12 @@ std::string ToDo(const Change& change) {
     return WordsOf(change).toDo + ChangedPlace(change) + FromTo(change);
 }
 
+std::string ListToDo(const Changes& changes) {
+    std::string list;
+    for (const Change& change : changes) list += ToDo(change) + '\n';
+    return list;
+}
+
 std::string Done(const Change& change) {
     return WordsOf(change).done + ChangedPlace(change) + FromTo(change);
 }

@@ -64,6 +64,8 @@ std::vector<regfile::Key> AsRegistrationFile(const Changes& changes);
 
 // "ändern HKLM\Key [Name]: REG_SZ "1" -> REG_SZ "0"", as something to be done.
 std::string ToDo(const Change& change);
+// Each on a line of its own.
+std::string ListToDo(const Changes& changes);
 // The same as something done: "geändert ...".
 std::string Done(const Change& change);
 

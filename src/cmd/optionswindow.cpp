@@ -6,6 +6,7 @@
 #include "cmd/badinput.h"
 #include "controls/chameleonbutton.h"
 #include "platform/locale.h"
+#include "platform/machinewith.h"
 #include "platform/settings.h"
 #include "runtime/failure.h"
 #include "runtime/number.h"
@@ -135,30 +136,11 @@ bool TakesLines(const toolkit::Control& control) {
     return box && box->Style().multiLine;
 }
 
-platform::Machine WithRegistry(const platform::Machine& machine, platform::Registry& registry) {
-    return {machine.forms,         registry,
-            machine.settingsStore, machine.files,
-            machine.folders,       machine.processes,
-            machine.shell,         machine.session,
-            machine.autostart,     machine.operatingSystem,
-            machine.systemFacts,   machine.systemInformation,
-            machine.memory,        machine.internetCache,
-            machine.otherWindows,  machine.display,
-            machine.keyboard,      machine.clock,
-            machine.systemClock,   machine.network,
-            machine.workstation,   machine.socket,
-            machine.locale,        machine.clipboard,
-            machine.beeper,        machine.browser,
-            machine.messages,      machine.menus,
-            machine.toolTips,      machine.tray,
-            machine.program};
-}
-
 }  // namespace
 
 OptionsWindow::OptionsWindow(const platform::Machine& machine)
     : registry_(machine.registry),
-      dry_(WithRegistry(machine, registry_)),
+      dry_(platform::With(machine, {.registry = &registry_})),
       form_(dry_.services),
       passes_(form_, dry_.services) {
     tweaks::ConnectPresets(form_, dry_.services.memory);

@@ -88,6 +88,24 @@ std::string_view PageName(std::string_view tab) {
     return tab;
 }
 
+// Where the option reads or writes, its own place first, each place once.
+std::vector<Place> PlacesOf(const Option& option) {
+    std::vector<Place> places;
+    for (const tweaks::ValuePlace& own : OwnPlaces(option)) {
+        AddOnce(places, PlaceOf(own));
+        for (const tweaks::Conditions* conditions : {&option.onWhen, &option.offWhen}) {
+            for (const tweaks::Condition& condition : *conditions) {
+                AddOnce(places, PlaceOf(condition.At(own)));
+            }
+        }
+        ForEachStep(option, [&](const Step& step) {
+            // What goes with its key is no place of its own.
+            if (step.action != tweaks::Action::DeleteKey) AddOnce(places, PlaceOf(step.At(own)));
+        });
+    }
+    return places;
+}
+
 std::vector<Setting> CollectSettings() {
     std::vector<Setting> settings;
     for (const tweaks::CataloguePage& page : tweaks::Catalogue()) {
@@ -111,23 +129,6 @@ std::vector<Setting> CollectSettings() {
 const std::vector<Setting>& Settings() {
     static const std::vector<Setting> settings = CollectSettings();
     return settings;
-}
-
-std::vector<Place> PlacesOf(const Option& option) {
-    std::vector<Place> places;
-    for (const tweaks::ValuePlace& own : OwnPlaces(option)) {
-        AddOnce(places, PlaceOf(own));
-        for (const tweaks::Conditions* conditions : {&option.onWhen, &option.offWhen}) {
-            for (const tweaks::Condition& condition : *conditions) {
-                AddOnce(places, PlaceOf(condition.At(own)));
-            }
-        }
-        ForEachStep(option, [&](const Step& step) {
-            // What goes with its key is no place of its own.
-            if (step.action != tweaks::Action::DeleteKey) AddOnce(places, PlaceOf(step.At(own)));
-        });
-    }
-    return places;
 }
 
 const std::vector<TouchedKey>& TouchedKeys() {
@@ -186,11 +187,6 @@ Root RootOfLongName(std::string_view name) {
         if (name == names.full) return names.root;
     }
     return 0;
-}
-
-std::string_view Above(std::string_view path) {
-    const std::size_t end = path.rfind('\\');
-    return end == std::string_view::npos ? std::string_view() : path.substr(0, end);
 }
 
 }  // namespace cmd

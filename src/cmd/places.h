@@ -19,15 +19,13 @@ struct Place {
     std::string value;
 };
 
-// Where the option reads or writes, its own place first, each place once.
-std::vector<Place> PlacesOf(const tweaks::Option& option);
-
 // A control that the passes read or write: an option's own, or a box that goes along with an
 // option's check box.
 struct Setting {
     // The page's name, without the blank that its tab has.
     std::string_view page;
     std::string_view control;
+    // Where it is read or written, an option's own place first, each place once.
     std::vector<Place> places;
 };
 
@@ -66,8 +64,5 @@ std::string PlaceText(Root root, std::string_view path, std::string_view valueNa
 // As registration files have it, and back; 0 for a root that the catalogue does not know.
 std::string LongRootName(Root root);
 Root RootOfLongName(std::string_view name);
-
-// The path without its last level; "" above the first.
-std::string_view Above(std::string_view path);
 
 }  // namespace cmd

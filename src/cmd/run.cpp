@@ -121,7 +121,7 @@ class Runner {
 
     int Plan() {
         const Changes changes = Planned();
-        for (const Change& change : changes) around_.Out(ToDo(change) + "\n");
+        around_.Out(ListToDo(changes));
         if (!arguments_.regFile.empty()) {
             file_ = arguments_.regFile;
             around_.WriteNewFile(file_, regfile::Write(AsRegistrationFile(changes)));
@@ -232,8 +232,7 @@ class Runner {
     bool Agreed(const Changes& changes, const std::string& question) {
         if (arguments_.yes) return true;
         if (around_.OutputIsSeen()) {
-            for (const Change& change : changes) around_.Out(ToDo(change) + "\n");
-            around_.Out(question + " ");
+            around_.Out(ListToDo(changes) + question + " ");
         }
         const auto answer = around_.ReadLine();
         if (answer == "j") return true;

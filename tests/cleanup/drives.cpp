@@ -2,7 +2,7 @@
 
 #include "cleanup/fixture.h"
 #include "platform/display.h"
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 
 using cleanup_test::Fixture;
 using cleanup_test::Lines;
@@ -90,8 +90,7 @@ TEST_CASE("failures of the drives are passed over, whatever their number") {
             platform::simulated::Machine machine;
             FailingDisplay display;
             display.number = number;
-            platform::Machine services =
-                platform::simulated::With(machine.services, {.display = &display});
+            platform::Machine services = platform::With(machine.services, {.display = &display});
             toolkit::Form form{machine.forms, "frmMain", "Quillmore", {}};
             cleanup::TempFiles tool{form, services};
             machine.disk.MakeFile("C:\\x.tmp");

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "cleanup/fixture.h"
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 
 // A removal is about the moment of its confirmation: what happens while the shell shows windows of
 // its own changes neither what goes nor how.
@@ -55,7 +55,7 @@ struct Busy {
     platform::simulated::Machine machine;
     platform::simulated::Disk& disk = machine.disk;
     BusyShell shell{machine.services.shell};
-    platform::Machine services = platform::simulated::With(machine.services, {.shell = &shell});
+    platform::Machine services = platform::With(machine.services, {.shell = &shell});
     toolkit::Form form{machine.forms, "frmMain", "Quillmore", {}};
     cleanup::TempFiles tool{form, services};
     cleanup::TempFilesFrame& frame = tool.Frame();

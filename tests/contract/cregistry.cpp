@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "contract/machine.h"
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 #include "platform/systemfacts.h"
 #include "registry/restless.h"
 #include "runtime/failure.h"
@@ -302,8 +302,7 @@ TEST_CASE_FIXTURE(RegistryObjectFixture,
                   "a sub-key deleted during the enumeration takes another one's turn") {
     for (const char* name : {"\\a", "\\b", "\\c", "\\d"}) MakeClosed(Key + name);
     registry_tests::Restless restless(service);
-    const platform::Machine disturbed =
-        platform::simulated::With(machine.Services(), {.registry = &restless});
+    const platform::Machine disturbed = platform::With(machine.Services(), {.registry = &restless});
     registry::cRegistry watched(disturbed);
     Point(watched);
     // The third call finds b.
@@ -318,8 +317,7 @@ TEST_CASE_FIXTURE(RegistryObjectFixture,
 TEST_CASE_FIXTURE(RegistryObjectFixture, "the key itself deleted during the enumeration ends it") {
     for (const char* name : {"\\Inner\\a", "\\Inner\\b"}) MakeClosed(Key + name);
     registry_tests::Restless restless(service);
-    const platform::Machine disturbed =
-        platform::simulated::With(machine.Services(), {.registry = &restless});
+    const platform::Machine disturbed = platform::With(machine.Services(), {.registry = &restless});
     registry::cRegistry watched(disturbed);
     Point(watched);
     watched.SectionKey = Key + "\\Inner";

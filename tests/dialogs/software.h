@@ -4,8 +4,8 @@
 
 #include "controls/chameleonbutton.h"
 #include "dialogs/frminstalledsoftware.h"
+#include "platform/machinewith.h"
 #include "platform/simulated/machine.h"
-#include "platform/simulated/withservices.h"
 #include "registry/restless.h"
 #include "toolkit/controls.h"
 #include "toolkit/listview.h"
@@ -27,8 +27,7 @@ inline constexpr char CannotStart[] = "Fehler beim deinstallieren aufgetreten";
 struct Software {
     platform::simulated::Machine machine;
     registry_tests::Restless restless{machine.registry};
-    dialogs::frmInstalledSoftware form{
-        platform::simulated::With(machine.services, {.registry = &restless})};
+    dialogs::frmInstalledSoftware form{platform::With(machine.services, {.registry = &restless})};
     ListView& list = form.Find<ListView>("lvwSoftware");
     std::vector<Run>& runs = machine.processes.runs;
 

@@ -8,7 +8,7 @@
 #include <set>
 
 #include "dryrun/overmachine.h"
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 #include "support/optionsform.h"
 #include "tweaks/sysocinf.h"
 
@@ -83,7 +83,7 @@ class Noting final : public Registry {
 struct Watched {
     explicit Watched(const platform::Machine& machine)
         : registry(machine.registry),
-          services(platform::simulated::With(machine, {.registry = &registry})),
+          services(platform::With(machine, {.registry = &registry})),
           form(services),
           passes(form, services) {}
 

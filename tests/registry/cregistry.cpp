@@ -4,7 +4,7 @@
 
 #include <new>
 
-#include "platform/simulated/withservices.h"
+#include "platform/machinewith.h"
 #include "registry/fixture.h"
 #include "registry/restless.h"
 #include "runtime/failure.h"
@@ -208,8 +208,7 @@ TEST_CASE_FIXTURE(Object, "a size that is told with more data is a size all the 
 
 TEST_CASE_FIXTURE(Object, "a value that goes or grows while it is read is the default") {
     Restless restless{machine.registry};
-    const platform::Machine disturbed =
-        platform::simulated::With(machine.services, {.registry = &restless});
+    const platform::Machine disturbed = platform::With(machine.services, {.registry = &restless});
     registry::cRegistry watched(disturbed);
     watched.ClassKey = Service::LocalMachine;
     watched.SectionKey = "Software\\Test";
@@ -232,8 +231,7 @@ TEST_CASE_FIXTURE(Object, "a value that goes or grows while it is read is the de
 
 TEST_CASE_FIXTURE(Object, "a value that shrinks while it is read is what is stored by then") {
     Restless restless{machine.registry};
-    const platform::Machine disturbed =
-        platform::simulated::With(machine.services, {.registry = &restless});
+    const platform::Machine disturbed = platform::With(machine.services, {.registry = &restless});
     registry::cRegistry watched(disturbed);
     watched.ClassKey = Service::LocalMachine;
     watched.SectionKey = "Software\\Test";
@@ -255,8 +253,7 @@ TEST_CASE_FIXTURE(Object, "a value that shrinks while it is read is what is stor
 TEST_CASE_FIXTURE(Object, "whatever ends the enumeration of sub-keys, the key is closed") {
     machine.registry.MakeKey(Service::LocalMachine, "Software\\Test\\a");
     Restless restless{machine.registry};
-    const platform::Machine disturbed =
-        platform::simulated::With(machine.services, {.registry = &restless});
+    const platform::Machine disturbed = platform::With(machine.services, {.registry = &restless});
     registry::cRegistry watched(disturbed);
     watched.ClassKey = Service::LocalMachine;
     watched.SectionKey = "Software\\Test";
@@ -271,8 +268,7 @@ TEST_CASE_FIXTURE(Object,
                   "a failure while sub-keys are enumerated closes the key and keeps its number") {
     machine.registry.MakeKey(Service::LocalMachine, "Software\\Test\\a");
     Restless restless{machine.registry};
-    const platform::Machine disturbed =
-        platform::simulated::With(machine.services, {.registry = &restless});
+    const platform::Machine disturbed = platform::With(machine.services, {.registry = &restless});
     registry::cRegistry watched(disturbed);
     watched.ClassKey = Service::LocalMachine;
     watched.SectionKey = "Software\\Test";

@@ -11,8 +11,8 @@
 #include "dialogs/frmsysteminformation.h"
 #include "dialogs/frmvirtualdrive.h"
 #include "dialogs/systemreport.h"
+#include "platform/machinewith.h"
 #include "platform/simulated/machine.h"
-#include "platform/simulated/withservices.h"
 #include "windows/desk.h"
 #include "windows/resources.h"
 
@@ -75,8 +75,7 @@ struct DialogsFixture {
     std::size_t keptElsewhere = 0;
     Desk desk;
     platform::simulated::Machine simulated;
-    platform::Machine machine =
-        platform::simulated::With(simulated.services, {.forms = &desk.host});
+    platform::Machine machine = platform::With(simulated.services, {.forms = &desk.host});
 };
 
 // A bare edit field with a tab stop, which Wine 10 does not give back as a whole.

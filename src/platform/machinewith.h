@@ -2,16 +2,17 @@
 
 #include "platform/machine.h"
 
-namespace platform::simulated {
+namespace platform {
 
-// What stands in for a machine's own; nullptr leaves it.
-struct Services {
+// What stands in for a machine's own; nullptr leaves it. Of the services those that somebody
+// replaces are here.
+struct Replacements {
     toolkit::FormHost* forms = nullptr;
-    platform::Registry* registry = nullptr;
-    platform::Folders* folders = nullptr;
-    platform::Shell* shell = nullptr;
-    platform::Display* display = nullptr;
-    platform::Locale* locale = nullptr;
+    Registry* registry = nullptr;
+    Folders* folders = nullptr;
+    Shell* shell = nullptr;
+    Display* display = nullptr;
+    Locale* locale = nullptr;
 };
 
 template <typename Service>
@@ -19,7 +20,8 @@ Service& Or(Service* other, Service& own) {
     return other ? *other : own;
 }
 
-inline platform::Machine With(const platform::Machine& machine, const Services& other) {
+// The machine with some of its services replaced.
+inline Machine With(const Machine& machine, const Replacements& other) {
     return {
         .forms = Or(other.forms, machine.forms),
         .registry = Or(other.registry, machine.registry),
@@ -55,4 +57,4 @@ inline platform::Machine With(const platform::Machine& machine, const Services& 
     };
 }
 
-}  // namespace platform::simulated
+}  // namespace platform
