@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "calls.h"
-#include "platform/simulated/machine.h"
 #include "platform/machinewith.h"
+#include "platform/simulated/machine.h"
 #include "support/optionsform.h"
 
 namespace {

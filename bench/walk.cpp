@@ -20,8 +20,8 @@
 #include "cleanup/knownlinks.h"
 #include "cleanup/tempfilesframe.h"
 #include "platform/display.h"
-#include "platform/simulated/machine.h"
 #include "platform/machinewith.h"
+#include "platform/simulated/machine.h"
 #include "platform/win32/folders.h"
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
@@ -268,9 +268,9 @@ bool WithScreen(int pairs) {
     platform::simulated::Machine simulated;
     simulated.journal.Record(false);
     // A row's own texts are not the screen's work.
-    platform::Machine machine = platform::With(
-        windows.services,
-        {.shell = &simulated.services.shell, .locale = &simulated.services.locale});
+    platform::Machine machine =
+        platform::With(windows.services,
+                       {.shell = &simulated.services.shell, .locale = &simulated.services.locale});
     Walk walk(machine);
     walk.form.SetLayout(walk.frame.Layout());
     walk.form.Load();
