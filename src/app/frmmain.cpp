@@ -128,11 +128,12 @@ void frmMain::OnQueryUnload() {
     log_.Report("Form_QueryUnload", [&] { CloseProgram(*this, machine_, toolTip_); });
 }
 
-// A hidden dialog must not keep the process alive when closing could not end it. The tooltip object
-// is still there then, too, and must leave the controls before their windows go.
+// A hidden dialog must not keep the process alive when closing could not end it, nor must an icon
+// that cannot be removed, which may have kept it from ending. The tooltip object is still there
+// then, too, and must leave the controls before their windows go.
 void frmMain::OnUnload() {
     toolTip_.reset();
-    machine_.tray.SetShown(false);
+    runtime::Skip([&] { machine_.tray.SetShown(false); });
     password_.Unload();
 }
 

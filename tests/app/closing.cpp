@@ -183,3 +183,11 @@ TEST_CASE("a closing that failed half-way still hides the tray icon and leaves n
     CHECK_FALSE(program.machine.tray.shown);
     CHECK(program.machine.forms.OpenForms().empty());
 }
+
+TEST_CASE("a tray icon that cannot be removed does not keep the window from closing") {
+    Program program;
+    REQUIRE(program.Start());
+    program.machine.faults.FailAll("Tray.SetShown", runtime::InvalidProcedureCall);
+    program.Close();
+    CHECK_FALSE(program.form->Loaded());
+}

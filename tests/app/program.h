@@ -35,7 +35,7 @@ struct Program {
         form = std::make_unique<app::frmMain>(machine.services);
         try {
             form->Load();
-            form->Show();
+            if (form->Loaded()) form->Show();
         } catch (const platform::simulated::ProgramEnded&) {
         }
         return !machine.program.ended;

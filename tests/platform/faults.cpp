@@ -20,6 +20,25 @@ TEST_CASE_FIXTURE(Keys, "the n-th call from now on fails, once") {
     CHECK(machine.faults.Idle());
 }
 
+TEST_CASE_FIXTURE(Keys,
+                  "the n-th call and all behind it fail, the registry with a code of its own") {
+    machine.faults.FailFrom(2, {1117, 68});
+    CHECK(OpenResult(HKLM, "") == Registry::Success);
+    CHECK(OpenResult(HKLM, "") == 1117);
+    CHECK(FailureOf([&] { machine.settingsStore.Save("Quillmore", "Options", "Tab", "1"); }) == 68);
+    machine.faults.Clear();
+    CHECK(OpenResult(HKLM, "") == Registry::Success);
+}
+
+TEST_CASE_FIXTURE(Keys, "the names of the calls that could fail are kept while they are watched") {
+    machine.faults.Watch();
+    OpenResult(HKLM, "");
+    machine.settingsStore.Save("Quillmore", "Options", "Tab", "1");
+    CHECK(machine.faults.Asked() == std::vector<std::string>{"RegOpenKeyExA", "SaveSetting"});
+    machine.faults.Clear();
+    CHECK(machine.faults.Asked().empty());
+}
+
 TEST_CASE_FIXTURE(Keys, "every call of a kind fails until the faults are cleared") {
     machine.faults.FailAll("RegOpenKeyExA", 1450);
     CHECK(OpenResult(HKLM, "") == 1450);

@@ -5,9 +5,15 @@
 
 namespace platform::simulated {
 
-void Faults::FailNth(int n, int code) {
+void Faults::FailNth(int n, FaultCode code) {
     countdown_ = n > 0 ? n : 0;
-    nthCode_ = code;
+    countedCode_ = code;
+    andAllBehind_ = false;
+}
+
+void Faults::FailFrom(int n, FaultCode code) {
+    FailNth(n, code);
+    andAllBehind_ = true;
 }
 
 void Faults::FailAll(std::string call, int code) {
@@ -23,7 +29,11 @@ void Faults::Clear() {
 }
 
 std::optional<int> Faults::Check(std::string_view call, std::string_view subject) {
-    if (countdown_ > 0 && --countdown_ == 0) return nthCode_;
+    if (watching_) asked_.emplace_back(call);
+    if (countdown_ > 0 && --countdown_ == 0) {
+        if (andAllBehind_) countdown_ = 1;
+        return call.starts_with("Reg") ? countedCode_.registry : countedCode_.failure;
+    }
     if (auto found = calls_.find(call); found != calls_.end()) return found->second;
     for (const auto& [start, code] : subjects_) {
         if (runtime::EqualsIgnoringCase(subject.substr(0, start.size()), start)) return code;

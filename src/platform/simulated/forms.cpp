@@ -32,7 +32,8 @@ class Forms::View final : public toolkit::FormView {
 
 class Forms::ListView final : public toolkit::ControlView {
   public:
-    ListView(Journal& journal, toolkit::Control& control) : journal_(journal), control_(control) {}
+    ListView(Forms& forms, toolkit::Control& control)
+        : journal_(forms.journal_), forms_(forms), control_(control) {}
 
     void FitColumn(int column, bool includingHeader) override {
         journal_.Note([&] {
@@ -42,6 +43,7 @@ class Forms::ListView final : public toolkit::ControlView {
     }
     void LockWindow(bool locked) override {
         journal_.Note([&] { return "LockWindowUpdate " + (locked ? control_.Name() : "0"); });
+        forms_.lockedList_ = locked ? &control_ : nullptr;
     }
     void EnsureVisible(int row) override {
         journal_.Note(
@@ -57,6 +59,7 @@ class Forms::ListView final : public toolkit::ControlView {
 
   private:
     Journal& journal_;
+    Forms& forms_;
     toolkit::Control& control_;
 };
 
@@ -76,7 +79,7 @@ void Forms::Open(toolkit::Form& form) {
     for (const auto& control : form.Controls()) {
         handles_[control.get()] = ++lastHandle_;
         if (control->Kind() != toolkit::ControlKind::ListView) continue;
-        auto& list = lists_[control.get()] = std::make_unique<ListView>(journal_, *control);
+        auto& list = lists_[control.get()] = std::make_unique<ListView>(*this, *control);
         control->SetView(list.get());
     }
 }

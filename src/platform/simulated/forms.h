@@ -39,6 +39,9 @@ class Forms final : public toolkit::FormHost {
     // (std::logic_error).
     void WhenModal(std::string formName, std::function<void(toolkit::Form&)> user);
 
+    // The list view whose redrawing is locked; nullptr when none is.
+    const toolkit::Control* LockedList() const { return lockedList_; }
+
     // What the user does while the program lets events through.
     std::function<void()> onEvents;
 
@@ -56,6 +59,7 @@ class Forms final : public toolkit::FormHost {
     std::map<toolkit::Control*, std::unique_ptr<ListView>> lists_;
     std::map<const toolkit::Control*, std::uintptr_t> handles_;
     std::uintptr_t lastHandle_ = 0;
+    const toolkit::Control* lockedList_ = nullptr;
     std::vector<toolkit::Form*> open_;
     std::deque<std::pair<std::string, std::function<void(toolkit::Form&)>>> scripts_;
 };

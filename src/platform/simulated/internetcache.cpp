@@ -46,8 +46,8 @@ std::uint32_t InternetCache::FindFirst(const char* pattern, Address block, std::
         code = Fill(0, block, size);
     }
     if (code == 0) {
-        search = ++lastSearch_;
-        searches_[search] = 1;
+        searches_[++lastSearch_] = 1;
+        search = lastSearch_;
     }
     journal_.Finish(line, [&] { return code == 0 ? SearchName(search) : Answer(code, size); });
     return code;

@@ -49,6 +49,7 @@ class OtherWindows final : public platform::OtherWindows {
     void Close(Handle window);
     // A mistake in the test when there is no such window (std::out_of_range).
     const Window& At(Handle window) const { return windows_.at(window); }
+    const std::map<Handle, Window>& All() const { return windows_; }
 
   private:
     const Window* Existing(Handle window) const;
