@@ -6,6 +6,7 @@
 #include "platform/messages.h"
 #include "platform/settings.h"
 #include "registry/registry.h"
+#include "toolkit/controls.h"
 #include "toolkit/form.h"
 #include "tweaks/receivewindow.h"
 #include "tweaks/registerlibrary.h"

@@ -1,5 +1,6 @@
 #include "platform/simulated/disk.h"
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 

@@ -1,5 +1,7 @@
 #include "platform/simulated/display.h"
 
+#include <algorithm>
+
 #include "platform/simulated/journal.h"
 #include "runtime/text.h"
 
