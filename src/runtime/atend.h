@@ -9,4 +9,8 @@ struct AtEnd {
     ~AtEnd() { action(); }
 };
 
+// Which older clangs do not find by themselves.
+template <typename Action>
+AtEnd(Action) -> AtEnd<Action>;
+
 }  // namespace runtime

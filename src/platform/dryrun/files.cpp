@@ -11,9 +11,9 @@ namespace platform::dryrun {
 using runtime::Failure;
 
 Files::~Files() {
-    for (const auto& [file, opened] : open_) {
-        if (!opened.inside) continue;
-        runtime::Skip([&] { inner_.Close(*opened.inside); });
+    for (const auto& entry : open_) {
+        const auto& inside = entry.second.inside;
+        if (inside) runtime::Skip([&] { inner_.Close(*inside); });
     }
 }
 

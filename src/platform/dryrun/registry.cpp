@@ -366,7 +366,8 @@ std::vector<std::optional<std::string>> Registry::KeyNames(const RegistryNode& n
             entries.emplace_back(std::move(folded), std::move(name));
         }
     }
-    for (const auto& [folded, child] : node.children) {
+    for (const auto& [name, child] : node.children) {
+        const std::string& folded = name;
         if (child->readsThrough && !child->deleted) continue;
         if (child->isInside) {
             const bool isTold = folded.size() < EnumerationRoom;
