@@ -20,3 +20,14 @@ TEST_CASE("files that are read, removed and written whole fail on request and st
     CHECK_THROWS_AS(machine.files.WriteText("C:\\x\\a.inf", "new"), runtime::Failure);
     CHECK(machine.files.Read("C:\\x\\a.inf") == "old");
 }
+
+TEST_CASE("backslashes alone lead to no folder of the disk") {
+    Machine machine;
+    machine.files.Put("C:\\x\\a.inf", "old");
+    for (const char* path : {"\\", "\\\\\\", "\\\\\\\\"}) {
+        CAPTURE(path);
+        CHECK(machine.disk.Find(path) == nullptr);
+        CHECK(machine.folders.LongPath(path) == path);
+        CHECK(machine.folders.ShortPath(path, 260) == "");
+    }
+}

@@ -74,7 +74,8 @@ DiskNode* Disk::Walk(std::string_view path, Last last, int& linksLeft) const {
             node = linksLeft-- > 0 ? Walk(node->target, Last::Follow, linksLeft) : nullptr;
         }
     }
-    return node;
+    // Backslashes alone lead to no drive.
+    return node == &top_ ? nullptr : node;
 }
 
 DiskNode* Disk::Find(std::string_view path, Last last) const {
