@@ -87,6 +87,21 @@ std::optional<double> ByCLibrary(std::string_view text, const NumberSigns& signs
     return sign == '-' ? -number->Value() : number->Value();
 }
 
+// The forms that begin with an ampersand; infinite beyond 32 bits.
+std::optional<double> BitsByCLibrary(std::string_view text) {
+    text.remove_prefix(text.find('&') + 1);
+    text = text.substr(0, text.find_last_not_of(' ') + 1);
+    const bool isHex = IsOneOf("hH", text, 0);
+    if (isHex || IsOneOf("oO", text, 0)) text.remove_prefix(1);
+    const char* digits = isHex ? "0123456789abcdefABCDEF" : "01234567";
+    if (text.empty() || text.find_first_not_of(digits) != std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto bits = std::strtoull(std::string(text).c_str(), nullptr, isHex ? 16 : 8);
+    if (bits > 0xFFFFFFFF) return std::numeric_limits<double>::infinity();
+    return bits > 0xFFFF ? static_cast<std::int32_t>(bits) : static_cast<std::int16_t>(bits);
+}
+
 // What a conversion gives, or the number of its failure.
 template <typename Convert>
 auto ResultOf(const Convert& convert, int& failure) {
@@ -150,25 +165,16 @@ FUZZ_TARGET(numbers) {
     Require(runtime::IsNumeric(text, signs) == number.has_value(), "numeric, and no number");
     const std::size_t first = text.find_first_not_of(' ');
     const bool isBits = first != std::string_view::npos && text[first] == '&';
-    const auto expected = ByCLibrary(text, signs);
-    if (!isBits) {
-        const bool isFinite = expected && std::isfinite(*expected);
-        Require(number == (isFinite ? expected : std::nullopt), "not the C library's number");
-    } else if (number) {
-        Require(*number == std::trunc(*number) && std::abs(*number) <= 2147483648.0,
-                "more than 32 bits");
-    }
+    const auto expected = isBits ? BitsByCLibrary(text) : ByCLibrary(text, signs);
+    const bool isFinite = expected && std::isfinite(*expected);
+    Require(number == (isFinite ? expected : std::nullopt), "not the C library's number");
 
     // Beyond the range of a double it is a number, only too large.
     int failureOfNone = 0;
     ResultOf([&] { return runtime::ToSingle(text, signs); }, failureOfNone);
     if (!number) {
-        Require(failureOfNone == runtime::TypeMismatch || failureOfNone == runtime::Overflow,
-                "a failure that is none of it");
-        if (!isBits) {
-            Require((failureOfNone == runtime::Overflow) == expected.has_value(),
-                    "a large number and no number are not told apart");
-        }
+        Require(failureOfNone == (expected ? runtime::Overflow : runtime::TypeMismatch),
+                "a large number and no number are not told apart");
     }
     CheckWhole<std::int32_t>(number, failureOfNone,
                              [&] { return runtime::ToWholeNumber(text, signs); });
