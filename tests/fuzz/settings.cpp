@@ -6,8 +6,6 @@
 #include "app/program.h"
 #include "fuzz/target.h"
 #include "runtime/encoding.h"
-#include "runtime/number.h"
-#include "toolkit/listview.h"
 
 namespace fuzz {
 namespace {

@@ -1,4 +1,5 @@
 // What both time sources tell: a server of the Time Protocol, and a computer on the network.
+#include <array>
 #include <ctime>
 #include <optional>
 
