@@ -138,6 +138,9 @@ class TestMachine {
     int NumberOfBreak() const;
     bool HidesBreaks() const { return NumberOfBreak() == 0; }
 
+    // Any Windows XP there is, not one that was made for the suite.
+    bool IsRealXp() const;
+
     // Wine answers no question about who is logged on.
     bool LacksWorkstationService() const;
 
@@ -167,6 +170,12 @@ class TestMachine {
     // Command lines of a program that ends soon, and of one that is not there.
     std::string EndingCommand() const;
     std::string MissingCommand();
+
+    // The letter of a drive that is not there, with its colon.
+    std::string MissingDrive() const;
+
+    // Who is logged on here.
+    std::string ExpectedUser() const;
 
     // What the program service must tell.
     std::string ExpectedDirectory() const;

@@ -172,6 +172,10 @@ int TestMachine::NumberOfBreak() const {
     return 10054;
 }
 
+bool TestMachine::IsRealXp() const {
+    return false;
+}
+
 bool TestMachine::LacksWorkstationService() const {
     return false;
 }
@@ -228,6 +232,14 @@ std::string TestMachine::MissingCommand() {
 
 std::string TestMachine::ExpectedDirectory() const {
     return "C:\\Programme\\Quillmore";
+}
+
+std::string TestMachine::MissingDrive() const {
+    return "Q:";
+}
+
+std::string TestMachine::ExpectedUser() const {
+    return "Besitzer";
 }
 
 std::string TestMachine::ExpectedName() const {

@@ -5,6 +5,7 @@
 #include <shlwapi.h>
 #include <winternl.h>
 
+#include <cstddef>
 #include <stdexcept>
 #include <vector>
 
@@ -116,6 +117,10 @@ void RemoveTree(const std::wstring& directory) {
         const std::wstring name = found.cFileName;
         const std::wstring path = directory + L'\\' + name;
         if (name == L"." || name == L"..") continue;
+        if (WineVersion() == 0 && found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) {
+            RemoveDirectoryW(path.c_str());
+            continue;
+        }
         SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
         if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
             RemoveTree(path);
@@ -125,6 +130,43 @@ void RemoveTree(const std::wstring& directory) {
     } while (FindNextFileW(search, &found));
     FindClose(search);
     RemoveDirectoryW(directory.c_str());
+}
+
+// As the file system keeps a link to a folder, behind which two texts follow.
+struct JunctionRecord {
+    ULONG tag;
+    USHORT size;
+    USHORT reserved;
+    USHORT substituteOffset;
+    USHORT substituteLength;
+    USHORT printOffset;
+    USHORT printLength;
+    wchar_t texts[MAX_PATH * 2];
+};
+constexpr std::size_t JunctionHead = offsetof(JunctionRecord, substituteOffset);
+static_assert(JunctionHead == 8 && offsetof(JunctionRecord, texts) == 16);
+
+void MakeJunction(const std::wstring& path, const std::wstring& target) {
+    constexpr DWORD SetReparsePoint = 0x900A4;
+    const std::wstring substitute = L"\\??\\" + target;
+    const std::size_t bytes = substitute.size() * sizeof(wchar_t);
+    JunctionRecord record = {};
+    record.tag = IO_REPARSE_TAG_MOUNT_POINT;
+    record.substituteLength = static_cast<USHORT>(bytes);
+    // An empty one, behind the NUL of the other.
+    record.printOffset = static_cast<USHORT>(bytes + sizeof(wchar_t));
+    substitute.copy(record.texts, substitute.size());
+    const std::size_t all = offsetof(JunctionRecord, texts) + bytes + 2 * sizeof(wchar_t);
+    record.size = static_cast<USHORT>(all - JunctionHead);
+    CreateDirectoryW(path.c_str(), nullptr);
+    const win32::FileHandle folder(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                    FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    DWORD returned = 0;
+    if (!folder || !DeviceIoControl(folder.Get(), SetReparsePoint, &record, static_cast<DWORD>(all),
+                                    nullptr, 0, &returned, nullptr)) {
+        throw std::logic_error("no link to a folder");
+    }
 }
 
 bool linksMade = false;
@@ -277,6 +319,7 @@ void TestMachine::SetAttributes(std::string_view path, std::uint32_t attributes)
 
 void TestMachine::MakeLink(std::string_view path, std::string_view target) {
     const std::wstring link = win32::ToWide(path);
+    if (IsRealXp()) return MakeJunction(link, win32::ToWide(target));
     linksMade = true;
     RunUnix(L"ln -s \"" + UnixPath(win32::ToWide(target)) + L"\" \"" + UnixPath(link) + L'"',
             [&] { return AttributesOf(link) != INVALID_FILE_ATTRIBUTES; });
@@ -366,6 +409,10 @@ int TestMachine::NumberOfBreak() const {
     return WineVersion() < 10 ? 0 : WSAECONNABORTED;
 }
 
+bool TestMachine::IsRealXp() const {
+    return WineVersion() == 0;
+}
+
 bool TestMachine::LacksWorkstationService() const {
     return WineVersion() != 0;
 }
@@ -429,6 +476,20 @@ std::string TestMachine::ExpectedDirectory() const {
     GetModuleFileNameW(nullptr, path, MAX_PATH);
     PathRemoveFileSpecW(path);
     return win32::FromWide(path);
+}
+
+std::string TestMachine::MissingDrive() const {
+    const DWORD drives = GetLogicalDrives();
+    char letter = 'Y';
+    while (drives >> (letter - 'A') & 1) --letter;
+    return {letter, ':'};
+}
+
+std::string TestMachine::ExpectedUser() const {
+    if (!IsRealXp()) return "Besitzer";
+    wchar_t name[257] = {};
+    GetEnvironmentVariableW(L"USERNAME", name, 257);
+    return win32::FromWide(name);
 }
 
 std::string TestMachine::ExpectedName() const {

@@ -2,10 +2,14 @@
 
 #include <windows.h>
 
+#include <doctest/doctest.h>
+
 namespace support {
 
 // The mouse itself, by what the system is told of it. While this lives it is the only one: a
 // display echoes the moves, late when the machine is busy, and with them where the mouse was.
+// Nothing is pressed over or before a window that is not the suite's: whose screen it is may have
+// others open.
 class RealMouse {
   public:
     RealMouse() = default;
@@ -21,12 +25,23 @@ class RealMouse {
     }
     // MOUSEEVENTF_LEFTDOWN and its like.
     static void Send(DWORD what) {
+        constexpr DWORD Releases = MOUSEEVENTF_LEFTUP | MOUSEEVENTF_RIGHTUP;
+        POINT place{};
+        GetCursorPos(&place);
+        if (!(what & Releases) && !IsOwn(WindowFromPoint(place))) {
+            FAIL_CHECK("the mouse is over a window of somebody else's");
+            return;
+        }
         INPUT input{};
         input.type = INPUT_MOUSE;
         input.mi.dwFlags = what;
         SendInput(1, &input, sizeof input);
     }
     static void Press(WORD key, bool down) {
+        if (down && !IsOwn(GetForegroundWindow())) {
+            FAIL_CHECK("a window of somebody else's is in front");
+            return;
+        }
         INPUT input{};
         input.type = INPUT_KEYBOARD;
         input.ki.wVk = key;
@@ -35,6 +50,11 @@ class RealMouse {
     }
 
   private:
+    static bool IsOwn(HWND window) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        return process == GetCurrentProcessId();
+    }
     static LRESULT CALLBACK Filter(int code, WPARAM wParam, LPARAM lParam) {
         const auto& event = *reinterpret_cast<const MSLLHOOKSTRUCT*>(lParam);
         if (code == HC_ACTION && !(event.flags & LLMHF_INJECTED)) return 1;

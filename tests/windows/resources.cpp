@@ -5,7 +5,7 @@
 #include <doctest/doctest.h>
 #include <psapi.h>
 
-#include <vector>
+#include "support/openhandles.h"
 
 namespace windows {
 
@@ -30,26 +30,7 @@ int DrawingObjects() {
 }
 
 int Handles() {
-    struct Entry {
-        ULONG process;
-        UCHAR type;
-        UCHAR flags;
-        USHORT handle;
-        void* object;
-        ULONG access;
-    };
-    using Query = LONG(WINAPI*)(ULONG, void*, ULONG, ULONG*);
-    constexpr ULONG SystemHandles = 16;
-    const auto query = reinterpret_cast<Query>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"ntdll"), "NtQuerySystemInformation")));
-    std::vector<char> buffer(4 * 1024 * 1024);
-    REQUIRE(query(SystemHandles, buffer.data(), static_cast<ULONG>(buffer.size()), nullptr) == 0);
-    const ULONG total = *reinterpret_cast<const ULONG*>(buffer.data());
-    const auto* entries = reinterpret_cast<const Entry*>(buffer.data() + sizeof(ULONG));
-    int count = 0;
-    for (ULONG i = 0; i < total; ++i) count += entries[i].process == GetCurrentProcessId();
-    REQUIRE(count > 0);
-    return count;
+    return support::OpenHandles();
 }
 
 std::size_t PrivateMemory() {

@@ -10,6 +10,7 @@
 
 #include "contract/machine.h"
 #include "platform/win32/handle.h"
+#include "support/openhandles.h"
 #include "support/standinfunction.h"
 
 extern void* deleteKeyEntry asm("__imp__RegDeleteKeyW@8");
@@ -198,10 +199,9 @@ TEST_CASE_FIXTURE(WindowsWideRegistryFixture, "a key that is created outlasts th
 }
 
 TEST_CASE_FIXTURE(WindowsWideRegistryFixture, "no handle of the registry stays open") {
-    DWORD before = 0;
-    DWORD after = 0;
+    int before = 0;
     for (int round = 0; round < 20; ++round) {
-        if (round == 1) REQUIRE(GetProcessHandleCount(GetCurrentProcess(), &before));
+        if (round == 1) before = support::OpenHandles();
         const std::string path = std::string(Scratch) + "\\made";
         Names names;
         WideRegistry::Value value;
@@ -216,8 +216,7 @@ TEST_CASE_FIXTURE(WindowsWideRegistryFixture, "no handle of the registry stays o
         CHECK(wide.RemoveKey(Registry::CurrentUser, path) == Registry::Success);
         CHECK(wide.Ask(Registry::CurrentUser, path) == Registry::FileNotFound);
     }
-    REQUIRE(GetProcessHandleCount(GetCurrentProcess(), &after));
-    CHECK(after == before);
+    CHECK(support::OpenHandles() == before);
 }
 
 // Some versions of Windows would take the sub-keys along.
