@@ -14,6 +14,9 @@
 #                                           all of that for one program: common-controls for a
 #                                           windowed one; libraries for a console one, which asks
 #                                           for no function of a service pack
+#   audit.sh suite ALLOWED MORE LATER OBJDUMP PROGRAM MAP
+#                                           imports from either list, service-packs, headers of a
+#                                           console program and instructions
 # HEADERS is what `objdump -p` prints, DISASSEMBLY what `objdump -d` prints. Every violation is one
 # line; the exit code is 1 when there is any.
 set -euo pipefail
@@ -204,6 +207,27 @@ CheckProgram() {
     return $status
 }
 
+CheckSuite() {
+    local allowed=$1 more=$2 later=$3 objdump=$4 program=$5 map=$6 status=0 texts code_end
+    if ! code_end=$(CodeEnd "$map"); then
+        echo "$code_end"
+        return 1
+    fi
+    texts=$(mktemp -d)
+    "$objdump" -p "$program" >"$texts/headers"
+    "$objdump" -d --stop-address="$code_end" "$program" >"$texts/disassembly"
+    cat "$allowed" "$more" >"$texts/allowed"
+    CheckImports "$texts/allowed" "$texts/headers" || status=1
+    CheckServicePacks "$later" "$texts/headers" || status=1
+    CheckHeaders console "$texts/headers" || status=1
+    CheckInstructions "$texts/disassembly" || status=1
+    rm -r "$texts"
+    if ((status == 0)); then
+        echo "$program: nothing that XP lacks"
+    fi
+    return $status
+}
+
 what=${1:-}
 shift || true
 case $what in
@@ -217,5 +241,6 @@ case $what in
     code-end) CodeEnd "$@" ;;
     size) CheckSize "$@" ;;
     program) CheckProgram "$@" ;;
+    suite) CheckSuite "$@" ;;
     *) sed -n '2,/^$/s/^# \?//p' "$0" >&2; exit 2 ;;
 esac

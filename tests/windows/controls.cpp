@@ -153,6 +153,41 @@ TEST_CASE("an option button is chosen by a press or an arrow key, not by the foc
     CHECK(GetFocus() == desk.Find(form, "opt(1)"));
 }
 
+TEST_CASE("the real tabulator and the coming back of the window choose no option button") {
+    Desk desk;
+    TestForm other(desk.host, "frmOther");
+    other.Add<toolkit::TextBox>("txtOther");
+    TestForm form(desk.host, "frmMain");
+    auto& text = form.Add<toolkit::TextBox>("txt");
+    auto& first = form.Add<toolkit::OptionButton>("opt(0)", "Erste", 1);
+    auto& second = form.Add<toolkit::OptionButton>("opt(1)", "Zweite", 1);
+    form.SetLayout(toolkit::Column({Leaf(text), Leaf(first), Leaf(second)}));
+    other.Show();
+    form.Show();
+    const auto comes = [&](const std::function<bool()>& done) {
+        const DWORD start = GetTickCount();
+        while (!done() && GetTickCount() - start < 10000) {
+            desk.host.DoEvents();
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+        }
+        return done();
+    };
+    const auto isOn = [&](const char* name) { return GetFocus() == desk.Find(form, name); };
+    SetForegroundWindow(desk.host.WindowOf(form));
+    SetFocus(desk.Find(form, "txt"));
+    RealMouse::Press(VK_TAB, true);
+    RealMouse::Press(VK_TAB, false);
+    REQUIRE(comes([&] { return isOn("opt(0)"); }));
+    SetForegroundWindow(desk.host.WindowOf(other));
+    REQUIRE(comes([&] { return !isOn("opt(0)"); }));
+    SetForegroundWindow(desk.host.WindowOf(form));
+    REQUIRE(comes([&] { return isOn("opt(0)"); }));
+    ServeAWhile();
+    CHECK_FALSE(first.Value());
+    CHECK_FALSE(second.Value());
+    CHECK(SendMessageW(desk.Find(form, "opt(0)"), BM_GETCHECK, 0, 0) == BST_UNCHECKED);
+}
+
 TEST_CASE("what is typed reaches the text box, and the field shows what the box made of it") {
     Desk desk;
     TestForm form(desk.host, "frmMain");

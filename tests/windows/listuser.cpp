@@ -377,6 +377,55 @@ TEST_CASE("one click or key turns a tick once, whatever the class tells itself m
     }
 }
 
+TEST_CASE("a real click on its box and the real space bar turn a tick once") {
+    Heard f;
+    SetForegroundWindow(f.desk.host.WindowOf(f.form));
+    RealMouse mouse;
+    const auto turns = [&](const std::function<void()>& act) {
+        const bool before = f.list.Ticked(1);
+        act();
+        ServeUntil([&] { return f.list.Ticked(1) != before; });
+        ServeAWhile();
+        CHECK(f.list.Ticked(1) != before);
+        CHECK(f.ShownTicked(1) != before);
+    };
+    for (const bool high : {false, true}) {
+        turns([&] {
+            const LPARAM at = f.BoxOf(1);
+            // Two clicks that lie so far apart are no double click.
+            const int up = high ? GetSystemMetrics(SM_CYDOUBLECLK) : 0;
+            RealMouse::MoveTo(f.window, LOWORD(at), HIWORD(at) - up);
+            RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+            RealMouse::Send(MOUSEEVENTF_LEFTUP);
+        });
+    }
+    f.Click(f.TextOf(1));
+    for (int i = 0; i < 2; ++i) {
+        turns([] {
+            RealMouse::Press(VK_SPACE, true);
+            RealMouse::Press(VK_SPACE, false);
+        });
+    }
+}
+
+TEST_CASE("a real click on one of several selected rows leaves that one selected") {
+    Heard f(toolkit::ListViewStyle{.multiSelect = true});
+    SetForegroundWindow(f.desk.host.WindowOf(f.form));
+    SetState(f, -1, LVIS_SELECTED, LVIS_SELECTED);
+    RealMouse mouse;
+    const LPARAM at = f.TextOf(1);
+    RealMouse::MoveTo(f.window, LOWORD(at), HIWORD(at));
+    RealMouse::Send(MOUSEEVENTF_LEFTDOWN);
+    RealMouse::Send(MOUSEEVENTF_LEFTUP);
+    ServeUntil([&] { return !f.heard.empty(); });
+    ServeAWhile();
+    for (int row = 0; row < 3; ++row) {
+        CAPTURE(row);
+        CHECK(f.list.Selected(row) == (row == 1));
+        CHECK(f.ShownSelected(row) == (row == 1));
+    }
+}
+
 TEST_CASE("what is ticked by those who hear of a click is ticked") {
     Heard f;
     f.list.onClick = [&] { SetState(f, 2, INDEXTOSTATEIMAGEMASK(2), LVIS_STATEIMAGEMASK); };
