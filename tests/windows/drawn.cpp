@@ -1,5 +1,7 @@
 #include <doctest/doctest.h>
 
+#include "platform/win32/windows/accessmarks.h"
+#include "support/standinfunction.h"
 #include "windows/desk.h"
 
 using namespace windows;
@@ -100,4 +102,35 @@ TEST_CASE(
     cancel.SetEnabled(false);
     order(IDCANCEL);
     CHECK(cancel.presses == 2);
+}
+
+namespace {
+
+extern "C" {
+extern void* entryOfTextExtent asm("__imp__GetTextExtentPoint32W@16");
+}
+void* realTextExtent = nullptr;
+
+// As Windows XP measures: no characters have no height either.
+BOOL WINAPI MeasureAsXp(HDC dc, LPCWSTR text, int length, LPSIZE size) {
+    if (length > 0) {
+        return reinterpret_cast<decltype(&GetTextExtentPoint32W)>(realTextExtent)(dc, text, length,
+                                                                                  size);
+    }
+    *size = {};
+    return TRUE;
+}
+
+}  // namespace
+
+TEST_CASE(
+    "a text without characters is as high as others, also where the system says it has none") {
+    const support::StandInFunction other(entryOfTextExtent, MeasureAsXp);
+    realTextExtent = other.Real();
+    const HDC screen = GetDC(nullptr);
+    const toolkit::Size none = platform::win32::ExtentOf(screen, "");
+    CHECK(none.width == 0);
+    CHECK(none.height > 0);
+    CHECK(none.height == platform::win32::ExtentOf(screen, "0").height);
+    ReleaseDC(nullptr, screen);
 }

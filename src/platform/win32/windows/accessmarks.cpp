@@ -16,9 +16,11 @@ std::wstring WithoutAccessMarks(std::string_view caption) {
 
 toolkit::Size ExtentOf(HDC dc, std::string_view caption) {
     const std::wstring seen = WithoutAccessMarks(caption);
+    // Of no characters not every system tells the height of the font.
+    const std::wstring measured = seen.empty() ? L"0" : seen;
     SIZE size{};
-    GetTextExtentPoint32W(dc, seen.c_str(), static_cast<int>(seen.size()), &size);
-    return {size.cx, size.cy};
+    GetTextExtentPoint32W(dc, measured.c_str(), static_cast<int>(measured.size()), &size);
+    return {seen.empty() ? 0 : static_cast<int>(size.cx), static_cast<int>(size.cy)};
 }
 
 }  // namespace platform::win32
