@@ -1,6 +1,6 @@
 #!/bin/bash
 # cases.sh SUITE.EXE...: each case of these suites stands in cases.txt below one class, and nothing
-# else does.
+# else does. Those that docs/on-xp.md names are cases.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
@@ -23,6 +23,11 @@ if lines=$(LC_ALL=C comm -23 "$work/there" "$work/classed") && [[ -n $lines ]]; 
 fi
 if lines=$(LC_ALL=C comm -13 "$work/there" <(LC_ALL=C uniq "$work/classed")) && [[ -n $lines ]]; then
     sed 's/^/classed, but no case: /' <<<"$lines" >&2
+    found=1
+fi
+if lines=$(grep -oE '`(contract|windows): [^`]+`' "$here/../../docs/on-xp.md" | tr -d '`' |
+    LC_ALL=C sort -u | LC_ALL=C comm -23 - "$work/there") && [[ -n $lines ]]; then
+    sed 's/^/named in docs, but no case: /' <<<"$lines" >&2
     found=1
 fi
 if ((found == 0)); then
