@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kit {
 namespace {
@@ -41,6 +42,24 @@ std::string Wanting(const std::vector<Tried>& cases) {
     return text.empty() ? "keiner\n" : text;
 }
 
+// The reasons, in the order of the first cases that have them.
+std::string Reasons(const std::vector<Tried>& cases) {
+    std::vector<std::pair<std::string, int>> reasons;
+    for (const Tried& tried : cases) {
+        if (tried.verdict != Verdict::NotTried || tried.notes.empty()) continue;
+        auto found = std::find_if(reasons.begin(), reasons.end(), [&](const auto& reason) {
+            return reason.first == tried.notes[0];
+        });
+        if (found == reasons.end()) found = reasons.insert(found, {tried.notes[0], 0});
+        ++found->second;
+    }
+    std::string text;
+    for (const auto& [reason, count] : reasons) {
+        text += "  " + std::to_string(count) + ' ' + reason + '\n';
+    }
+    return text.empty() ? "keiner\n" : text;
+}
+
 }  // namespace
 
 std::string Report(const std::vector<std::string>& head, const std::vector<Tried>& cases) {
@@ -53,7 +72,8 @@ std::string Report(const std::vector<std::string>& head, const std::vector<Tried
         });
         text += "  " + std::to_string(count) + ' ' + word.text + '\n';
     }
-    text += "\nWas nicht bestanden hat\n" + Wanting(cases) + "\nAlle Fälle\n";
+    text += "\nWas nicht bestanden hat\n" + Wanting(cases);
+    text += "\nWas nicht versucht wurde, und warum\n" + Reasons(cases) + "\nAlle Fälle\n";
     for (const Tried& tried : cases) text += Line(tried);
     std::string lines = "\xEF\xBB\xBF";
     for (const char character : text) {
