@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
+#include <set>
 
 #include "cleanup/deletefolder.h"
 #include "contract/machine.h"
@@ -56,6 +57,35 @@ TEST_CASE_FIXTURE(FoldersFixture,
     CHECK(Listed("Ünter")->IsFolder());
     CHECK(Listed("Ünter")->size == 0);
     CHECK_FALSE(Listed("Ünter")->IsLink());
+}
+
+TEST_CASE_FIXTURE(FoldersFixture, "odd names are listed as they are spelled") {
+    const std::vector<std::string> names = {".a",
+                                            "..a",
+                                            "a b.c d",
+                                            "~1",
+                                            "[a]{b}(c)",
+                                            "%TEMP%",
+                                            "Привет",
+                                            "日本語",
+                                            "\xF0\x9D\x84\x9E",
+                                            std::string(200, 'n')};
+    for (const std::string& name : names) Put(In(name), "x");
+    CHECK(folders.List(top).size() == names.size());
+    for (const std::string& name : names) {
+        CAPTURE(name);
+        CHECK(Listed(name));
+    }
+}
+
+TEST_CASE_FIXTURE(FoldersFixture, "each of many is listed once") {
+    std::set<std::string> names;
+    const std::string tail(120, 'x');
+    for (int number = 0; number < 500; ++number) names.insert(std::to_string(number) + tail);
+    for (const std::string& name : names) Put(In(name), "");
+    const auto entries = folders.List(top);
+    CHECK(entries.size() == names.size());
+    for (const FolderEntry& entry : entries) CHECK(names.erase(entry.name) == 1);
 }
 
 TEST_CASE_FIXTURE(FoldersFixture, "a backslash behind the path changes nothing") {

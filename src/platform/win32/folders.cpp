@@ -1,6 +1,6 @@
 #include "platform/win32/folders.h"
 
-#include <windows.h>
+#include <cstddef>
 
 #include "platform/win32/handle.h"
 #include "platform/win32/nomediumbox.h"
@@ -53,8 +53,68 @@ FolderEntry ToEntry(std::string name, const Data& data, const LocalClock& clock)
             clock.Of(data.ftLastWriteTime)};
 }
 
-bool IsDots(const wchar_t* name) {
-    return name[0] == L'.' && (!name[1] || (name[1] == L'.' && !name[2]));
+bool IsDots(std::wstring_view name) {
+    return name == L"." || name == L"..";
+}
+
+// The record in which FindFirstFileW, too, has the system tell it of an entry.
+using EntryRecord = FILE_BOTH_DIR_INFORMATION;
+constexpr std::size_t NameOffset = offsetof(EntryRecord, FileName);
+static_assert(NameOffset == 94);
+
+// Room for some hundred entries; more than that is refused by some servers on the network.
+constexpr std::size_t PieceSize = 64 * 1024;
+
+constexpr NTSTATUS Success = 0;
+constexpr auto NoMoreFiles = static_cast<NTSTATUS>(0x80000006);
+
+// Adds the entries that lie one behind the other in these bytes. False where one does not lie
+// within them: file systems are drivers, which may come from anybody.
+bool AddEntries(const char* bytes, std::size_t size, const LocalClock& clock,
+                std::vector<FolderEntry>& entries) {
+    for (;;) {
+        if (size < NameOffset) return false;
+        const auto& record = *reinterpret_cast<const EntryRecord*>(bytes);
+        const std::size_t length = record.FileNameLength;
+        if (length > size - NameOffset || length % sizeof(wchar_t) != 0) return false;
+        std::wstring_view name(record.FileName, length / sizeof(wchar_t));
+        // Some servers count the NUL at its end.
+        name = name.substr(0, name.find(L'\0'));
+        if (!IsDots(name)) {
+            const auto& written = record.LastWriteTime;
+            entries.push_back({FromWide(name), record.FileAttributes,
+                               static_cast<std::uint64_t>(record.EndOfFile.QuadPart),
+                               clock.Of({written.LowPart, static_cast<DWORD>(written.HighPart)})});
+        }
+        const std::size_t next = record.NextEntryOffset;
+        if (next == 0) return true;
+        const bool isAligned = next % alignof(EntryRecord) == 0;
+        if (next < NameOffset + length || next > size || !isAligned) return false;
+        bytes += next;
+        size -= next;
+    }
+}
+
+// FindFirstFileW's way without its small pieces. False where anything is not as it should be, and
+// then the entries are not all.
+bool ListInPieces(Folders::QueryDirectory query, const std::wstring& folder,
+                  const LocalClock& clock, std::vector<FolderEntry>& entries) {
+    const FileHandle handle(CreateFileW(
+        folder.c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+        nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    if (!handle) return false;
+    alignas(EntryRecord) char piece[PieceSize];
+    for (bool isFirst = true;; isFirst = false) {
+        IO_STATUS_BLOCK told = {};
+        const NTSTATUS status =
+            query(handle.Get(), nullptr, nullptr, nullptr, &told, piece, sizeof piece,
+                  FileBothDirectoryInformation, FALSE, nullptr, FALSE);
+        if (status == NoMoreFiles && !isFirst) return true;
+        if (status != Success || told.Information > sizeof piece ||
+            !AddEntries(piece, told.Information, clock, entries)) {
+            return false;
+        }
+    }
 }
 
 // What is not there, in all words that Windows has for it, apart from what is refused.
@@ -69,15 +129,21 @@ runtime::Failure FolderFailure(DWORD error) {
 
 }  // namespace
 
+Folders::Folders()
+    : Folders(reinterpret_cast<QueryDirectory>(reinterpret_cast<void*>(
+          GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryDirectoryFile")))) {}
+
 std::vector<FolderEntry> Folders::List(std::string_view path) {
     std::wstring pattern = ToWide(path);
     if (pattern.empty()) throw runtime::Failure(runtime::PathNotFound);
     const NoMediumBox quiet;
     if (pattern.back() != L'\\') pattern += L'\\';
-    pattern += L'*';
-    if (pattern.size() >= MAX_PATH) throw runtime::Failure(runtime::PathNotFound);
+    if (pattern.size() + 1 >= MAX_PATH) throw runtime::Failure(runtime::PathNotFound);
     std::vector<FolderEntry> entries;
     const LocalClock clock;
+    if (query_ && ListInPieces(query_, pattern, clock, entries)) return entries;
+    entries.clear();
+    pattern += L'*';
     WIN32_FIND_DATAW data;
     const Owned<SearchTraits> search(FindFirstFileW(pattern.c_str(), &data));
     if (!search) {

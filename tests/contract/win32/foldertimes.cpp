@@ -40,9 +40,12 @@ TEST_CASE("a file's time is told as the system converts it, in summer, in winter
             REQUIRE(SetFileTime(made.Get(), nullptr, nullptr, &moment));
         }
         platform::win32::Folders folders;
-        const auto listed = folders.List(platform::win32::FromWide(folder));
-        REQUIRE(listed.size() == 1);
-        CHECK(listed[0].modified == AsTheSystemTells(moment));
+        platform::win32::Folders bySearch(nullptr);
+        for (auto* way : {&folders, &bySearch}) {
+            const auto listed = way->List(platform::win32::FromWide(folder));
+            REQUIRE(listed.size() == 1);
+            CHECK(listed[0].modified == AsTheSystemTells(moment));
+        }
         const auto found = folders.Find(platform::win32::FromWide(file));
         REQUIRE(found);
         CHECK(found->modified == AsTheSystemTells(moment));
