@@ -115,12 +115,19 @@ double FromDecimal(std::string_view digits, std::int64_t exponent) {
     if (exponent > std::numeric_limits<double>::max_exponent10 + 1) {
         return std::numeric_limits<double>::infinity();
     }
+    const std::int64_t power = exponent - static_cast<std::int64_t>(digits.size());
+    // A number without a fraction that a double holds as it is.
+    if (power >= 0 && exponent <= std::numeric_limits<double>::digits10) {
+        std::uint64_t number = 0;
+        for (const char digit : digits) number = number * 10 + static_cast<unsigned>(digit - '0');
+        for (std::int64_t zeros = power; zeros > 0; --zeros) number *= 10;
+        return static_cast<double>(number);
+    }
     Whole dividend(0);
     Whole divisor(1);
     for (const char digit : digits) {
         dividend.MultiplyAndAdd(10, static_cast<std::uint32_t>(digit - '0'));
     }
-    const std::int64_t power = exponent - static_cast<std::int64_t>(digits.size());
     dividend.MultiplyByPowerOfTen(power);
     divisor.MultiplyByPowerOfTen(-power);
 

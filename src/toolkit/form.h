@@ -2,11 +2,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -207,7 +207,8 @@ class Form {
     bool layered_ = false;
     LayerAttributes layer_;
     std::vector<std::unique_ptr<Control>> controls_;
-    std::map<std::string, Control*, std::less<>> byName_;
+    // By the names that the controls themselves keep.
+    std::unordered_map<std::string_view, Control*> byName_;
     Box layout_;
     FormView* view_ = nullptr;
 };
