@@ -4,6 +4,7 @@
 
 #include <oleauto.h>
 
+#include "platform/win32/com.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/text.h"
 #include "runtime/failure.h"
@@ -26,9 +27,9 @@ class TextArgument {
   public:
     explicit TextArgument(std::string_view text) {
         value.vt = VT_BSTR;
-        value.bstrVal = SysAllocString(ToWide(text).c_str());
+        value.bstrVal = MakeAutomationText(ToWide(text));
     }
-    ~TextArgument() { SysFreeString(value.bstrVal); }
+    ~TextArgument() { FreeAutomationText(value.bstrVal); }
     TextArgument(const TextArgument&) = delete;
     TextArgument& operator=(const TextArgument&) = delete;
 
@@ -49,27 +50,11 @@ VARIANT Truth(bool truth) {
     return value;
 }
 
-// The libraries of objects are in use as long as it lives.
-class Automation {
-  public:
-    Automation() : ready_(SUCCEEDED(CoInitialize(nullptr))) {}
-    ~Automation() {
-        if (ready_) CoUninitialize();
-    }
-    Automation(const Automation&) = delete;
-    Automation& operator=(const Automation&) = delete;
-
-  private:
-    bool ready_;
-};
-
 class DocumentWindow final : public BrowserWindow {
   public:
     explicit DocumentWindow(const wchar_t* programId) {
-        CLSID wanted;
         void* made = nullptr;
-        if (FAILED(CLSIDFromProgID(programId, &wanted)) ||
-            FAILED(CoCreateInstance(wanted, nullptr, CLSCTX_SERVER, IID_IDispatch, &made))) {
+        if (!CreateObject(programId, IID_IDispatch, &made)) {
             throw runtime::Failure(runtime::CannotCreateObject);
         }
         object_.Reset(static_cast<IDispatch*>(made));
@@ -103,7 +88,7 @@ class DocumentWindow final : public BrowserWindow {
     }
 
     // Before the object: it must outlive it.
-    Automation automation_;
+    ComApartment apartment_;
     Object object_;
 };
 

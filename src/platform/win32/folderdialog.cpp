@@ -55,6 +55,7 @@ int CALLBACK Reported(HWND window, UINT message, LPARAM argument, LPARAM data) {
 
 std::string Shell::BrowseForFolder(const toolkit::Form& owner, std::string_view title,
                                    std::uint32_t flags, const FolderCallback& callback) {
+    EnterApartment();
     const std::string shownTitle = ToAnsi(title);
     const CallbackContext context{callback, messages_};
     char displayName[MAX_PATH];

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/win32/com.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/text.h"
 
@@ -16,7 +17,7 @@ struct IdListTraits {
     using Type = PIDLIST_ABSOLUTE;
     static Type None() { return nullptr; }
     static bool Close(Type list) {
-        CoTaskMemFree(list);
+        FreeTaskMemory(list);
         return true;
     }
 };

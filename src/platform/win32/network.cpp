@@ -2,6 +2,7 @@
 
 #include <lm.h>
 
+#include "platform/win32/libraryfunction.h"
 #include "platform/win32/text.h"
 
 namespace platform::win32 {
@@ -31,9 +32,20 @@ DWORD WINAPI AskRas(RASCONNA* records, LPDWORD size, LPDWORD count) {
     return code;
 }
 
+DWORD WINAPI AskRemote(LPCWSTR server, LPBYTE* buffer) {
+    const auto ask = LibraryFunction<decltype(NetRemoteTOD)>(L"netapi32.dll", "NetRemoteTOD");
+    return ask ? ask(server, buffer) : ERROR_PROC_NOT_FOUND;
+}
+
+DWORD WINAPI FreeAnswer(LPVOID buffer) {
+    const auto free =
+        LibraryFunction<decltype(NetApiBufferFree)>(L"netapi32.dll", "NetApiBufferFree");
+    return free ? free(buffer) : ERROR_PROC_NOT_FOUND;
+}
+
 }  // namespace
 
-Network::Network() : Network(NetRemoteTOD, NetApiBufferFree, AskRas) {}
+Network::Network() : Network(AskRemote, FreeAnswer, AskRas) {}
 
 std::optional<TimeOfDay> Network::RemoteTimeOfDay(const std::string& server) const {
     BYTE* buffer = nullptr;

@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <objbase.h>
 #include <shellapi.h>
 
 #include "platform/win32/formhandles.h"
@@ -15,19 +14,19 @@ namespace platform::win32 {
 static_assert(Shell::DeleteFiles == FO_DELETE && Shell::AllowUndo == FOF_ALLOWUNDO);
 static_assert(Shell::NoProgress == FOF_SILENT && Shell::NoConfirmation == FOF_NOCONFIRMATION);
 
-ComApartment::ComApartment() : entered_(SUCCEEDED(CoInitialize(nullptr))) {}
-
-ComApartment::~ComApartment() {
-    if (entered_) CoUninitialize();
+void Shell::EnterApartment() const {
+    if (!apartment_) apartment_.emplace();
 }
 
 void Shell::Execute(std::string_view verb, std::string_view file, std::string_view parameters,
                     std::string_view directory, std::int32_t show) {
+    EnterApartment();
     ShellExecuteA(forms_.MainWindow(), ToAnsi(verb).c_str(), ToAnsi(file).c_str(),
                   ToAnsi(parameters).c_str(), ToAnsi(directory).c_str(), show);
 }
 
 void Shell::ObjectProperties(std::int32_t kind) {
+    EnterApartment();
     // XP exports it by this number alone; the texts are wide there.
     using Function = BOOL(WINAPI*)(HWND, DWORD, LPCWSTR, LPCWSTR);
     constexpr WORD ordinal = 178;
@@ -40,6 +39,7 @@ void Shell::ObjectProperties(std::int32_t kind) {
 
 std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path,
                                    std::uint16_t flags) {
+    EnterApartment();
     // A NUL inside would make two paths of one, and both would be gone.
     path = path.substr(0, path.find('\0'));
     if (path.empty()) return ERROR_FILE_NOT_FOUND;
@@ -53,10 +53,12 @@ std::int32_t Shell::OperateOnFiles(std::uint32_t function, std::string_view path
 }
 
 void Shell::EmptyRecycleBin(std::uint32_t flags) {
+    EnterApartment();
     SHEmptyRecycleBinA(nullptr, nullptr, flags);
 }
 
 std::string Shell::TypeName(std::string_view path, std::uint32_t attributes) const {
+    EnterApartment();
     SHFILEINFOW info = {};
     const std::wstring wide = ToWide(path);
     // A folder may have a type of its own, which only the folder itself tells.
@@ -69,6 +71,7 @@ std::string Shell::TypeName(std::string_view path, std::uint32_t attributes) con
 }
 
 std::string Shell::SpecialFolder(std::int32_t csidl) const {
+    EnterApartment();
     IdList folder;
     if (SHGetSpecialFolderLocation(forms_.MainWindow(), csidl, folder.Out()) != S_OK) return "";
     return PathOf(folder.Get()).value_or("");

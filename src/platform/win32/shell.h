@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/shell.h"
+#include "platform/win32/com.h"
 
 namespace platform {
 class Messages;
@@ -9,18 +12,6 @@ class Messages;
 namespace platform::win32 {
 
 class FormHandles;
-
-// COM for the thread: what the shell starts may be an extension that needs it.
-class ComApartment {
-  public:
-    ComApartment();
-    ~ComApartment();
-    ComApartment(const ComApartment&) = delete;
-    ComApartment& operator=(const ComApartment&) = delete;
-
-  private:
-    bool entered_;
-};
 
 // Failures in a folder dialog's callback are shown by `messages`.
 class Shell final : public platform::Shell {
@@ -40,7 +31,10 @@ class Shell final : public platform::Shell {
     std::string SpecialFolder(std::int32_t csidl) const override;
 
   private:
-    const ComApartment apartment_;
+    // What the shell starts may be an extension that needs COM. Nothing before the first call does.
+    void EnterApartment() const;
+
+    mutable std::optional<ComApartment> apartment_;
     const FormHandles& forms_;
     platform::Messages& messages_;
 };
