@@ -1,6 +1,7 @@
-// Decides by name and attributes about many files; cleanuprules.sh counts the instructions.
-// Call: cleanuprules
+// Decides by name and attributes about many files; bench/run counts the instructions.
+// Call: cleanuprules FILES
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -9,15 +10,13 @@
 
 namespace {
 
-constexpr int Files = 10000;
-
 // Names as a disk has them: most are no temporary files and so meet all rules.
-std::vector<std::string> Paths() {
+std::vector<std::string> Paths(int files) {
     const char* const names[] = {"explorer.exe", "Größe der Bilder.jpg", "setup.log", "index.htm",
                                  "Thumbs.db",    "~WRL0001.tmp",         "README",    "shell32.dll",
                                  "desktop.ini",  "Rechnung 2004.doc"};
     std::vector<std::string> paths;
-    for (int file = 0; file < Files; ++file) {
+    for (int file = 0; file < files; ++file) {
         paths.push_back("C:\\Dokumente und Einstellungen\\Besitzer\\Eigene Dateien\\" +
                         std::to_string(file) + "\\" + names[file % 10]);
     }
@@ -35,8 +34,8 @@ extern "C" __attribute__((noinline)) int MeasuredRules(const std::vector<std::st
     return rows;
 }
 
-int main() {
-    const int rows = MeasuredRules(Paths());
-    std::printf("%d files %d rows\n", Files, rows);
-    return rows == Files / 5 ? 0 : 1;
+int main(int count, char** words) {
+    if (count != 2) return 2;
+    const int files = std::atoi(words[1]);
+    return MeasuredRules(Paths(files)) == files / 5 ? 0 : 1;
 }

@@ -1,5 +1,5 @@
 // A list view's rows on the simulated machine: added, sorted, added to a sorted list, removed one
-// by one. Call: listrows ROWS; listrows.sh counts the instructions of each.
+// by one. Call: listrows ROWS; bench/run counts the instructions of each.
 #include <cstdio>
 #include <cstdlib>
 #include <string>

@@ -1,6 +1,6 @@
 // Measures the read pass and the write pass over all options against bare loops that make the same
 // registry calls, on the simulated machine of the baseline: each once, in a function of its own.
-// Instructions are counted from outside, by toggling at these functions (see passes.sh).
+// Instructions are counted from outside, by toggling at these functions (see bench/run).
 // That the calls are the same, in number and order and with the same results, is proved here.
 // Call: passes <xp-baseline.reg>
 #include "tweaks/passes.h"

@@ -1,5 +1,5 @@
 // Measures the read pass and the write pass together on the real registry, against a bare loop that
-// calls advapi32 the same times with the same arguments: interleaved pairs, medians, ratio.
+// calls advapi32 the same times with the same arguments: interleaved pairs, medians.
 // Everything but registry and locale is simulated, so the form has no windows and nothing is
 // started. Call: realpasses <xp-baseline.reg> [pairs]
 //
@@ -19,8 +19,8 @@
 #include "platform/simulated/machine.h"
 #include "platform/win32/locale.h"
 #include "platform/win32/registry.h"
+#include "processortime.h"
 #include "support/optionsform.h"
-#include "timing.h"
 #include "tweaks/passes.h"
 
 namespace {
@@ -28,7 +28,6 @@ namespace {
 using bench::Call;
 using Calls = std::vector<Call>;
 
-constexpr double Limit = LIMIT_REAL_PASSES;
 // The type by which a dump tells a key without values.
 constexpr std::uint32_t NoValues = 0xFFFFFFFF;
 constexpr char ScratchKey[] = "Software\\QuillmorePasses";
@@ -186,23 +185,25 @@ int main(int count, char** arguments) {
     RecordedPasses(real);
     const Calls calls = RecordedPasses(real);
 
-    std::vector<double> ourTimes;
-    std::vector<double> bareTimes;
+    const std::wstring own = bench::ProcessOf("realpasses.exe");
+    bench::Costs ourCosts;
+    bench::Costs bareCosts;
     for (int i = 0; i < pairs; ++i) {
         Options options(real);
-        ourTimes.push_back(bench::Milliseconds([&] { options.passes.Read(); }) +
-                           bench::Milliseconds([&] { options.passes.Write(); }));
-        bareTimes.push_back(bench::Milliseconds([&] { bench::Repeat(calls, bare); }));
+        ourCosts.Add(bench::CostOf(own, [&] {
+            options.passes.Read();
+            options.passes.Write();
+        }));
+        bareCosts.Add(bench::CostOf(own, [&] { bench::Repeat(calls, bare); }));
     }
 
     bench::Recorder watched(bare);
     bench::Repeat(calls, watched);
-    const bool same = watched.Take() == calls && RecordedPasses(real) == calls;
-    const double ratio = bench::Median(ourTimes) / bench::Median(bareTimes);
-    std::printf(
-        "both passes   real registry ours %.1f ms bare %.1f ms (%u calls, %s) ratio %.2f limit "
-        "%.2f %s\n",
-        bench::Median(ourTimes), bench::Median(bareTimes), static_cast<unsigned>(calls.size()),
-        same ? "the same" : "DIFFERENT", ratio, Limit, ratio <= Limit ? "ok" : "TOO SLOW");
-    return same && ratio <= Limit ? 0 : 1;
+    if (watched.Take() != calls || RecordedPasses(real) != calls)
+        Fail("the calls are not the same");
+    bench::Report(
+        "real_passes",
+        ("both passes, real registry, " + std::to_string(calls.size()) + " calls").c_str(),
+        ourCosts, bareCosts);
+    return 0;
 }

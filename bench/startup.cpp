@@ -1,5 +1,5 @@
 // Measures the real program from its start to its first idle moment, against a bare program that
-// makes the same number of windows: interleaved pairs, medians, ratio. Then its private memory.
+// makes the same number of windows: interleaved pairs, medians. Then its private memory.
 // Call: startup <Quillmore.exe> <barewindow.exe> [pairs]
 // Accepts the program's warning for the current user, as nobody is there to do so.
 #include <windows.h>
@@ -11,16 +11,14 @@
 #include <string>
 #include <vector>
 
-#include "timing.h"
+#include "processortime.h"
 
 namespace {
 
-constexpr double StartLimit = LIMIT_STARTUP;
-constexpr double MemoryLimitMegabytes = LIMIT_PRIVATE_MEMORY;
 constexpr DWORD Patience = 20000;
 
 struct Run {
-    double milliseconds = 0;
+    bench::Cost cost;
     SIZE_T privateBytes = 0;
     int windows = 0;
 };
@@ -61,11 +59,13 @@ void AcceptWarning() {
     RegCloseKey(options);
 }
 
-Run Measure(std::string commandLine) {
+Run Measure(const std::string& path, const std::string& argument = "") {
+    std::string commandLine = '"' + path + "\" " + argument;
     LARGE_INTEGER frequency;
     LARGE_INTEGER start;
     LARGE_INTEGER end;
     QueryPerformanceFrequency(&frequency);
+    const double server = bench::ServerMilliseconds();
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
@@ -88,8 +88,11 @@ Run Measure(std::string commandLine) {
     QueryPerformanceCounter(&end);
 
     Run run;
-    run.milliseconds = 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
-                       static_cast<double>(frequency.QuadPart);
+    run.cost.processor = bench::ServerMilliseconds() - server;
+    run.cost.processor +=
+        bench::MillisecondsOf(bench::ProcessOf(path.substr(path.rfind('\\') + 1)));
+    run.cost.clock = 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
+                     static_cast<double>(frequency.QuadPart);
     PROCESS_MEMORY_COUNTERS memory = {};
     memory.cb = sizeof memory;
     if (GetProcessMemoryInfo(process.hProcess, &memory, sizeof memory)) {
@@ -107,27 +110,23 @@ Run Measure(std::string commandLine) {
 
 int main(int count, char** arguments) {
     if (count < 3) Fail("call: startup <Quillmore.exe> <barewindow.exe> [pairs]");
-    const std::string ours = std::string("\"") + arguments[1] + "\"";
+    const std::string ours = arguments[1];
+    const std::string bare = arguments[2];
     const int pairs = count > 3 ? std::atoi(arguments[3]) : 15;
 
     AcceptWarning();
     const Run first = Measure(ours);
-    const std::string bare =
-        std::string("\"") + arguments[2] + "\" " + std::to_string(first.windows);
-    Measure(bare);
-    std::vector<double> ourTimes;
-    std::vector<double> bareTimes;
+    const std::string windows = std::to_string(first.windows);
+    Measure(bare, windows);
+    bench::Costs ourCosts;
+    bench::Costs bareCosts;
     for (int i = 0; i < pairs; ++i) {
-        ourTimes.push_back(Measure(ours).milliseconds);
-        bareTimes.push_back(Measure(bare).milliseconds);
+        ourCosts.Add(Measure(ours).cost);
+        bareCosts.Add(Measure(bare, windows).cost);
     }
-    const double ratio = bench::Median(ourTimes) / bench::Median(bareTimes);
-    std::printf("start to idle ours %.0f ms bare %.0f ms (%d windows) ratio %.2f limit %.2f %s\n",
-                bench::Median(ourTimes), bench::Median(bareTimes), first.windows, ratio, StartLimit,
-                ratio <= StartLimit ? "ok" : "TOO SLOW");
-    const double megabytes = static_cast<double>(first.privateBytes) / (1024 * 1024);
-    std::printf("private memory ours %.2f MB limit %.2f MB ratio %.2f %s\n", megabytes,
-                MemoryLimitMegabytes, megabytes / MemoryLimitMegabytes,
-                megabytes <= MemoryLimitMegabytes ? "ok" : "TOO MUCH");
-    return ratio <= StartLimit && megabytes <= MemoryLimitMegabytes ? 0 : 1;
+    bench::Report("startup", ("start to idle, " + windows + " windows").c_str(), ourCosts,
+                  bareCosts);
+    std::printf("private_memory|private memory when idle|%.2f||MB||\n",
+                static_cast<double>(first.privateBytes) / (1024 * 1024));
+    return 0;
 }

@@ -1,7 +1,7 @@
 // Measures the walk of the clean-up through a tree of its own, against bare loops of FindFirstFileW
-// over the same tree: interleaved pairs, medians, ratio. First without a screen; then with the work
-// that each file brings there, of which the bare loop makes the same calls. Each hit is asked for
-// once more by both. Call: walk [pairs]
+// over the same tree: interleaved pairs, medians. First without a screen, through two sizes of
+// tree; then with the work that each file brings there, of which the bare loop makes the same
+// calls. Each hit is asked for once more by both. Call: walk [pairs]
 #include <windows.h>
 
 #include <shlwapi.h>
@@ -26,15 +26,15 @@
 #include "platform/win32/machine.h"
 #include "platform/win32/text.h"
 #include "platform/win32/windows/windowhost.h"
-#include "timing.h"
+#include "processortime.h"
 #include "toolkit/form.h"
 
 namespace {
 
-constexpr double Limit = LIMIT_WALK;
 constexpr int FilesInFolder = 100;
 constexpr int FilesForAHit = 5;
-constexpr int FoldersWithoutScreen = 100;
+constexpr int FewFolders = 20;
+constexpr int ManyFolders = 100;
 constexpr int FoldersWithScreen = 10;
 
 [[noreturn]] void Fail(const char* what) {
@@ -185,29 +185,30 @@ struct BareScreen {
     int files = 0;
 };
 
-// One line of the report; whether the limit holds. Each of the two is told how many files it saw.
-bool Compare(const char* name, int pairs, int files, const std::function<int()>& ours,
-             const std::function<int()>& bare) {
-    std::vector<double> ourTimes;
-    std::vector<double> bareTimes;
-    const auto measure = [&](std::vector<double>& times, const std::function<int()>& walk) {
+struct Walks {
+    bench::Costs ours;
+    bench::Costs bare;
+};
+
+// Each of the two is told how many files it saw.
+Walks Compare(int pairs, int files, const std::function<int()>& ours,
+              const std::function<int()>& bare) {
+    const std::wstring own = bench::ProcessOf("walk.exe");
+    Walks walks;
+    const auto measure = [&](const std::function<int()>& walk) {
         int seen = 0;
-        times.push_back(bench::Milliseconds([&] { seen = walk(); }));
+        const bench::Cost cost = bench::CostOf(own, [&] { seen = walk(); });
         if (seen != files) Fail("a walk has not seen all files");
+        return cost;
     };
     // The first of each warms up what both need.
-    for (int pair = 0; pair <= pairs; ++pair) {
-        measure(ourTimes, ours);
-        measure(bareTimes, bare);
+    measure(ours);
+    measure(bare);
+    for (int pair = 0; pair < pairs; ++pair) {
+        walks.ours.Add(measure(ours));
+        walks.bare.Add(measure(bare));
     }
-    ourTimes.erase(ourTimes.begin());
-    bareTimes.erase(bareTimes.begin());
-    const double our = bench::Median(ourTimes);
-    const double plain = bench::Median(bareTimes);
-    const double ratio = our / plain;
-    std::printf("%s ours %.1f ms bare %.1f ms ratio %.2f limit %.2f %s\n", name, our, plain, ratio,
-                Limit, ratio <= Limit ? "ok" : "TOO SLOW");
-    return ratio <= Limit;
+    return walks;
 }
 
 // The frame on a form of the given machine, and a walk through a folder with it.
@@ -245,8 +246,8 @@ class NoDisplay final : public platform::Display {
     }
 };
 
-bool WithoutScreen(int pairs) {
-    const Tree tree(FoldersWithoutScreen);
+Walks WithoutScreen(int pairs, int folderCount) {
+    const Tree tree(folderCount);
     platform::simulated::Machine simulated;
     simulated.journal.Record(false);
     platform::win32::Folders folders;
@@ -255,12 +256,11 @@ bool WithoutScreen(int pairs) {
         platform::With(simulated.services, {.folders = &folders, .display = &display});
     Walk walk(machine);
     return Compare(
-        "clean-up walk without screen", pairs, tree.Files(),
-        [&] { return walk.Through(tree.root); },
+        pairs, tree.Files(), [&] { return walk.Through(tree.root); },
         [&] { return BareLoop(tree.root, nullptr, nullptr); });
 }
 
-bool WithScreen(int pairs) {
+Walks WithScreen(int pairs) {
     const Tree tree(FoldersWithScreen);
     platform::win32::Messages messages;
     platform::win32::WindowHost host(messages);
@@ -278,8 +278,7 @@ bool WithScreen(int pairs) {
     BareScreen screen;
     host.DoEvents();
     return Compare(
-        "clean-up walk with its screen", pairs, tree.Files(),
-        [&] { return walk.Through(tree.root); },
+        pairs, tree.Files(), [&] { return walk.Through(tree.root); },
         [&] {
             return BareLoop(
                 tree.root, [&](const std::wstring&) { screen.Enter(); },
@@ -290,7 +289,18 @@ bool WithScreen(int pairs) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    const int pairs = count > 1 ? std::atoi(arguments[1]) : 11;
-    const bool fast = WithoutScreen(pairs);
-    return WithScreen(pairs) && fast ? 0 : 1;
+    const int pairs = count > 1 ? std::atoi(arguments[1]) : 21;
+    const auto eachFile = [](const Walks& walks, int folders) {
+        return 1000 * bench::Median(walks.ours.processor) / (folders * FilesInFolder);
+    };
+    const Walks few = WithoutScreen(pairs, FewFolders);
+    const Walks many = WithoutScreen(pairs, ManyFolders);
+    char sizes[100];
+    std::snprintf(sizes, sizeof sizes, "%.1f and %.1f µs a file of %d and %d",
+                  eachFile(few, FewFolders), eachFile(many, ManyFolders),
+                  FewFolders * FilesInFolder, ManyFolders * FilesInFolder);
+    bench::Report("walk", "clean-up walk without screen", many.ours, many.bare, sizes);
+    const Walks shown = WithScreen(pairs);
+    bench::Report("walk_with_screen", "clean-up walk with its screen", shown.ours, shown.bare);
+    return 0;
 }
