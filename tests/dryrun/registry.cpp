@@ -160,6 +160,29 @@ TEST_CASE_FIXTURE(OverKeys, "names are listed through what is pending") {
     CHECK(registry.EnumerateKey(key, 2, name) == Registry::NoMoreItems);
 }
 
+TEST_CASE_FIXTURE(OverKeys, "a key below whose name is too long to be told keeps its place") {
+    inner.registry.MakeKey(HKLM, "A\\" + std::string(255, 'l'));
+    inner.registry.MakeKey(HKLM, "A\\Z");
+    before = inner.registry.Dump();
+    // What is pending beside it must be listed along.
+    CHECK(Create("A\\Zz") == Registry::Success);
+    const auto key = Opened("A");
+    std::string name;
+    int tooLong = 0;
+    std::vector<std::string> told;
+    for (std::uint32_t index = 0;; ++index) {
+        const auto result = registry.EnumerateKey(key, index, name);
+        if (result == Registry::NoMoreItems) break;
+        if (result == Registry::MoreData) {
+            ++tooLong;
+        } else {
+            told.push_back(name);
+        }
+    }
+    CHECK(tooLong == 1);
+    CHECK(told == std::vector<std::string>{"B", "Z", "Zz"});
+}
+
 TEST_CASE_FIXTURE(OverKeys, "no handle is left open below, whatever the program leaves open") {
     {
         platform::dryrun::Registry other(inner.registry, inner.locale);
