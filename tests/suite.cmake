@@ -13,7 +13,7 @@ function(add_suite name)
   cmake_parse_arguments(SUITE "" "" "SOURCES;USES;LONG;PARTS" ${ARGN})
   add_executable(test_${name} ${SUITE_SOURCES})
   target_link_libraries(test_${name} PRIVATE test_support ${SUITE_USES})
-  set_target_properties(test_${name} PROPERTIES UNITY_BUILD ${QUILLMORE_UNITY})
+  set_target_properties(test_${name} PROPERTIES UNITY_BUILD ${UNITY_SUITES})
   # doctest's macros shadow and convert in ways that the program's own code may not.
   target_compile_options(test_${name} PRIVATE -Wno-shadow -Wno-conversion)
   target_compile_options(test_${name} PRIVATE ${CHEAP})
