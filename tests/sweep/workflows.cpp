@@ -119,10 +119,6 @@ void ShowDialog(Program& program, const char* button, const char* dialog,
     program.Press(button);
 }
 
-void Serve(Program& program) {
-    program.machine.socket.Serve(37, {{TimeAnswer}});
-}
-
 void PrepareSearch(Program& program) {
     for (const char* box :
          {"chkRecentDocFolder", "chkCleanUserTempFolder", "chkDeleteThumbs", "chkScanAll"}) {
@@ -138,8 +134,76 @@ void PrepareRemoval(Program& program) {
     SayYes(program, {"Tempdateien löschen"});
 }
 
+void PrepareApply(Program& program) {
+    FillIn(program);
+    SayYes(program, {"Einstellungen speichern", "Systemwiederherstellungspunkt"});
+    program.machine.messages.AnswerAll("Einstellungen gespeichert", message::No);
+}
+
+void PrepareApplyWithPassword(Program& program) {
+    FillIn(program);
+    program.Check("chkAutoLogin").SetValue(1);
+    program.Text("txtALPassword").SetText("geheim");
+    SayYes(program, {"Einstellungen speichern", "Einstellungen gespeichert"});
+    program.machine.messages.AnswerAll("Systemwiederherstellungspunkt", message::No);
+}
+
+void ApplyWithPassword(Program& program) {
+    program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
+        form.Find<toolkit::TextBox>("txtPasswort").SetText("geheim");
+        PressIn(form, "cmdOK");
+    });
+    program.Ends([&] { program.Press("cmdApply"); });
+}
+
+void PrepareAutoTuning(Program& program) {
+    SayYes(program, {"AutoTuning"});
+}
+
+void PrepareRemovalIntoBin(Program& program) {
+    program.Check("chkMoveToRecycleBin").SetValue(1);
+    program.Check("chkCleanRecycleBin").SetValue(1);
+    program.machine.shell.recycleBin = {"C:\\alt"};
+    PrepareRemoval(program);
+}
+
+void PrepareBin(Program& program) {
+    program.machine.shell.recycleBin = {"C:\\alt"};
+    SayYes(program, {"Papierkorb von Laufwerk 'c: [SYSTEM]' löschen"});
+}
+
+void GrowCache(Program& program) {
+    program.machine.internetCache.Add({.url = "http://d/"});
+}
+
+void SynchronizeOverInternet(Program& program) {
+    program.form->Find<toolkit::OptionButton>("optAtomUhr").SetValue(true);
+    program.machine.socket.Serve(37, {{TimeAnswer}});
+    program.Press("cmdSynchronizeDateTime");
+    program.machine.socket.RaiseAll();
+}
+
+void SynchronizeWithComputer(Program& program) {
+    program.form->Find<toolkit::OptionButton>("optSynServer").SetValue(true);
+    program.Press("cmdSynchronizeDateTime");
+}
+
+void PrepareLauncher(Program& program) {
+    SayYes(program, {"Überprüfung der Windows XP Systemdateien"});
+}
+
+void PrepareFirstStart(Program& program) {
+    Furnish(program);
+    program.machine.settingsStore.Put("Options", "Accepted", "No");
+}
+
 void Add(std::vector<Workflow>& all, std::string name, Step prepare, Step act) {
     all.push_back({std::move(name), Furnish, std::move(prepare), std::move(act)});
+}
+
+void Add(std::vector<Workflow>& all, std::string name, Step act) {
+    const Step nothing = [](Program&) {};
+    Add(all, std::move(name), nothing, std::move(act));
 }
 
 // False when it is not listed.
@@ -157,11 +221,9 @@ void AddDialogs(std::vector<Workflow>& all) {
     using toolkit::Form;
     const auto dialog = [&](std::string name, const char* button, const char* form,
                             std::function<void(Form&, Program&)> user) {
-        Add(
-            all, std::move(name), [](Program&) {},
-            [=](Program& program) {
-                ShowDialog(program, button, form, [&](Form& shown) { user(shown, program); });
-            });
+        Add(all, std::move(name), [=](Program& program) {
+            ShowDialog(program, button, form, [&](Form& shown) { user(shown, program); });
+        });
     };
     dialog("about: fade, link, OK", "cmdAbout", "frmAbout", [](Form& form, Program& program) {
         program.machine.clock.Advance(300);
@@ -262,41 +324,35 @@ void AddSessions(std::vector<Workflow>& all) {
         Add(all, std::string("session: ") + button, sayYes, Press(button));
     }
     for (const char* item : TrayItems) {
-        Add(
-            all, std::string("tray: ") + item,
-            [=](Program& program) {
-                sayYes(program);
-                program.form->SetState(toolkit::WindowState::Minimised);
-            },
-            [item](Program& program) {
-                program.Ends([&] {
-                    program.machine.menus.Pick(item);
-                    program.machine.tray.onMouseUp(platform::Tray::RightButton);
-                });
-            });
-    }
-    Add(
-        all, "tray: minimise and restore", [](Program&) {},
-        [](Program& program) {
+        const Step hide = [=](Program& program) {
+            sayYes(program);
             program.form->SetState(toolkit::WindowState::Minimised);
-            program.machine.tray.onRestore();
-        });
+        };
+        const Step pick = [item](Program& program) {
+            program.Ends([&] {
+                program.machine.menus.Pick(item);
+                program.machine.tray.onMouseUp(platform::Tray::RightButton);
+            });
+        };
+        Add(all, std::string("tray: ") + item, hide, pick);
+    }
+    Add(all, "tray: minimise and restore", [](Program& program) {
+        program.form->SetState(toolkit::WindowState::Minimised);
+        program.machine.tray.onRestore();
+    });
 }
 
 void AddBoxes(std::vector<Workflow>& all) {
     for (const char* box :
          {"chkHideWinComponents", "chkSecureWindows", "chk1RecycleBinDelete", "chkSHMediaDLL",
           "chkIcons", "chkCreateAutoStart", "chkScanAll", "chkCleanUserTempFolder"}) {
-        Add(
-            all, std::string("box: ") + box, [](Program&) {},
+        Add(all, std::string("box: ") + box,
             [box](Program& program) { program.Check(box).Toggle(); });
     }
-    Add(
-        all, "slider: taskbar", [](Program&) {},
-        [](Program& program) {
-            program.form->Find<toolkit::Slider>("Level").SetValue(80);
-            program.Text("txtLevelValue").SetText("90");
-        });
+    Add(all, "slider: taskbar", [](Program& program) {
+        program.form->Find<toolkit::Slider>("Level").SetValue(80);
+        program.Text("txtLevelValue").SetText("90");
+    });
 }
 
 void AddLaunchers(std::vector<Workflow>& all) {
@@ -306,13 +362,12 @@ void AddLaunchers(std::vector<Workflow>& all) {
         const auto* label = dynamic_cast<const toolkit::Label*>(control.get());
         if (!label || !label->onClick) continue;
         const std::string name = label->Name();
-        Add(
-            all, "launcher: " + name,
-            [](Program& started) { SayYes(started, {"Überprüfung der Windows XP Systemdateien"}); },
-            [name](Program& started) { started.form->Find<toolkit::Label>(name).Click(); });
+        const Step click = [name](Program& started) {
+            started.form->Find<toolkit::Label>(name).Click();
+        };
+        Add(all, "launcher: " + name, PrepareLauncher, click);
     }
-    Add(
-        all, "launcher: cmdHilfe", [](Program&) {}, Press("cmdHilfe"));
+    Add(all, "launcher: cmdHilfe", Press("cmdHilfe"));
 }
 
 }  // namespace
@@ -320,95 +375,31 @@ void AddLaunchers(std::vector<Workflow>& all) {
 std::vector<Workflow> Workflows() {
     std::vector<Workflow> all;
     all.push_back({"start", Furnish, nullptr, Start});
-    all.push_back({"first start",
-                   [](Program& program) {
-                       Furnish(program);
-                       program.machine.settingsStore.Put("Options", "Accepted", "No");
-                   },
-                   nullptr, Start});
-    Add(
-        all, "close", [](Program&) {}, [](Program& program) { program.Close(); });
-    Add(
-        all, "Apply",
-        [](Program& program) {
-            FillIn(program);
-            SayYes(program, {"Einstellungen speichern", "Systemwiederherstellungspunkt"});
-            program.machine.messages.AnswerAll("Einstellungen gespeichert", message::No);
-        },
-        Press("cmdApply"));
-    Add(
-        all, "Apply with password and restart",
-        [](Program& program) {
-            FillIn(program);
-            program.Check("chkAutoLogin").SetValue(1);
-            program.Text("txtALPassword").SetText("geheim");
-            SayYes(program, {"Einstellungen speichern", "Einstellungen gespeichert"});
-            program.machine.messages.AnswerAll("Systemwiederherstellungspunkt", message::No);
-        },
-        [](Program& program) {
-            program.machine.forms.WhenModal("frmPassword", [](toolkit::Form& form) {
-                form.Find<toolkit::TextBox>("txtPasswort").SetText("geheim");
-                PressIn(form, "cmdOK");
-            });
-            program.Ends([&] { program.Press("cmdApply"); });
-        });
+    all.push_back({"first start", PrepareFirstStart, nullptr, Start});
+    Add(all, "close", [](Program& program) { program.Close(); });
+    Add(all, "Apply", PrepareApply, Press("cmdApply"));
+    Add(all, "Apply with password and restart", PrepareApplyWithPassword, ApplyWithPassword);
     for (const tweaks::PresetButton& button : tweaks::PresetButtons()) {
-        Add(
-            all, std::string("preset: ") + button.name, [](Program&) {}, Press(button.name));
+        Add(all, std::string("preset: ") + button.name, Press(button.name));
     }
-    Add(
-        all, "preset: cmdPathDefault", [](Program&) {}, Press("cmdPathDefault"));
+    Add(all, "preset: cmdPathDefault", Press("cmdPathDefault"));
     for (const char* type : {"1", "2", "3", "4"}) {
         const std::string name = std::string("optOptimalDFUESets(") + type + ')';
-        Add(
-            all, "preset: " + name, [](Program&) {},
-            [name](Program& program) {
-                program.form->Find<toolkit::OptionButton>(name).SetValue(true);
-            });
+        Add(all, "preset: " + name, [name](Program& program) {
+            program.form->Find<toolkit::OptionButton>(name).SetValue(true);
+        });
     }
-    Add(
-        all, "AutoTuning", [](Program& program) { SayYes(program, {"AutoTuning"}); },
-        Press("cmdSetAllOptimal"));
+    Add(all, "AutoTuning", PrepareAutoTuning, Press("cmdSetAllOptimal"));
     Add(all, "search", PrepareSearch, Press("cmdSearchTempFiles"));
     Add(all, "removal", PrepareRemoval, Press("cmdCleanTempFiles"));
-    Add(
-        all, "removal into the bin, with the bin emptied",
-        [](Program& program) {
-            program.Check("chkMoveToRecycleBin").SetValue(1);
-            program.Check("chkCleanRecycleBin").SetValue(1);
-            program.machine.shell.recycleBin = {"C:\\alt"};
-            PrepareRemoval(program);
-        },
+    Add(all, "removal into the bin, with the bin emptied", PrepareRemovalIntoBin,
         Press("cmdCleanTempFiles"));
-    Add(
-        all, "bin",
-        [](Program& program) {
-            program.machine.shell.recycleBin = {"C:\\alt"};
-            SayYes(program, {"Papierkorb von Laufwerk 'c: [SYSTEM]' löschen"});
-        },
-        Press("cmdCleanBinDirect"));
-    Add(
-        all, "cache: Aktualisieren",
-        [](Program& program) { program.machine.internetCache.Add({.url = "http://d/"}); },
-        Press("cmdUpdateIECache"));
-    Add(
-        all, "cache: löschen", [](Program&) {}, Press("cmdClearIECache"));
-    Add(
-        all, "time: server of the Internet", [](Program&) {},
-        [](Program& program) {
-            program.form->Find<toolkit::OptionButton>("optAtomUhr").SetValue(true);
-            Serve(program);
-            program.Press("cmdSynchronizeDateTime");
-            program.machine.socket.RaiseAll();
-        });
-    Add(
-        all, "time: computer of the network", [](Program&) {},
-        [](Program& program) {
-            program.form->Find<toolkit::OptionButton>("optSynServer").SetValue(true);
-            program.Press("cmdSynchronizeDateTime");
-        });
-    Add(
-        all, "memory", [](Program&) {}, Press("cmdFreeMemory"));
+    Add(all, "bin", PrepareBin, Press("cmdCleanBinDirect"));
+    Add(all, "cache: Aktualisieren", GrowCache, Press("cmdUpdateIECache"));
+    Add(all, "cache: löschen", Press("cmdClearIECache"));
+    Add(all, "time: server of the Internet", SynchronizeOverInternet);
+    Add(all, "time: computer of the network", SynchronizeWithComputer);
+    Add(all, "memory", Press("cmdFreeMemory"));
     AddDialogs(all);
     AddSessions(all);
     AddBoxes(all);
