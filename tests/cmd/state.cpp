@@ -57,6 +57,15 @@ TEST_CASE("every option has a caption in words") {
     CHECK(captions.size() >= program.OutLines().size() - 3);
 }
 
+TEST_CASE("a text of several lines stands on the option's one line") {
+    Program program;
+    program.machine.registry.Put(HKLM, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon",
+                                 "LegalNoticeText", BareTextValue("a\r\nb\tc"));
+    CHECK(program.Run({"state"}) == cmd::Fine);
+    CHECK(program.OutLines().size() == cmd::Settings().size());
+    CHECK(LineOf(program, "txtWinLogOnT").find("| \"a  b c\" |") != std::string::npos);
+}
+
 TEST_CASE("the list of fields is one that a German spreadsheet takes") {
     Program program;
     program.machine.registry.Put(HKCU, DesktopKey, "HungAppTimeout", BareTextValue("a\";b"));

@@ -1,5 +1,7 @@
 #include <doctest/doctest.h>
 
+#include <algorithm>
+
 #include "dryrun/overmachine.h"
 
 using namespace dryrun_test;
@@ -205,4 +207,27 @@ TEST_CASE_FIXTURE(OverKeys, "paths longer than the system takes at once lead to 
     CHECK(registry.Changes().size() == 1);
     for (const std::string& line : inner.journal.Calls("RegOpenKeyExA")) CHECK(line.size() < 300);
     CHECK(inner.registry.OpenHandles() == 1);
+}
+
+TEST_CASE_FIXTURE(OverKeys, "512 levels are the deepest that can be made, as on the system") {
+    std::string path = "N";
+    while (Create(path) == Registry::Success) path += "\\N";
+    CHECK(path.size() == 2 * Registry::DeepestKey + 1);
+    CHECK(Create(path) == Registry::InvalidParameter);
+}
+
+TEST_CASE_FIXTURE(OverKeys, "of a value that tells its size and no more nothing is known") {
+    REQUIRE(Set(Opened("A\\B"), "v", DwordValue(2)) == Registry::Success);
+    inner.faults.Watch();
+    static_cast<void>(registry.Changes());
+    const auto& asked = inner.faults.Asked();
+    const auto size = std::find(asked.begin(), asked.end(), "RegQueryValueExA");
+    REQUIRE(size < asked.end());
+    const auto data = std::find(size + 1, asked.end(), "RegQueryValueExA");
+    REQUIRE(data < asked.end());
+    inner.faults.FailNth(static_cast<int>(data - asked.begin()) + 1, 5);
+    const auto changes = registry.Changes();
+    inner.faults.Clear();
+    REQUIRE(changes.size() == 1);
+    CHECK(changes[0].before == std::nullopt);
 }
