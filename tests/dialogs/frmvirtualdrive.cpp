@@ -39,6 +39,10 @@ TEST_CASE_FIXTURE(Drives, "buttons and box say what they do") {
     CHECK(restore.Caption() == "Laufwerke beim Windows Neustart wieder herstellen");
 }
 
+TEST_CASE_FIXTURE(Drives, "the folder can be chosen only, and not typed") {
+    CHECK(form.Find<toolkit::TextBox>("txtPathName").Style().readOnly);
+}
+
 TEST_CASE_FIXTURE(Drives, "no drives are an empty list whose columns are not fitted") {
     form.Show();
     CHECK(list.Count() == 0);

@@ -349,10 +349,10 @@ void AddBoxes(std::vector<Workflow>& all) {
         Add(all, std::string("box: ") + box,
             [box](Program& program) { program.Check(box).Toggle(); });
     }
-    Add(all, "slider: taskbar", [](Program& program) {
-        program.form->Find<toolkit::Slider>("Level").SetValue(80);
-        program.Text("txtLevelValue").SetText("90");
-    });
+    Add(all, "slider: taskbar",
+        [](Program& program) { program.form->Find<toolkit::Slider>("Level").SetValue(80); });
+    Add(all, "slider: by its box",
+        [](Program& program) { program.Text("txtLevelValue").SetText("90"); });
 }
 
 void AddLaunchers(std::vector<Workflow>& all) {
