@@ -6,6 +6,11 @@ namespace {
 // The page of the vendor that Windows XP itself searches with.
 constexpr char DefaultSearchPage[] = "http://www.microsoft.com/isapi/redir.dll?prd=ie&ar=iesearch";
 
+// What only the button "Empfohlen" sets, where another list has what "Standard" does.
+constexpr PresetRow Recommend(const char* control, const char* value) {
+    return {control, Leave, value};
+}
+
 // The two buttons of this page run in orders of their own. One sets the slider of the opacity and
 // the other its box; each takes the other along, so both end opaque.
 constexpr PresetRow SystemStandard[] = {
@@ -30,24 +35,24 @@ constexpr PresetRow SystemStandard[] = {
 };
 
 constexpr PresetRow SystemRecommended[] = {
-    {"txtOSVersion", Leave, "Microsoft Windows XP"},
-    {"txtWindowsVersion", Leave, "5.1"},
-    {"txtLevelValue", Leave, "255"},
-    {"chkAutoLogin", Leave, "0"},
-    {"txtALUserName", Leave, ""},
-    {"txtALPassword", Leave, ""},
-    {"txtALDomain", Leave, ""},
-    {"chkUltraDMA66", Leave, "1"},
-    {"chkmemorymanagement", Leave, "0"},
-    {"chkLargeSystemCache", Leave, "1"},
-    {"chkBootOptimizeFunction", Leave, "1"},
-    {"chkSecondLevelDataCache", Leave, ByMemory},
-    {"chkBoostLoading", Leave, "1"},
-    {"chkCDFSTune", Leave, "1"},
-    {"chkFastServices", Leave, "1"},
-    {"chkIcons", Leave, "1"},
-    {"chkLastAccessTimestamp", Leave, "0"},
-    {"chkMFTTuning", Leave, "1"},
+    Recommend("txtOSVersion", "Microsoft Windows XP"),
+    Recommend("txtWindowsVersion", "5.1"),
+    Recommend("txtLevelValue", "255"),
+    Recommend("chkAutoLogin", "0"),
+    Recommend("txtALUserName", ""),
+    Recommend("txtALPassword", ""),
+    Recommend("txtALDomain", ""),
+    Recommend("chkUltraDMA66", "1"),
+    Recommend("chkmemorymanagement", "0"),
+    Recommend("chkLargeSystemCache", "1"),
+    Recommend("chkBootOptimizeFunction", "1"),
+    Recommend("chkSecondLevelDataCache", ByMemory),
+    Recommend("chkBoostLoading", "1"),
+    Recommend("chkCDFSTune", "1"),
+    Recommend("chkFastServices", "1"),
+    Recommend("chkIcons", "1"),
+    Recommend("chkLastAccessTimestamp", "0"),
+    Recommend("chkMFTTuning", "1"),
 };
 
 constexpr PresetRow Tweaks[] = {

@@ -50,7 +50,7 @@ class Console final : public cmd::Surroundings {
     void WriteNewFile(std::string_view path, std::string_view bytes) override {
         if (files.contains(path)) throw cmd::FileFailure("Datei ist schon vorhanden");
         if (diskIsFull) throw cmd::FileFailure("Datenträger voll");
-        files[std::string(path)] = bytes;
+        files.emplace(path, bytes);
     }
     std::string SystemText(int error) const override { return "Grund " + std::to_string(error); }
 

@@ -93,7 +93,11 @@ const std::vector<Rule>& Rules() {
          {"FindFirstFileW"},
          {"row lvwFiles ", "!control lblHinweisTemp", "control cmdCleanTempFiles"},
          Told},
-        {{"removal"}, {"*"}, {"disk ", "bin ", "!control lblHinweisTemp"}},
+        {{"removal"}, {"*"}, {"disk ", "bin "}},
+        // What cannot be opened counts as in use when that is the reason, and stays.
+        {{"removal"},
+         {"OpenForReading", "CloseFile"},
+         {"disk ", "bin ", "!control lblHinweisTemp"}},
         {{"removal"},
          {"GetDiskFreeSpaceExA"},
          {"!control lblGesamt", "!control lblFreeDriveSpace"}},
