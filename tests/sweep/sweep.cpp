@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <optional>
 
+#include "runtime/text.h"
 #include "sweep/allocations.h"
 #include "sweep/policy.h"
 #include "sweep/snapshot.h"
@@ -19,6 +20,9 @@ namespace {
 // Not found, access denied, out of memory, a device that does not work: for the registry, and for
 // all other services.
 const std::array<FaultCode, 4> Codes = {{{2, 53}, {5, 70}, {8, 7}, {1117, 68}}};
+
+// As a dump has a key without values.
+constexpr std::string_view BareKey = "4294967295:";
 
 enum class How { Once, FromThenOn, Memory };
 
@@ -122,9 +126,23 @@ bool IsCostOfSome(const std::vector<const Rule*>& rules, const std::string& name
                        [&](const Rule* rule) { return CostOf(*rule, name, false).has_value(); });
 }
 
-// A key without values, as a dump has it.
-bool IsBareKey(const std::string& name) {
-    return name.starts_with("registry ") && name.ends_with('|');
+bool HasBelow(const Snapshot& snapshot, const std::string& start) {
+    const auto next = snapshot.lower_bound(start);
+    return next != snapshot.end() && next->first.starts_with(start);
+}
+
+// A key without values of which the run without failure has values or keys below: half a write.
+bool IsHalfMade(const Outcome& whole, const Outcome& failed, const std::string& name) {
+    if (!name.starts_with("registry ") || !name.ends_with('|')) return false;
+    const std::string& found = At(failed.after, name);
+    if (!found.empty() && found != BareKey) return false;
+    const std::string path = name.substr(0, name.size() - 1);
+    return HasBelow(whole.after, path + '|') || HasBelow(whole.after, path + '\\');
+}
+
+// Whether the difference is only that something was not done, or not to its end.
+bool IsLost(const Outcome& whole, const Outcome& failed, const std::string& name) {
+    return At(failed.after, name) == At(failed.before, name) || IsHalfMade(whole, failed, name);
 }
 
 // What the rule does not allow; "" when it allows all.
@@ -132,9 +150,8 @@ std::string Against(const Rule& rule, const Outcome& whole, const Outcome& faile
     std::map<std::string_view, int> counts;
     for (const std::string& name : Differing(whole.after, failed.after)) {
         if (name.starts_with("message ")) continue;
-        const bool isLost = At(failed.after, name) == At(failed.before, name);
-        const bool isKey = IsBareKey(name);
-        const auto cost = CostOf(rule, name, isLost || isKey);
+        const bool isKey = IsHalfMade(whole, failed, name);
+        const auto cost = CostOf(rule, name, IsLost(whole, failed, name));
         if (!cost) return name + " = " + At(failed.after, name);
         if (cost->starts_with('1') && !isKey && ++counts[*cost] > 1) return "one more: " + name;
     }
@@ -151,6 +168,23 @@ std::string Against(const Rule& rule, const Outcome& whole, const Outcome& faile
     return told.front().starts_with(rule.tells) ? "" : "tells " + told.front();
 }
 
+// What is neither where it was nor in the bin; "" when all is in one of them.
+std::string RemovedForGood(const Outcome& failed) {
+    std::vector<std::string> binned;
+    for (const auto& [name, count] : failed.after) {
+        if (name.starts_with("bin ")) binned.push_back(runtime::ToLower(name.substr(4)));
+    }
+    for (const auto& [name, content] : failed.before) {
+        if (!name.starts_with("disk ") || failed.after.contains(name)) continue;
+        const std::string path = runtime::ToLower(name.substr(5));
+        const bool isKept = std::any_of(binned.begin(), binned.end(), [&](const std::string& top) {
+            return path == top || path.starts_with(top + '\\');
+        });
+        if (!isKept) return path;
+    }
+    return "";
+}
+
 // What is as promised wherever something fails.
 void CheckPromises(const Workflow& workflow, const Outcome& failed) {
     // An event that ends for lack of memory may leave the window for another try.
@@ -159,6 +193,7 @@ void CheckPromises(const Workflow& workflow, const Outcome& failed) {
     }
     CHECK(At(failed.after, "list lock") == "");
     if (At(failed.after, "ended") == "no") CHECK(At(failed.after, "screen pointer") == "0");
+    if (workflow.name.starts_with("removal into the bin")) CHECK(RemovedForGood(failed) == "");
 }
 
 // Doing it once more repairs what the failure cost; what only counts how often is left out.
@@ -196,8 +231,8 @@ std::string JudgeAll(const Workflow& workflow, const Outcome& whole, const Outco
     const auto rules = RulesFor(workflow.name);
     for (const std::string& name : Differing(whole.after, failed.after)) {
         if (name.starts_with("message ") || name.starts_with("open ")) continue;
-        const bool isLost = At(failed.after, name) == At(failed.before, name) || IsBareKey(name);
-        if (!isLost && !IsCostOfSome(rules, name)) return name + " = " + At(failed.after, name);
+        if (!IsLost(whole, failed, name) && !IsCostOfSome(rules, name))
+            return name + " = " + At(failed.after, name);
     }
     const bool mayEscape =
         std::any_of(rules.begin(), rules.end(), [](const Rule* rule) { return rule->escapes; });
@@ -215,8 +250,7 @@ std::string JudgeMemory(const Workflow& workflow, const Outcome& whole, const Ou
         for (const char* kind : {"registry ", "setting ", "disk ", "autostart "}) {
             isLasting |= name.starts_with(kind);
         }
-        const bool isLost = At(failed.after, name) == At(failed.before, name) || IsBareKey(name);
-        if (isLasting && !isLost && !IsCostOfSome(rules, name))
+        if (isLasting && !IsLost(whole, failed, name) && !IsCostOfSome(rules, name))
             return name + " = " + At(failed.after, name);
     }
     return "";
