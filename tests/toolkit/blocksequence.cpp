@@ -25,6 +25,20 @@ void CheckSame(const Sequence& sequence, const std::vector<int>& expected) {
     }
 }
 
+// Counts how often one is put to another place.
+struct Moved {
+    Moved(int number = 0) : number(number) {}
+    Moved(const Moved& other) : number(other.number) { ++times; }
+    Moved& operator=(const Moved& other) {
+        number = other.number;
+        ++times;
+        return *this;
+    }
+
+    int number;
+    static inline long times = 0;
+};
+
 }  // namespace
 
 TEST_CASE("a fresh sequence is empty") {
@@ -114,4 +128,15 @@ TEST_CASE("a visit that answers false is the last one") {
         return element < 1000;
     });
     CHECK(visits == 1001);
+}
+
+TEST_CASE("an element that is put in front moves those of one block, however many there are") {
+    constexpr int Count = 20000;
+    constexpr long InOneBlock = 600;
+    toolkit::BlockSequence<Moved> sequence;
+    Moved::times = 0;
+    for (int i = 0; i < Count; ++i) sequence.Insert(0, Moved(i));
+    CHECK(Moved::times < Count * InOneBlock);
+    CHECK(sequence[0].number == Count - 1);
+    CHECK(sequence[Count - 1].number == 0);
 }
