@@ -71,6 +71,19 @@ TEST_CASE_FIXTURE(Fields, "digits pass in every filtered field") {
     CHECK(beeper.beeps == 0);
 }
 
+// The window's keys come to a field only where its list is open.
+TEST_CASE_FIXTURE(Fields, "Return and Escape close the open list of a filtered field") {
+    const HWND window = Find(form, "cboMTU");
+    for (const WPARAM key : {VK_RETURN, VK_ESCAPE}) {
+        CAPTURE(key);
+        Press("cboMTU", {VK_F4});
+        REQUIRE(SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0));
+        SendMessageW(GetFocus(), WM_CHAR, key, 0);
+        CHECK_FALSE(SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0));
+    }
+    CHECK(beeper.beeps == 0);
+}
+
 TEST_CASE_FIXTURE(Fields, "a letter is swallowed with one beep") {
     Press("cboMTU", {'1', 'A', '5'});
     CHECK(mtu.Text() == "15");

@@ -36,6 +36,12 @@ void ComboBoxWindow::Prepare() {
     ShowItems();
 }
 
+// To the open list, which they close.
+bool ComboBoxWindow::IsCommand(WPARAM character) const {
+    const bool closes = character == VK_RETURN || character == VK_ESCAPE;
+    return (closes && Send(CB_GETDROPPEDSTATE)) || TypingWindow::IsCommand(character);
+}
+
 // The system does not tell of a text that a script has set.
 void ComboBoxWindow::WatchText() {
     text_.Watch(Window(), [this](HookedMessage& hooked) {

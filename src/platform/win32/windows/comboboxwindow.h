@@ -18,6 +18,7 @@ class ComboBoxWindow : public TypingWindow {
 
   protected:
     Recipe Describe() const override;
+    bool IsCommand(WPARAM character) const override;
     void Prepare() override;
     void ShowItems() override;
     void ShowValue() override;

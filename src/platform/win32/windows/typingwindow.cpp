@@ -1,11 +1,9 @@
 #include "platform/win32/windows/typingwindow.h"
 
 namespace platform::win32 {
-namespace {
 
-// An edit field is told its clipboard commands as the control characters of A, C, V, X and Z. They
-// are no text that somebody types.
-bool IsCommand(WPARAM character) {
+// An edit field is told its clipboard commands as the control characters of A, C, V, X and Z.
+bool TypingWindow::IsCommand(WPARAM character) const {
     constexpr WPARAM offset = 'A' - 1;
     switch (character + offset) {
         case 'A':
@@ -18,8 +16,6 @@ bool IsCommand(WPARAM character) {
             return false;
     }
 }
-
-}  // namespace
 
 void TypingWindow::WatchTyping(HWND field, const toolkit::KeyHandler& onKeyPress) {
     field_.Watch(field, [this, &onKeyPress](HookedMessage& hooked) {

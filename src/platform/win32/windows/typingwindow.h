@@ -17,6 +17,9 @@ class TypingWindow : public ControlWindow {
     // `field` is where the characters arrive, in this window or inside it.
     void WatchTyping(HWND field, const toolkit::KeyHandler& onKeyPress);
 
+    // Whether the character is no text that somebody types.
+    virtual bool IsCommand(WPARAM character) const;
+
   private:
     MessageHook field_;
 };
