@@ -3,14 +3,10 @@
 #include <doctest/doctest.h>
 
 #include "endtoend/automation.h"
+#include "endtoend/dialogtitles.h"
 
-// The titles of the dialogue that Apply holds, and its usual course.
+// The usual course of the dialogue that Apply holds.
 namespace endtoend {
-
-inline constexpr char ConfirmTitle[] = "Einstellungen speichern";
-inline constexpr char RestorePointTitle[] = "Systemwiederherstellungspunkt";
-inline constexpr char DoneTitle[] = "Einstellungen gespeichert";
-inline constexpr char WrongPasswordTitle[] = "Passwort falsch";
 
 // The restart question, answered with No always: Yes would end the session.
 inline MessageBox DeclineRestart(const Application& program) {

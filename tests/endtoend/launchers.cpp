@@ -2,13 +2,12 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <memory>
 #include <regex>
 
+#include "endtoend/launchedtools.h"
 #include "endtoend/lines.h"
 #include "endtoend/looks.h"
 #include "endtoend/pages.h"
-#include "endtoend/registrystate.h"
 #include "endtoend/tools.h"
 #include "endtoend/workplace.h"
 
@@ -17,53 +16,7 @@ namespace {
 
 constexpr char NormalWindow[] = "1";
 
-struct Tool {
-    std::string label;
-    const char* caption;
-    // Below the Windows directory, as it is started.
-    const char* file;
-};
-
-const Tool Programs[] = {
-    {"lblCMD", "Eingabeaufforderung", "\\System32\\cmd.exe"},
-    {"lblDatenträgerbereinigung", "Datenträgerbereinigung", "\\System32\\cleanmgr.exe"},
-    {"lblDirectXDiag", "DirectX Diagnose", "\\System32\\dxdiag.exe"},
-    {"lblMSConfig", "MS Config", "\\PCHEALTH\\HELPCTR\\Binaries\\msconfig"},
-    {"lblRegEdit32", "Registrierungs Editor", "\\System32\\regedt32.exe"},
-    {"lblTaskManager", "TaskManager", "\\System32\\taskmgr.exe"},
-};
-
-const Tool Consoles[] = {
-    {"lblComputerverwaltung", "Computerverwaltung", "\\System32\\compmgmt.msc"},
-    {"lblDatenträgerverwaltung", "Datenträgerverwaltung", "\\System32\\diskmgmt.msc"},
-    {"lblDefragmentierung", "Defragmentierung", "\\System32\\dfrg.msc"},
-    {"lblDiensteverwaltung", "Diensteverwaltung", "\\System32\\services.msc"},
-    {"lblEreignisanzeige", "Ereignisanzeige", "\\System32\\eventvwr.msc"},
-    {"lblFreigegebeneOrdner", "Freigegebene Ordner", "\\System32\\fsmgmt.msc"},
-    {"lblGeräteManager", "Geräte-Manager", "\\System32\\devmgmt.msc"},
-    {"lblGruppenrichtlinienEditor", "Gruppenrichtlinien-Editor", "\\System32\\gpedit.msc"},
-    {"lblIndexdienst", "Indexdienst", "\\System32\\ciadv.msc"},
-    {"lblKomponentendienste", "Komponentendienste ", "\\System32\\com\\comexp.msc"},
-    {"lblLeistungsmonitor", "Leistungsmonitor", "\\System32\\perfmon.msc"},
-    {"lblLokaleBenutzerundGruppen", "Lokale Benutzer und Gruppen", "\\System32\\lusrmgr.msc"},
-    {"lblSicherheitseinstellungen", "Sicherheitseinstellungen", "\\System32\\secpol.msc"},
-    {"lblWechselmedienverwaltung", "Wechselmedienverwaltung", "\\System32\\ntmsmgr.msc"},
-    {"lblZertifikatManager", "Zertifikat-Manager", "\\System32\\certmgr.msc"},
-};
-
-const Tool Others[] = {
-    {"lblRestorePoint", "Systemwiederherstellungspunkt", "\\system32\\restore\\rstrui.exe"},
-    {"lblSFC", "Systemdatei-Überprüfung", "\\System32\\sfc.exe"},
-    {"lblSystem", "System", ""},
-};
-
 constexpr char CheckTitle[] = "Überprüfung der Windows XP Systemdateien";
-
-std::string PathOfTool(const Tool& tool) {
-    const std::string path = WindowsFolder() + tool.file;
-    // Started without it, found with it.
-    return path.ends_with("msconfig") ? path + ".exe" : path;
-}
 
 // The program on its page of tools.
 struct OpenPage {
@@ -82,27 +35,6 @@ struct OpenPage {
     }
 };
 
-// How the shell opens consoles: with a stand-in for their host.
-class ConsoleHost {
-  public:
-    ConsoleHost() {
-        WriteValue({"HKCR", ".msc", ""}, TerminatedText("MSCFile"));
-        WriteValue({"HKCR", "MSCFile\\shell\\Open\\command", ""},
-                   TerminatedText(standIn_.Path() + " \"%1\" %*"));
-    }
-    ~ConsoleHost() {
-        DeleteTree("HKCR", ".msc");
-        DeleteTree("HKCR", "MSCFile");
-    }
-    ConsoleHost(const ConsoleHost&) = delete;
-    ConsoleHost& operator=(const ConsoleHost&) = delete;
-
-    const StandIn* operator->() const { return &standIn_; }
-
-  private:
-    StandIn standIn_{SystemFolder() + "\\mmc.exe"};
-};
-
 std::string InLowerCase(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](char letter) {
         return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
@@ -117,13 +49,6 @@ std::string ConsoleOf(const Started& started) {
     const std::string file =
         started.commandLine.substr(quote, started.commandLine.rfind('"') - quote);
     return InLowerCase(file.find('\\') == std::string::npos ? started.folder + '\\' + file : file);
-}
-
-template <typename Place, std::size_t Count>
-std::vector<std::unique_ptr<Place>> At(const Tool (&tools)[Count]) {
-    std::vector<std::unique_ptr<Place>> places;
-    for (const Tool& tool : tools) places.push_back(std::make_unique<Place>(PathOfTool(tool)));
-    return places;
 }
 
 // One record of the log for a program that is not there; date, time and support line aside.
@@ -145,7 +70,8 @@ void AnswerMissing(const Program& program) {
 TEST_CASE_FIXTURE(OpenPage, "the frame of tools holds these 24 labels and no others") {
     std::vector<Tool> tools(std::begin(Programs), std::end(Programs));
     tools.insert(tools.end(), std::begin(Consoles), std::end(Consoles));
-    tools.insert(tools.end(), std::begin(Others), std::end(Others));
+    tools.insert(tools.end(), std::begin(Checks), std::end(Checks));
+    tools.push_back(System);
     std::vector<std::string> expected;
     for (const Tool& tool : tools) expected.push_back(std::string(tool.label) + tool.caption);
     RECT frame = {};

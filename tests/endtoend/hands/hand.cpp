@@ -1,6 +1,7 @@
 #include "endtoend/hands/hand.h"
 
 #include "endtoend/automation.h"
+#include "platform/win32/text.h"
 
 namespace endtoend {
 namespace {
@@ -46,7 +47,36 @@ void SendMouse(DWORD what, POINT place) {
     SendInput(1, &input, sizeof input);
 }
 
+LRESULT CALLBACK DropEcho(int code, WPARAM wParam, LPARAM lParam) {
+    const auto& event = *reinterpret_cast<const MSLLHOOKSTRUCT*>(lParam);
+    if (code == HC_ACTION && !(event.flags & LLMHF_INJECTED)) return 1;
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// The system calls the hook while its thread asks for messages.
+DWORD WINAPI DropEchoes(void* ready) {
+    MSG message;
+    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+    const HHOOK hook = SetWindowsHookExW(WH_MOUSE_LL, DropEcho, GetModuleHandleW(nullptr), 0);
+    SetEvent(ready);
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) continue;
+    UnhookWindowsHookEx(hook);
+    return 0;
+}
+
 }  // namespace
+
+OnlyMouse::OnlyMouse() {
+    const platform::win32::KernelHandle ready(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    thread_ =
+        platform::win32::KernelHandle(CreateThread(nullptr, 0, DropEchoes, ready.Get(), 0, &id_));
+    WaitForSingleObject(ready.Get(), INFINITE);
+}
+
+OnlyMouse::~OnlyMouse() {
+    PostThreadMessageW(id_, WM_QUIT, 0, 0);
+    WaitForSingleObject(thread_.Get(), INFINITE);
+}
 
 Sight See() {
     Sight sight;
@@ -69,15 +99,16 @@ std::string SeenName(HWND window) {
     return "none";
 }
 
+std::string SeenTitle(HWND window) {
+    wchar_t title[200] = L"";
+    InternalGetWindowText(window, title, 200);
+    return platform::win32::FromWide(title);
+}
+
 std::string SeenWindow(HWND window) {
     if (!window) return "none";
     const std::string name = NameOf(window);
-    if (!name.empty()) return name;
-    wchar_t title[200] = L"";
-    InternalGetWindowText(window, title, 200);
-    char text[600] = "";
-    WideCharToMultiByte(CP_UTF8, 0, title, -1, text, sizeof text, nullptr, nullptr);
-    return '"' + std::string(text) + '"';
+    return name.empty() ? '"' + SeenTitle(window) + '"' : name;
 }
 
 std::string Describe(const Sight& sight) {
@@ -110,21 +141,8 @@ POINT MiddleOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
-// A display echoes the moves, late when the machine is busy, and with them where the mouse was.
 void MoveMouse(POINT place) {
-    constexpr int Settled = 3;
-    int still = 0;
-    for (int tries = 0; still < Settled && tries < 100; ++tries) {
-        POINT at = {};
-        GetCursorPos(&at);
-        if (at.x == place.x && at.y == place.y) {
-            ++still;
-        } else {
-            still = 0;
-            SendMouse(0, place);
-        }
-        Sleep(4);
-    }
+    SendMouse(0, place);
 }
 
 void ClickMouse(POINT place, Button button, int times) {
@@ -133,6 +151,20 @@ void ClickMouse(POINT place, Button button, int times) {
         SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN, place);
         SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, place);
     }
+}
+
+void DragMouse(POINT from, POINT to) {
+    MoveMouse(from);
+    SendMouse(MOUSEEVENTF_LEFTDOWN, from);
+    MoveMouse(to);
+    SendMouse(MOUSEEVENTF_LEFTUP, to);
+}
+
+POINT TrayIcon() {
+    constexpr int HalfAnIcon = 8;
+    RECT area = {};
+    GetWindowRect(FindWindowW(L"Shell_TrayWnd", nullptr), &area);
+    return {area.right - HalfAnIcon, (area.top + area.bottom) / 2};
 }
 
 bool Answers(HWND window, unsigned milliseconds) {

@@ -1,36 +1,19 @@
-// The program by keyboard and mouse alone, as a person has them.
-#include <windows.h>
-
+// The program by real keys or by a real mouse alone, as a person has them: hands.exe keys|mouse
+// [SECTION]
 #include <cstdio>
 #include <exception>
+#include <string>
 
-#include "endtoend/hands/hand.h"
-#include "endtoend/workplace.h"
+#include "endtoend/hands/walk.h"
 
-namespace endtoend {
-namespace {
-
-void Walk() {
-    const Workplace workplace;
-    const OpenProgram program(workplace);
-    const HWND form = program.Wait("frmMain");
-    Until("the window in front", [&] { return See().front == form && See().focus; });
-    std::printf("%s\n", Describe(See()).c_str());
-    for (int presses = 0; presses < 5; ++presses) {
-        const HWND before = See().focus;
-        Type(VK_TAB);
-        Until("the next control", [&] { return See().focus != before; });
-        std::printf("Tab: %s\n", Describe(See()).c_str());
-    }
-}
-
-}  // namespace
-}  // namespace endtoend
-
-int main() {
+int main(int count, char** words) {
     try {
-        endtoend::Walk();
-        return 0;
+        const std::string way = count > 1 ? words[1] : "";
+        if (way != "keys" && way != "mouse") {
+            std::fprintf(stderr, "usage: hands keys|mouse [PART OF A SECTION'S TITLE]\n");
+            return 2;
+        }
+        return endtoend::Walk(way == "mouse", count > 2 ? words[2] : "").Run() ? 1 : 0;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "hands: %s\n", failure.what());
         return 1;
