@@ -18,6 +18,28 @@ namespace {
 // Boxes are counted from the right: the cross, the one that maximises, the one that minimises.
 enum CaptionBox { Cross, Maximise, Minimise };
 
+struct NotTaken {
+    const char* way;
+    const char* reason;
+};
+
+constexpr NotTaken NotTakenWays[] = {
+    {"Alt+Tab, the Windows key, Win+B to the tray", "Wine's desktop knows none of them"},
+    {"the tray's menu by the menu key", "no key leads to Wine's notification area"},
+    {"Escape in an open list of a dialog", "the dialog takes it for itself and closes, on purpose"},
+    {"Yes to AutoTuning and to emptying a bin", "the walk only leaves these questions"},
+    {"Yes to a restore point", "its tool is started from its label"},
+    {"Yes to the restart behind Apply, to logging off and restarting",
+     "one end of the session is walked, with a stand-in"},
+    {"a folder chosen for a path or a drive", "the chooser is the system's, and is left"},
+    {"an entry really uninstalled, a drive made or removed", "other suites do it by messages"},
+    {"a time server that answers", "another suite does it by messages"},
+    {"the wheel, a column dragged wider, a tip that comes", "no step of the walk needs them"},
+    {"a user in the list of those logged on", "Wine does not tell who is logged on"},
+    {"an item of a field's menu, such as Paste", "the menu is the system's, and is left"},
+    {"the web address of the about dialog", "a browser would start"},
+};
+
 RECT TitleBarOf(HWND form) {
     TITLEBARINFO bar = {};
     bar.cbSize = sizeof bar;
@@ -437,6 +459,9 @@ int Walk::Run() {
     workplace_.reset();
     runner_.reset();
     DeleteTree("HKLM", Entry);
+    for (const NotTaken& way : NotTakenWays) {
+        std::printf("not taken: %s: %s\n", way.way, way.reason);
+    }
     std::printf("%d steps, %d faults\n", number_, faults_);
     return faults_;
 }
