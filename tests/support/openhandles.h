@@ -8,9 +8,9 @@
 
 namespace support {
 
-// How many handles the process holds, from the system's own table: the call that counts them came
+// How many handles a process holds, from the system's own table: the call that counts them came
 // with a service pack and answers 0 where the suites run.
-inline int OpenHandles() {
+inline int OpenHandlesOf(DWORD process) {
     struct Entry {
         ULONG process;
         UCHAR type;
@@ -28,9 +28,13 @@ inline int OpenHandles() {
     const ULONG total = *reinterpret_cast<const ULONG*>(buffer.data());
     const auto* entries = reinterpret_cast<const Entry*>(buffer.data() + sizeof(ULONG));
     int count = 0;
-    for (ULONG i = 0; i < total; ++i) count += entries[i].process == GetCurrentProcessId();
+    for (ULONG i = 0; i < total; ++i) count += entries[i].process == process;
     REQUIRE(count > 0);
     return count;
+}
+
+inline int OpenHandles() {
+    return OpenHandlesOf(GetCurrentProcessId());
 }
 
 }  // namespace support
