@@ -190,14 +190,11 @@ class Day {
             return IsWindowEnabled(program_.Find("frmMain")) && program_.Responds("frmMain");
         });
     }
+    // The button comes back when the search has ended.
     void Search() const {
         program_.OpenTab(CleanUpPage);
-        program_.Click("cmdSearchTempFiles");
-        Until(
-            "the search to begin",
-            [&] { return program_.Text("lblScannedFiles") != "Suchvorgang abgeschlossen!"; }, 300);
-        Until("the end of the search",
-              [&] { return program_.Text("lblScannedFiles") == "Suchvorgang abgeschlossen!"; });
+        Send(program_.Wait("cmdSearchTempFiles"), BM_CLICK);
+        CHECK(program_.Text("lblScannedFiles") == "Suchvorgang abgeschlossen!");
     }
     void Sort() const {
         const Rows rows(program_.Wait("lvwFiles"));
