@@ -23,7 +23,7 @@ constexpr HelpText HelpTextRows[] = {
      "Meldet den angegebenen Benutzer beim Start von Windows XP ohne Nachfrage an, standardmäßig "
      "ist dies ausgeschaltet. Auch ein Eintrag mit dem Wert 0 erscheint als eingeschaltet, und "
      "das Übernehmen schaltet ihn dann ein. ACHTUNG: Das Passwort steht unverschlüsselt in der "
-     "Registry, jeder mit Zugang zu Ihrem Rechner kann es dort lesen!"},
+     "Registrierung, jeder mit Zugang zu Ihrem Rechner kann es lesen!"},
     {"chkmemorymanagement",
      "Windows XP stellt hohe Anforderungen an die Systemressourcen, auch an den Arbeitsspeicher. "
      "Leider lagert Windows XP auch bei freiem RAM Programme in den virtuellen Speicher aus. "
@@ -43,7 +43,7 @@ constexpr HelpText HelpTextRows[] = {
      "eingeschaltet, und beim Übernehmen werden 512 KB eingetragen."},
     {"chkLastAccessTimestamp",
      "Windows XP vermerkt auf NTFS-Laufwerken bei jedem Zugriff auf eine Datei oder einen Ordner "
-     "den Zeitpunkt. Standardmäßig ist dies aktiv. Abgeschaltet gewinnen Sie etwas "
+     "den Zeitpunkt. Standardmäßig ist dies aktiv. Schalten Sie es ab, gewinnen Sie etwas "
      "Geschwindigkeit, manche Backup-Programme sind aber auf diese Angabe angewiesen."},
     {"chkMFTTuning",
      "Hier wird der Platz definiert den die sogenannte MFT für sich reserviert. Erhöhen Sie den "
@@ -70,14 +70,14 @@ constexpr HelpText HelpTextRows[] = {
      "Rechner nichts zu tun hat, standardmäßig ist dies eingeschaltet. Die Option ändert nur den "
      "Eintrag des Benutzers. Da Windows XP den des Rechners liest, hat sie keine Wirkung."},
     {"chkIcons",
-     "Macht den Hintergrund der Texte unter den Desktop-Icons durchsichtig, was bei Texten mit "
-     "Schatten schon der Standard ist. Die Option wirkt sofort und wieder bei jedem Start von "
-     "Quillmore. ACHTUNG: Abgeschaltet erhalten die Texte bis zur nächsten Anmeldung einen fast "
-     "schwarzen Hintergrund!"},
+     "Macht den Hintergrund der Texte unter den Symbolen auf dem Desktop durchsichtig, was bei "
+     "Texten mit Schatten schon der Standard ist. Die Option wirkt sofort und wieder bei jedem "
+     "Start von Quillmore. ACHTUNG: Nach dem Abschalten erhalten die Texte bis zur nächsten "
+     "Anmeldung einen fast schwarzen Hintergrund!"},
     {"Level",
-     "Stellt ein, wie durchsichtig die Taskbar ist: 255 ist deckend (Standard), 55 der kleinste "
-     "Wert. Die Einstellung wirkt sofort und wird bei jedem Start von Quillmore wieder gesetzt. "
-     "Bei langsamen Grafikkarten kann sie den Bildaufbau bremsen."},
+     "Stellt ein, wie durchsichtig die Taskleiste ist: 255 ist deckend (Standard), 55 der "
+     "kleinste Wert. Die Einstellung wirkt sofort und wird bei jedem Start von Quillmore wieder "
+     "gesetzt. Bei langsamen Grafikkarten kann sie den Bildaufbau bremsen."},
     {"chkBalloonTipps",
      "Windows XP meldet vieles in Sprechblasen (BalloonTipps) neben der Uhr, auch wichtige "
      "Hinweise. Standardmäßig werden sie angezeigt und lassen sich hier abschalten, wenn sie "
@@ -90,14 +90,14 @@ constexpr HelpText HelpTextRows[] = {
      "Einträgen, nur einer mit Unterschlüsseln bleibt, wie er ist!"},
     {"chkDescriptionPopups",
      "Zeigt eine kurze Beschreibung an, wenn die Maus auf einer Datei, einem Ordner oder einem "
-     "Desktop-Icon stehen bleibt. Standardmäßig ist dies eingeschaltet. ACHTUNG: Solange die "
+     "Desktopsymbol stehen bleibt. Standardmäßig ist dies eingeschaltet. ACHTUNG: Solange die "
      "Suche des Windows Media Players nach Updates nicht eingeschaltet ist, erscheint die Option "
      "als ausgeschaltet und wird beim Übernehmen abgeschaltet!"},
     {"chkTaskBarGlooming",
-     "Fasst bei voller Taskbar die Fenster eines Programms unter einer gemeinsamen Schaltfläche "
-     "zusammen, so dass sie einen Klick mehr benötigen. Standardmäßig ist dies eingeschaltet. "
-     "Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim Übernehmen "
-     "abgeschaltet."},
+     "Fasst bei voller Taskleiste die Fenster eines Programms unter einer gemeinsamen "
+     "Schaltfläche zusammen, so dass sie einen Klick mehr benötigen. Standardmäßig ist dies "
+     "eingeschaltet. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim "
+     "Übernehmen abgeschaltet."},
     {"chkNoSpaceCheck",
      "Windows XP warnt, wenn auf einer Festplatte der Speicherplatz knapp wird. Standardmäßig ist "
      "diese Meldung eingeschaltet. Schalten Sie sie ab, müssen Sie den freien Platz selbst im Auge "
@@ -134,9 +134,9 @@ constexpr HelpText HelpTextRows[] = {
      "und Sie sich damit auskennen."},
     {"chkDisableThumbnails",
      "Windows XP speichert die Bilder der Miniaturansicht in der Datei Thumbs.db, damit sie beim "
-     "nächsten Mal schneller erscheinen. Standardmäßig ist dieser Cache aktiv, abgeschaltet "
-     "sparen Sie etwas Platz. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird "
-     "beim Übernehmen abgeschaltet."},
+     "nächsten Mal schneller erscheinen. Standardmäßig ist dieser Cache aktiv, ohne ihn sparen "
+     "Sie etwas Platz. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim "
+     "Übernehmen abgeschaltet."},
     {"chkWindowsTour",
      "Windows XP bietet nach der Installation mehrmals eine Tour an, mit dieser Option erscheint "
      "das Angebot nicht mehr. Zugleich wird das Script Debugging des Internet Explorers "
@@ -169,10 +169,10 @@ constexpr HelpText HelpTextRows[] = {
      "mehr zu hören. Standardmäßig sind sie eingeschaltet. Fehlt der Eintrag, erscheint die "
      "Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkSystemRestore",
-     "Mit der Systemwiederherstellung können Sie Windows XP auf einen früheren Zeitpunkt "
-     "zurücksetzen, standardmäßig ist sie aktiv und belegt bis zu 12% jeder Festplatte. ACHTUNG: "
-     "Beim Abschalten gehen alle Wiederherstellungspunkte verloren! Fehlt der Eintrag, erscheint "
-     "die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
+     "Mit der Systemwiederherstellung können Sie Windows XP auf einen früheren Stand "
+     "zurücksetzen, standardmäßig ist sie aktiv und belegt bis zu 12% jeder Platte. ACHTUNG: Beim "
+     "Abschalten können alle Wiederherstellungspunkte verloren gehen! Fehlt der Eintrag, "
+     "erscheint die Option als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
     {"chkBSODAutostart",
      "Nach einem schweren Fehler (BlueScreen) startet Windows XP den Rechner standardmäßig sofort "
      "neu. Schalten Sie die Option ab, bleibt die Fehlermeldung stehen und Sie können sie in Ruhe "
@@ -191,7 +191,7 @@ constexpr HelpText HelpTextRows[] = {
     {"chkWinLogOn",
      "Zeigt vor jeder Anmeldung ein Fenster mit der Meldung und dem Titel an, die Sie darunter "
      "eingeben. Standardmäßig gibt es keine Meldung. ACHTUNG: Beim Übernehmen mit abgeschalteter "
-     "Option werden beide Texte in der Registry geleert!"},
+     "Option werden beide Texte in der Registrierung geleert!"},
     {"chkDatensicherheit(1)",
      "Der Internet Explorer überträgt beim Anzeigen verwandter Links die Adresse der besuchten "
      "Seite an den Dienst ALEXA. Diese Option entfernt den Eintrag dafür, standardmäßig ist er "
@@ -206,22 +206,22 @@ constexpr HelpText HelpTextRows[] = {
      "Dateien landen auch danach im Papierkorb."},
     {"chkNTLogin",
      "Ist die Option aktiviert, müssen Sie vor der Anmeldung nicht STRG+ALT+ENTF drücken. Das ist "
-     "auf Rechnern ohne Domäne der Standard. Abgeschaltet verlangt Windows XP diese Tasten, was "
-     "vor gefälschten Anmeldefenstern schützt."},
+     "auf Rechnern ohne Domäne der Standard. Schalten Sie sie ab, verlangt Windows XP diese "
+     "Tasten, was vor gefälschten Anmeldefenstern schützt."},
     {"chkDelegateFolders",
      "Entfernt die gemeinsamen Dokumente und die Dokumente der anderen Benutzer aus dem "
      "Arbeitsplatz, die Dateien selbst bleiben erhalten. Standardmäßig werden sie angezeigt. "
      "ACHTUNG: Die Option erscheint auch dann als eingeschaltet, und das Übernehmen entfernt die "
      "Ordner!"},
     {"chkPageFileDelete",
-     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, damit niemand Reste Ihrer Daten "
-     "darin lesen kann; das dauert deutlich länger. Standardmäßig ist dies "
-     "ausgeschaltet. Fehlt der Eintrag, erscheint die Option als eingeschaltet und wird beim "
-     "Übernehmen eingeschaltet."},
+     "Überschreibt die Auslagerungsdatei bei jedem Herunterfahren, damit niemand Reste Ihrer "
+     "Daten darin lesen kann; das Herunterfahren dauert dadurch deutlich länger. Standardmäßig "
+     "ist dies ausgeschaltet. Fehlt der Eintrag, erscheint die Option als eingeschaltet und wird "
+     "beim Übernehmen eingeschaltet."},
     {"chkDisableTM",
      "Trägt eine Sperre für den Taskmanager ein, standardmäßig gibt es keine. Da Windows XP die "
-     "Sperre an einer anderen Stelle der Registry sucht, hat die Option keine Wirkung. Auch ein "
-     "bereits gesperrter Taskmanager wird durch Abschalten nicht wieder zugänglich."},
+     "Sperre an einer anderen Stelle der Registrierung sucht, hat die Option keine Wirkung. Auch "
+     "ein bereits gesperrter Taskmanager wird durch Abschalten nicht wieder zugänglich."},
     {"chkSecureWindows",
      "Schaltet den Dienst Universal Plug'n'Play (UPnP) ab, mit dem Windows XP Geräte im Netzwerk "
      "findet. Standardmäßig ist er aktiv, wegen seiner Sicherheitslücken sollten Sie ihn "
@@ -237,7 +237,7 @@ constexpr HelpText HelpTextRows[] = {
      "zu senden. Mit dieser Option entfallen Bericht und Nachfrage. Da der Bericht Teile Ihrer "
      "Daten enthalten kann, ist das Abschalten zu empfehlen."},
     {"chkWindowsDesktop",
-     "Startet Desktop und Taskbar in einem eigenen Prozess, so dass sie weiterlaufen, wenn ein "
+     "Startet Desktop und Taskleiste in einem eigenen Prozess, so dass sie weiterlaufen, wenn ein "
      "Explorerfenster abstürzt. Standardmäßig ist dies ausgeschaltet, da es mehr Arbeitsspeicher "
      "benötigt. Gelesen wird ein anderer Eintrag, beim nächsten Start erscheint die Option daher "
      "als ausgeschaltet und wird beim Übernehmen abgeschaltet."},
@@ -270,8 +270,8 @@ constexpr HelpText HelpTextRows[] = {
      "Änderung wird auch RWIN neu berechnet."},
     {"txtRWIN",
      "RWIN legt fest, wie viele Bytes empfangen werden, bevor eine Bestätigung gesendet wird. "
-     "Ohne Eintrag wählt Windows XP den Wert selbst (Standard), beim Ändern der MTU wird ein "
-     "Vielfaches von MTU minus 40 eingetragen. Zu kleine Werte bremsen schnelle Verbindungen, zu "
+     "Ohne Eintrag wählt Windows XP den Wert selbst (Standard), beim Ändern der MTU wird das "
+     "Vierfache von MTU minus 40 eingetragen. Zu kleine Werte bremsen schnelle Verbindungen, zu "
      "große kosten bei Störungen Zeit."},
     {"txtTTL",
      "TTL (Time To Live) ist die Anzahl der Stationen, die ein Datenpaket höchstens durchlaufen "
@@ -283,8 +283,8 @@ constexpr HelpText HelpTextRows[] = {
      "nur bei Verbindungsproblemen aktivieren."},
     {"chkAutoMTU",
      "Windows XP ermittelt für jede Verbindung selbst die größtmögliche Paketlänge. Das ist der "
-     "Standard und sollte so bleiben, abgeschaltet sind die Pakete außerhalb des eigenen Netzes "
-     "nur 576 Bytes groß. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim "
+     "Standard und sollte so bleiben, sonst sind die Pakete außerhalb des eigenen Netzes nur 576 "
+     "Bytes groß. Fehlt der Eintrag, erscheint die Option als ausgeschaltet und wird beim "
      "Übernehmen abgeschaltet."},
     {"chkSACK",
      "Mit SACK werden bei Störungen nur die wirklich verlorenen Datenpakete erneut gesendet. "
@@ -303,8 +303,8 @@ constexpr HelpText HelpTextRows[] = {
     {"optOptimalDFUESets(4)", "Beste DFÜ-Einstellungen für DSL Zugang setzen."},
     {"chkNetworkSpeed",
      "Erhöht die Anzahl der gleichzeitigen Befehle und Threads für Zugriffe auf andere Rechner im "
-     "Netzwerk auf 104. Standardmäßig fehlen diese Einträge. Dafür wird etwas mehr Arbeitsspeicher "
-     "benötigt."},
+     "Netzwerk auf 104, was etwas mehr Arbeitsspeicher benötigt. Standardmäßig fehlen diese "
+     "Einträge."},
     {"chkNetworkTasks",
      "Öffnen Sie einen Rechner im Netzwerk, sucht Windows XP dort standardmäßig nach geplanten "
      "Tasks, was einige Sekunden dauern kann. Mit dieser Option entfällt die Suche, Tasks anderer "
@@ -319,9 +319,9 @@ constexpr HelpText HelpTextRows[] = {
      "Programme mit Netzwerkverbindungen schneller bedient werden. Standardmäßig fehlen diese "
      "Einträge. Bringt dies keine Verbesserung, schalten Sie die Option wieder ab."},
     {"chkOutlookTray",
-     "Outlook XP und 2003 verschwinden beim Minimieren aus der Taskbar und liegen dann als Icon "
-     "neben der Uhr. Standardmäßig bleibt das Programm in der Taskbar. Ist Outlook nicht "
-     "installiert, wird nichts geändert."},
+     "Outlook XP und 2003 verschwinden beim Minimieren aus der Taskleiste und liegen dann als "
+     "Symbol neben der Uhr. Standardmäßig bleibt das Programm in der Taskleiste. Ist Outlook "
+     "nicht installiert, wird nichts geändert."},
     {"chkIEExtensions",
      "Outlook 'verbietet' Anhänge wie .exe, .vbs und andere als Standardeinstellung. Um solche "
      "Dateien dennoch empfangen zu können tragen Sie in das Textfeld darunter die entsprechenden "
@@ -329,11 +329,11 @@ constexpr HelpText HelpTextRows[] = {
      "einigen Dateianhängen stellt ein Sicherheitsrisiko dar!"},
     {"chkIEWinPos",
      "Löscht die gespeicherte Fensterposition des Internet Explorers, er merkt sich dann beim "
-     "Schließen wie standardmäßig eine neue. Abgeschaltet trägt jedes Übernehmen eine feste "
-     "Position ein. Ist bereits eine Position gespeichert, erscheint die Option als "
-     "ausgeschaltet."},
+     "Schließen wie standardmäßig eine neue. Ist die Option ausgeschaltet, trägt jedes Übernehmen "
+     "eine feste Position ein. Sie erscheint als ausgeschaltet, wenn bereits eine Position "
+     "gespeichert ist."},
     {"chkScriptDebugging",
-     "Zeigt an, ob der Internet Explorer bei Fehlern in Scripts auf das Debugging verzichtet. "
+     "Zeigt an, ob der Internet Explorer bei Fehlern in Skripten auf das Debugging verzichtet. "
      "Standardmäßig ist es deaktiviert. Geändert wird der Wert nur zusammen mit der Option "
      "'Windows Tour nicht mehr anzeigen'."},
     {"chkNotifyDownloadReady",
@@ -389,8 +389,8 @@ constexpr HelpText HelpTextRows[] = {
      "ist die Option nicht nötig und kann etwas Leistung kosten."},
     {"chkEnableNetworkProcessor",
      "Überlässt das Berechnen von Prüfsummen dem Prozessor der Netzwerkkarte, was Windows XP auch "
-     "standardmäßig tut. Die Option hebt daher nur eine frühere Abschaltung auf. Ausgeschaltet "
-     "wird der Eintrag gelöscht, was ebenso wirkt."},
+     "standardmäßig tut. Die Option hebt daher nur eine frühere Abschaltung auf. Ist sie "
+     "ausgeschaltet, wird der Eintrag gelöscht, was ebenso wirkt."},
     {"cmdShowAllLoggedOnUsers",
      "Zeigt alle Benutzer an, die gerade an diesem System angemeldet sind. Auch Anmeldungen von "
      "Diensten können darunter sein. Sinnvoll ist dies vor dem Herunterfahren, damit niemand Daten "
@@ -444,10 +444,10 @@ constexpr HelpText HelpTextRows[] = {
      "Benutzung sind, bleiben erhalten. ACHTUNG: Ordner in der Liste werden immer gelöscht, auch "
      "wenn sie nicht markiert sind!"},
     {"chkSHMediaDLL",
-     "Der Explorer zeigt zu Videos und Bildern keine Vorschau mehr an. Standardmäßig ist sie "
-     "eingeschaltet, kann aber Videodateien sperren, so dass sie sich nicht löschen oder "
-     "umbenennen lassen. ACHTUNG: Beim ersten Start von Quillmore ist die Option bereits gesetzt, "
-     "das erste Übernehmen schaltet die Vorschau ab!"},
+     "Der Explorer zeigt zu Videos keine Vorschau und keine Angaben mehr an. Standardmäßig ist "
+     "die Vorschau eingeschaltet, kann aber Videodateien sperren, so dass sie sich nicht löschen "
+     "oder umbenennen lassen. ACHTUNG: Beim ersten Start von Quillmore ist die Option bereits "
+     "gesetzt, das erste Übernehmen schaltet die Vorschau ab!"},
 };
 
 }  // namespace
