@@ -73,7 +73,7 @@ TEST_CASE_FIXTURE(TipMouse, "a check box, a slider and a button tell what they d
           "Windows XP reserviert 'nur' 512 KB für Serverdienste was die Ein-/Ausgabeleistung "
           "mindert. Ist diese Option aktiviert haben die Serverdienste 12 MB zur Verfügung.");
     MoveTo("SSTab1");
-    CHECK(TipOf("Level").starts_with("Stellt ein, wie durchsichtig die Taskbar ist"));
+    CHECK(TipOf("Level").starts_with("Stellt ein, wie durchsichtig die Taskleiste ist"));
     MoveTo("SSTab1");
     CHECK(TipOf("cmdFreeMemory").starts_with("Windows gibt teilweise Speicher nicht mehr frei"));
 }
