@@ -9,20 +9,27 @@ import urllib.parse
 SOURCES = pathlib.Path(__file__).resolve().parent.parent.parent / "src"
 
 # Elements that have no end tag.
-VOID = {"meta", "link", "img", "br", "hr"}
+VOID = {"meta", "link", "img", "br", "hr", "wbr"}
+
+# The last chapter, made from the program itself: it has every caption whatever the others say.
+APPENDIX = "anhang"
 
 
 class Page(html.parser.HTMLParser):
     """The page of the archive: its anchors, links, pictures, headings and text. The prose is the
-    text without names of files and the like, its blocks apart."""
+    text without names of files and the like, its blocks apart; the chapters are the text in front
+    of the appendix."""
 
     def __init__(self, text):
         super().__init__(convert_charrefs=True)
         self.anchors, self.links, self.pictures, self.headings = [], [], [], []
         self.text, self.prose, self.problems = "", "", []
+        self.chapters = None
         self._open = []
         self.feed(text)
         self.close()
+        if self.chapters is None:
+            self.chapters = self.text
         self.problems += [f"<{tag}> is not closed" for tag in self._open]
 
     def handle_starttag(self, tag, attributes):
@@ -33,6 +40,8 @@ class Page(html.parser.HTMLParser):
             self.prose += " "
         if tag == "a" and "name" in facts:
             self.anchors.append(facts["name"])
+            if facts["name"] == APPENDIX:
+                self.chapters = self.text
         if tag == "a" and "href" in facts:
             self.links.append(facts["href"])
         if tag == "img":

@@ -170,7 +170,8 @@ std::string TextOfManual() {
     std::string text;
     for (const auto& file :
          std::filesystem::directory_iterator(QUILLMORE_SOURCE_DIR "/docs/anleitung")) {
-        if (file.path().extension() != ".html") continue;
+        // The appendix is made of the rows and has them all.
+        if (file.path().extension() != ".html" || file.path().stem() == "anhang") continue;
         text += FileText("docs/anleitung/" + file.path().filename().string());
     }
     return InOneLine(WithEach(WithEach(std::move(text), "&gt;", ">"), "&amp;", "&"));
