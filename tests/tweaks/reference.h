@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tweaks/golden.h"
@@ -36,7 +37,7 @@ std::vector<ReferencePage> ReferencePages();
 // What an Apply does for one option that has just been read, where its values are absent.
 struct AbsentEffect {
     bool on = false;
-    // The facts whose value it writes, or whose key it deletes.
+    // The entry's own facts whose value it writes, or whose key it deletes.
     std::vector<const Fact*> writes;
     std::vector<const Fact*> deletes;
     // The complaints that it shows.

@@ -49,7 +49,8 @@ ReferencePage PageOf(OnePage::AddPage add, const std::vector<Fact>& facts,
             control->Name(), AsShown(CaptionOf(one.form, control->Name())), group, {}};
         std::copy_if(facts.begin(), facts.end(), std::back_inserter(entry.facts),
                      [&](const Fact& fact) { return fact.control == entry.control; });
-        const bool actsAtOnce = (entry.control.starts_with("chk") || entry.control == "Level");
+        // The one slider is an option by itself; that of the start menu only leads its box.
+        const bool actsAtOnce = entry.control.starts_with("chk") || entry.control == "Level";
         if (!entry.facts.empty() || actsAtOnce) page.entries.push_back(entry);
     }
     return page;
