@@ -163,9 +163,8 @@ Snapshot Look(const platform::simulated::Machine& machine, const toolkit::Form* 
 }
 
 const std::string& At(const Snapshot& snapshot, const std::string& name) {
-    static const std::string missing = "missing";
     const auto found = snapshot.find(name);
-    return found == snapshot.end() ? missing : found->second;
+    return found == snapshot.end() ? Missing : found->second;
 }
 
 std::set<std::string> Differing(const Snapshot& one, const Snapshot& other) {

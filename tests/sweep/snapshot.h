@@ -20,6 +20,9 @@ Snapshot Look(const platform::simulated::Machine& machine, const toolkit::Form* 
 // The names whose contents differ; one that is missing differs from any other.
 std::set<std::string> Differing(const Snapshot& one, const Snapshot& other);
 
+// What is told of a name that is not there.
+inline const std::string Missing = "missing";
+
 const std::string& At(const Snapshot& snapshot, const std::string& name);
 
 }  // namespace sweep_test

@@ -135,7 +135,7 @@ bool HasBelow(const Snapshot& snapshot, const std::string& start) {
 bool IsHalfMade(const Outcome& whole, const Outcome& failed, const std::string& name) {
     if (!name.starts_with("registry ") || !name.ends_with('|')) return false;
     const std::string& found = At(failed.after, name);
-    if (!found.empty() && found != BareKey) return false;
+    if (found != Missing && found != BareKey) return false;
     const std::string path = name.substr(0, name.size() - 1);
     return HasBelow(whole.after, path + '|') || HasBelow(whole.after, path + '\\');
 }
