@@ -118,7 +118,15 @@ TEST_CASE(
             program->console.files = before.files;
             const int open = program->machine.registry.OpenHandles();
             const RunOutcome failed = RunVerb(*program, verb, n);
-            CHECK(!failed.code.has_value());
+            // A sort does without the block that it would like to have.
+            if (failed.code) {
+                CHECK(failed.code == whole.code);
+                CHECK(failed.out == whole.out);
+                CHECK(failed.files == whole.files);
+                REQUIRE(failed.registry == whole.registry);
+                if (verb.writesRegistry) program = std::make_unique<Prepared>();
+                continue;
+            }
             // The one at hand may stay open: the process is at its end.
             CHECK(failed.openKeys <= open + 1);
             CHECK(whole.out.starts_with(failed.out));
