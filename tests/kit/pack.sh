@@ -14,7 +14,6 @@ cp "$program" "$folder"
 cp "$@" "$folder/Teile"
 cp "$here/cases.txt" "$folder/Teile/Faelle.txt"
 for text in Liesmich.txt Pruefen.cmd; do
-    sed 's/$/\r/' "$here/$text" | iconv -f UTF-8 -t WINDOWS-1252 >"$folder/$text"
+    "$here/../../tools/windows-text" "$here/$text" >"$folder/$text"
 done
-cd "$(dirname "$folder")"
-cmake -E tar cf "$archive" --format=zip "$(basename "$folder")"
+"$here/../../tools/zip" "$archive" "$folder"

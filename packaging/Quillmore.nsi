@@ -1,0 +1,446 @@
+; The installer. pack.sh defines
+;   FILES      the folder with what it installs
+;   ICON       the icon of installer and uninstaller
+;   OUTPUT     the installer
+;   UNINSTALLER  a command that gets the finished uninstaller before it is packed
+;   VERSION, VERSION_NUMBERS
+; Exit codes: Liesmich.txt has them all.
+Unicode true
+SetCompressor /SOLID lzma
+; The same files give the same installer, whenever they were made.
+SetDateSave off
+AllowSkipFiles off
+RequestExecutionLevel highest
+
+!include FileFunc.nsh
+!include LogicLib.nsh
+!include MUI2.nsh
+!include nsDialogs.nsh
+!include WinVer.nsh
+
+Name "Quillmore ${VERSION}"
+Caption "Installation von Quillmore ${VERSION}"
+UninstallCaption "Quillmore entfernen"
+BrandingText " "
+OutFile "${OUTPUT}"
+!uninstfinalize '${UNINSTALLER} "%1"'
+
+VIProductVersion "${VERSION_NUMBERS}"
+VIFileVersion "${VERSION_NUMBERS}"
+VIAddVersionKey /LANG=1031 "CompanyName" "Quillmore"
+VIAddVersionKey /LANG=1031 "FileDescription" "Installation von Quillmore"
+VIAddVersionKey /LANG=1031 "FileVersion" "${VERSION_NUMBERS}"
+VIAddVersionKey /LANG=1031 "LegalCopyright" "Copyright (c) 2026 Quillmore contributors"
+VIAddVersionKey /LANG=1031 "ProductName" "Quillmore"
+VIAddVersionKey /LANG=1031 "ProductVersion" "${VERSION_NUMBERS}"
+
+!define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillmore"
+!define RUN "Software\Microsoft\Windows\CurrentVersion\Run"
+!define STORE "Software\VB and VBA Program Settings"
+; Message boxes of the installer and of the uninstaller.
+!define TITLE "Quillmore"
+
+!define CANCELLED 1
+!define NOT_XP 3
+!define RUNNING 4
+!define NO_RIGHTS 5
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_CUSTOMFUNCTION_ABORT Cancelled
+!define MUI_CUSTOMFUNCTION_UNABORT un.Cancelled
+
+Page custom AskForWhom TakeForWhom
+!define MUI_PAGE_CUSTOMFUNCTION_PRE SkipKnownFolder
+!define MUI_DIRECTORYPAGE_TEXT_TOP "Quillmore legt sein Fehlerprotokoll neben dem Programm ab. Der Ordner sollte deshalb einer sein, in den Sie schreiben dürfen."
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+Page custom ShowDone TakeDone
+
+UninstPage custom un.AskWhatElse un.TakeWhatElse
+!insertmacro MUI_UNPAGE_INSTFILES
+
+!insertmacro MUI_LANGUAGE "German"
+
+; "all" or "user", and whether the choice is left; the folder that an earlier version lies in.
+Var kind
+Var admin
+Var earlier
+Var boxAll
+Var boxUser
+Var boxStart
+Var boxManual
+; Of the uninstaller: what there is, and what is to go with it.
+Var boxStore
+Var boxLog
+Var boxRun
+Var dropStore
+Var dropLog
+Var dropRun
+Var row
+
+Function Cancelled
+  SetErrorLevel ${CANCELLED}
+FunctionEnd
+
+Function un.Cancelled
+  SetErrorLevel ${CANCELLED}
+FunctionEnd
+
+!macro Common prefix
+
+; Whether whoever runs this may install for all users: "yes" or "no".
+Function ${prefix}AskRights
+  UserInfo::GetAccountType
+  Pop $0
+  StrCpy $admin no
+  ${If} $0 == "Admin"
+    StrCpy $admin yes
+  ${EndIf}
+FunctionEnd
+
+Function ${prefix}SetKind
+  ${If} $kind == all
+    SetShellVarContext all
+  ${Else}
+    SetShellVarContext current
+  ${EndIf}
+FunctionEnd
+
+; A program that runs cannot be opened for writing, whoever has started it.
+Function ${prefix}WaitForProgram
+  Push "Quillmore.exe"
+  Call ${prefix}WaitForFile
+  Push "QuillmoreCmd.exe"
+  Call ${prefix}WaitForFile
+FunctionEnd
+
+Function ${prefix}WaitForFile
+  Pop $0
+  ${DoWhile} ${FileExists} "$INSTDIR\$0"
+    SetFileAttributes "$INSTDIR\$0" NORMAL
+    ClearErrors
+    FileOpen $1 "$INSTDIR\$0" a
+    ${IfNot} ${Errors}
+      FileClose $1
+      Return
+    ${EndIf}
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$0 läuft noch oder ist gesperrt.$\r$\n$\r$\nBeenden Sie das Programm, auch wenn es nur als Symbol neben der Uhr liegt, und wählen Sie dann „Wiederholen“." /SD IDCANCEL IDCANCEL`
+      SetErrorLevel ${RUNNING}
+      Quit
+    ${EndIf}
+  ${Loop}
+FunctionEnd
+
+!macroend
+!insertmacro Common ""
+!insertmacro Common "un."
+
+; --- Installing ------------------------------------------------------------------------------
+
+; The folder of an earlier version of this kind, or nothing.
+Function FindEarlier
+  ${If} $kind == all
+    ReadRegStr $earlier HKLM "${ENTRY}" "InstallLocation"
+  ${Else}
+    ReadRegStr $earlier HKCU "${ENTRY}" "InstallLocation"
+  ${EndIf}
+  ${IfNot} ${FileExists} "$earlier\Entfernen.exe"
+    StrCpy $earlier ""
+  ${EndIf}
+FunctionEnd
+
+Function TakeKind
+  Call SetKind
+  Call FindEarlier
+  ${If} $earlier != ""
+    StrCpy $INSTDIR $earlier
+  ${ElseIf} $INSTDIR == ""
+    ${If} $kind == all
+      StrCpy $INSTDIR "$PROGRAMFILES\Quillmore"
+    ${Else}
+      StrCpy $INSTDIR "$LOCALAPPDATA\Quillmore"
+    ${EndIf}
+  ${EndIf}
+FunctionEnd
+
+Function .onInit
+  ${GetParameters} $R0
+  ${WinVerGetBuild} $0
+  ${If} $0 != 2600
+    ClearErrors
+    ${GetOptions} $R0 "/ANDERESWINDOWS" $1
+    ${If} ${Errors}
+      ${If} ${Cmd} `MessageBox MB_YESNO|MB_DEFBUTTON2|MB_ICONEXCLAMATION "Quillmore ist NUR für Windows XP (Build 2600) gemacht. Dieses Windows ist ein anderes (Build $0); hier startet das Programm nicht, und seine Einstellungen wären falsch.$\r$\n$\r$\nTrotzdem installieren?" /SD IDNO IDNO`
+        SetErrorLevel ${NOT_XP}
+        Quit
+      ${EndIf}
+    ${EndIf}
+  ${EndIf}
+
+  Call AskRights
+  ClearErrors
+  ${GetOptions} $R0 "/EINBENUTZER" $1
+  ${If} ${Errors}
+  ${AndIf} $admin == yes
+    ; Who has it for himself alone keeps it so.
+    StrCpy $kind all
+    Call FindEarlier
+    ${If} $earlier == ""
+      StrCpy $kind user
+      Call FindEarlier
+      ${If} $earlier == ""
+        StrCpy $kind all
+      ${EndIf}
+    ${EndIf}
+  ${Else}
+    StrCpy $kind user
+  ${EndIf}
+  ${If} ${Silent}
+    Call TakeKind
+  ${EndIf}
+FunctionEnd
+
+Function AskForWhom
+  !insertmacro MUI_HEADER_TEXT "Für wen?" "Für wen Quillmore ${VERSION} installiert wird."
+  nsDialogs::Create 1018
+  Pop $0
+  ${NSD_CreateLabel} 0 0 100% 28u "Quillmore stellt Windows XP ein und pflegt es. Es wird in einen Ordner kopiert und ins Startmenü eingetragen; an Windows selbst ändert sich dadurch nichts."
+  Pop $0
+  ${NSD_CreateRadioButton} 0 36u 100% 12u "Für &alle Benutzer dieses Computers"
+  Pop $boxAll
+  ${NSD_CreateRadioButton} 0 52u 100% 12u "Nur für &mich"
+  Pop $boxUser
+  ${If} $kind == all
+    ${NSD_Check} $boxAll
+  ${Else}
+    ${NSD_Check} $boxUser
+  ${EndIf}
+  ${If} $admin != yes
+    EnableWindow $boxAll 0
+    ${NSD_CreateLabel} 0 76u 100% 28u "Für alle Benutzer kann nur installieren, wer Administratorrechte hat. Auch die meisten Einstellungen von Quillmore verlangen sie."
+    Pop $0
+  ${EndIf}
+  nsDialogs::Show
+FunctionEnd
+
+Function TakeForWhom
+  ${NSD_GetState} $boxAll $0
+  StrCpy $1 $kind
+  StrCpy $kind user
+  ${If} $0 == ${BST_CHECKED}
+    StrCpy $kind all
+  ${EndIf}
+  ; Another kind has another folder, unless the command line named one.
+  ${If} $1 != $kind
+    StrCpy $INSTDIR ""
+  ${EndIf}
+  Call TakeKind
+FunctionEnd
+
+; A new version goes where the earlier one is.
+Function SkipKnownFolder
+  ${If} $earlier != ""
+    Abort
+  ${EndIf}
+FunctionEnd
+
+Section "Quillmore" program
+  AddSize 90
+  Call WaitForProgram
+  SetOutPath "$INSTDIR"
+  File "${FILES}\Quillmore.exe"
+  File "${FILES}\QuillmoreCmd.exe"
+  File "${FILES}\Anleitung.mht"
+  File "${FILES}\Liesmich.txt"
+  File "${FILES}\Lizenz.txt"
+  File "${FILES}\Sicherung.cmd"
+  ClearErrors
+  WriteUninstaller "$INSTDIR\Entfernen.exe"
+
+  CreateDirectory "$SMPROGRAMS\Quillmore"
+  CreateShortcut "$SMPROGRAMS\Quillmore\Quillmore.lnk" "$INSTDIR\Quillmore.exe" "" "" "" "" "" "Windows XP einstellen und pflegen"
+  CreateShortcut "$SMPROGRAMS\Quillmore\Anleitung.lnk" "$INSTDIR\Anleitung.mht" "" "" "" "" "" "Die Anleitung zu Quillmore"
+  CreateShortcut "$SMPROGRAMS\Quillmore\Sicherung der Einstellungen.lnk" "$INSTDIR\Sicherung.cmd" "" "$INSTDIR\QuillmoreCmd.exe" 0 "" "" "Sichert in den Ordner „Eigene Dateien“, was Quillmore ändern kann"
+
+  SectionGetSize ${program} $0
+  WriteRegStr SHCTX "${ENTRY}" "DisplayName" "Quillmore ${VERSION}"
+  WriteRegStr SHCTX "${ENTRY}" "DisplayIcon" "$INSTDIR\Quillmore.exe,0"
+  WriteRegStr SHCTX "${ENTRY}" "DisplayVersion" "${VERSION}"
+  WriteRegDWORD SHCTX "${ENTRY}" "EstimatedSize" $0
+  WriteRegStr SHCTX "${ENTRY}" "InstallLocation" "$INSTDIR"
+  WriteRegDWORD SHCTX "${ENTRY}" "NoModify" 1
+  WriteRegDWORD SHCTX "${ENTRY}" "NoRepair" 1
+  WriteRegStr SHCTX "${ENTRY}" "Publisher" "Quillmore"
+  WriteRegStr SHCTX "${ENTRY}" "QuietUninstallString" '"$INSTDIR\Entfernen.exe" /S'
+  WriteRegStr SHCTX "${ENTRY}" "UninstallString" '"$INSTDIR\Entfernen.exe"'
+  ${If} ${Errors}
+    SetErrorLevel 2
+    MessageBox MB_OK|MB_ICONSTOP "Nicht alles ließ sich schreiben. Vielleicht fehlen die Rechte, oder die Festplatte ist voll." /SD IDOK
+    Abort "Nicht alles ließ sich schreiben."
+  ${EndIf}
+SectionEnd
+
+Function ShowDone
+  !insertmacro MUI_HEADER_TEXT "Fertig" "Quillmore ${VERSION} ist installiert."
+  nsDialogs::Create 1018
+  Pop $0
+  ${NSD_CreateLabel} 0 0 100% 36u "Im Startmenü finden Sie unter „Quillmore“ das Programm, die Anleitung und eine Sicherung der Einstellungen. Machen Sie eine Sicherung, bevor Sie zum ersten Mal etwas übernehmen."
+  Pop $0
+  ${NSD_CreateCheckbox} 0 44u 100% 12u "Quillmore jetzt &starten"
+  Pop $boxStart
+  ${NSD_Check} $boxStart
+  ${NSD_CreateCheckbox} 0 60u 100% 12u "&Anleitung öffnen"
+  Pop $boxManual
+  GetDlgItem $0 $HWNDPARENT 1
+  SendMessage $0 ${WM_SETTEXT} 0 "STR:&Fertig stellen"
+  GetDlgItem $0 $HWNDPARENT 2
+  EnableWindow $0 0
+  GetDlgItem $0 $HWNDPARENT 3
+  EnableWindow $0 0
+  nsDialogs::Show
+FunctionEnd
+
+Function TakeDone
+  ${NSD_GetState} $boxManual $0
+  ${If} $0 == ${BST_CHECKED}
+    ExecShell "open" "$INSTDIR\Anleitung.mht"
+  ${EndIf}
+  ${NSD_GetState} $boxStart $0
+  ${If} $0 == ${BST_CHECKED}
+    SetOutPath "$INSTDIR"
+    Exec '"$INSTDIR\Quillmore.exe"'
+  ${EndIf}
+FunctionEnd
+
+; --- Removing --------------------------------------------------------------------------------
+
+Function un.onInit
+  StrCpy $kind all
+  ReadRegStr $0 HKCU "${ENTRY}" "InstallLocation"
+  ${If} $0 == $INSTDIR
+    StrCpy $kind user
+  ${EndIf}
+  Call un.SetKind
+  Call un.AskRights
+  ${If} $kind == all
+  ${AndIf} $admin != yes
+    MessageBox MB_OK|MB_ICONSTOP "Quillmore ist für alle Benutzer installiert. Entfernen kann es nur, wer Administratorrechte hat." /SD IDOK
+    SetErrorLevel ${NO_RIGHTS}
+    Quit
+  ${EndIf}
+
+  ; The entry that starts what is going to be gone goes with it, settings and log only on request.
+  StrCpy $dropStore 0
+  StrCpy $dropLog 0
+  StrCpy $dropRun 1
+  ${GetParameters} $R0
+  ClearErrors
+  ${GetOptions} $R0 "/ALLES" $1
+  ${IfNot} ${Errors}
+    StrCpy $dropStore 1
+    StrCpy $dropLog 1
+  ${EndIf}
+FunctionEnd
+
+; Whether the program starts with Windows from this folder: 1 or 0 in $R1.
+Function un.FindRun
+  StrCpy $R1 0
+  ReadRegStr $0 HKCU "${RUN}" "Quillmore"
+  ${If} $0 == '"$INSTDIR\Quillmore.exe"'
+    StrCpy $R1 1
+  ${EndIf}
+FunctionEnd
+
+; Whether the user has settings: 1 or 0 in $R1.
+Function un.FindStore
+  StrCpy $R1 0
+  EnumRegKey $0 HKCU "${STORE}\Quillmore" 0
+  ${If} $0 != ""
+    StrCpy $R1 1
+  ${EndIf}
+FunctionEnd
+
+!macro AskBox box state caption
+  ${NSD_CreateCheckbox} 0 "$rowu" 100% 12u "${caption}"
+  Pop ${box}
+  ${If} ${state} == 1
+    ${NSD_Check} ${box}
+  ${EndIf}
+  IntOp $row $row + 16
+!macroend
+
+!macro TakeBox box state
+  ${If} ${box} != ""
+    ${NSD_GetState} ${box} ${state}
+  ${EndIf}
+!macroend
+
+Function un.AskWhatElse
+  !insertmacro MUI_HEADER_TEXT "Quillmore entfernen" "Quillmore wird von diesem Computer entfernt."
+  StrCpy $boxStore ""
+  StrCpy $boxLog ""
+  StrCpy $boxRun ""
+  nsDialogs::Create 1018
+  Pop $0
+  ${NSD_CreateLabel} 0 0 100% 36u "Entfernt werden das Programm und seine Einträge im Startmenü und unter „Software“. Was Quillmore an Windows eingestellt hat, bleibt eingestellt. Andere Dateien im Ordner bleiben."
+  Pop $0
+  ${NSD_CreateLabel} 0 38u 100% 18u "$INSTDIR"
+  Pop $0
+  StrCpy $row 76
+  Call un.FindRun
+  ${If} $R1 == 1
+    !insertmacro AskBox $boxRun $dropRun "Den Eintrag im &Autostart entfernen"
+  ${EndIf}
+  Call un.FindStore
+  ${If} $R1 == 1
+    !insertmacro AskBox $boxStore $dropStore "Die &Programmoptionen entfernen, die Quillmore sich für Sie gemerkt hat"
+  ${EndIf}
+  ${If} ${FileExists} "$INSTDIR\Quillmore.log"
+    !insertmacro AskBox $boxLog $dropLog "Das &Fehlerprotokoll Quillmore.log löschen"
+  ${EndIf}
+  ${If} $row > 76
+    ${NSD_CreateLabel} 0 60u 100% 12u "Außerdem:"
+    Pop $0
+  ${EndIf}
+  nsDialogs::Show
+FunctionEnd
+
+Function un.TakeWhatElse
+  !insertmacro TakeBox $boxStore $dropStore
+  !insertmacro TakeBox $boxLog $dropLog
+  !insertmacro TakeBox $boxRun $dropRun
+FunctionEnd
+
+Section "Uninstall"
+  Call un.WaitForProgram
+  Delete "$INSTDIR\Quillmore.exe"
+  Delete "$INSTDIR\QuillmoreCmd.exe"
+  Delete "$INSTDIR\Anleitung.mht"
+  Delete "$INSTDIR\Liesmich.txt"
+  Delete "$INSTDIR\Lizenz.txt"
+  Delete "$INSTDIR\Sicherung.cmd"
+  Delete "$INSTDIR\Entfernen.exe"
+  Delete "$SMPROGRAMS\Quillmore\Quillmore.lnk"
+  Delete "$SMPROGRAMS\Quillmore\Anleitung.lnk"
+  Delete "$SMPROGRAMS\Quillmore\Sicherung der Einstellungen.lnk"
+  RMDir "$SMPROGRAMS\Quillmore"
+  DeleteRegKey SHCTX "${ENTRY}"
+
+  Call un.FindRun
+  ${If} $R1 == 1
+  ${AndIf} $dropRun == 1
+    DeleteRegValue HKCU "${RUN}" "Quillmore"
+  ${EndIf}
+  ${If} $dropStore == 1
+    DeleteRegKey HKCU "${STORE}\Quillmore"
+    DeleteRegKey /ifempty HKCU "${STORE}"
+  ${EndIf}
+  ${If} $dropLog == 1
+    Delete "$INSTDIR\Quillmore.log"
+  ${EndIf}
+  ; Only an empty folder goes.
+  SetOutPath "$TEMP"
+  RMDir "$INSTDIR"
+SectionEnd
