@@ -33,7 +33,9 @@ for program in "$work"/files/*.exe; do
 done
 sed "s/@SHORT_VERSION@/$version/" "$here/Liesmich.txt" >"$work/Liesmich.txt"
 "$root/tools/windows-text" "$work/Liesmich.txt" >"$work/files/Liesmich.txt"
-"$root/tools/windows-text" "$root/LICENSE" >"$work/files/Lizenz.txt"
+# The licences of what is linked in ask to go along.
+{ cat "$root/LICENSE"; echo; cat "$root/THIRD-PARTY.md"; } >"$work/Lizenz.txt"
+"$root/tools/windows-text" "$work/Lizenz.txt" >"$work/files/Lizenz.txt"
 "$root/tools/zip" "$name.zip" "$work/files" --flat
 
 "$root/tools/windows-text" "$here/Sicherung.cmd" 850 >"$work/files/Sicherung.cmd"
