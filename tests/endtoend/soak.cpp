@@ -21,6 +21,7 @@
 #include "endtoend/workplace.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/text.h"
+#include "support/drawingobjects.h"
 #include "support/openhandles.h"
 
 namespace endtoend {
@@ -57,31 +58,20 @@ constexpr Bound Bounds[] = {
     {"private KB", &Footprint::kilobytes, 2, 64, 4096},
 };
 
-// The process's own table of drawing objects, at the place that its process block names.
 int DrawingObjectsOf(HANDLE process) {
-    struct Entry {
-        unsigned long long object;
-        unsigned owner;
-        unsigned short unique;
-        unsigned char type;
-        unsigned char flags;
-        unsigned long long user;
-    };
-    static_assert(sizeof(Entry) == 24);
-    constexpr std::size_t Entries = 16384;
-    constexpr std::size_t TableOffset = 0x94;
     PROCESS_BASIC_INFORMATION facts = {};
     REQUIRE(NtQueryInformationProcess(process, ProcessBasicInformation, &facts, sizeof facts,
                                       nullptr) == 0);
     const auto* block = reinterpret_cast<const char*>(facts.PebBaseAddress);
     const void* table = nullptr;
-    std::vector<Entry> entries(Entries);
-    REQUIRE(ReadProcessMemory(process, block + TableOffset, &table, sizeof table, nullptr));
-    REQUIRE(ReadProcessMemory(process, table, entries.data(), Entries * sizeof(Entry), nullptr));
-    const auto count = std::count_if(entries.begin(), entries.end(),
-                                     [](const Entry& entry) { return entry.type != 0; });
+    std::vector<support::DrawingEntry> entries(support::DrawingEntries);
+    REQUIRE(ReadProcessMemory(process, block + support::DrawingTableOffset, &table, sizeof table,
+                              nullptr));
+    REQUIRE(ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof entries[0],
+                              nullptr));
+    const int count = support::UsedDrawingEntries(entries.data());
     REQUIRE(count > 0);
-    return static_cast<int>(count);
+    return count;
 }
 
 int WindowsOfOthers(DWORD process) {
@@ -334,7 +324,7 @@ void Soak(unsigned restartEvery) {
 }
 
 // Without a shell that starts anew, and with one; a short run does both in one.
-TEST_CASE("day after day leaves no handles, objects or memory behind") {
+TEST_CASE("day after day takes no more handles, objects and memory than is known of") {
     if (Cycles() < FullRun) return Soak(3);
     Soak(0);
     Soak(20);
