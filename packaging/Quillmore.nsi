@@ -23,7 +23,7 @@ Caption "Installation von Quillmore ${VERSION}"
 UninstallCaption "Quillmore entfernen"
 BrandingText " "
 OutFile "${OUTPUT}"
-!uninstfinalize '${UNINSTALLER} "%1"'
+!uninstfinalize '"${UNINSTALLER}" "%1"' = 0
 
 VIProductVersion "${VERSION_NUMBERS}"
 VIFileVersion "${VERSION_NUMBERS}"
