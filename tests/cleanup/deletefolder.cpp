@@ -22,6 +22,14 @@ TEST_CASE_FIXTURE(DeleteFolderFixture, "a file taken for a folder is failure 76 
     CHECK(folders.Find("C:\\a.tmp").has_value());
 }
 
+TEST_CASE_FIXTURE(DeleteFolderFixture,
+                  "a link to a file taken for a folder is failure 76 and stays") {
+    disk.MakeFile("C:\\a.tmp").attributes |= platform::attribute::Link;
+    CHECK(FailureOf([&] { cleanup::DeleteFolder(folders, files, "C:\\a.tmp"); }) == 76);
+    CHECK(FailureOf([&] { cleanup::DropLinks(folders, files, "C:\\a.tmp"); }) == 76);
+    CHECK(folders.Find("C:\\a.tmp").has_value());
+}
+
 TEST_CASE_FIXTURE(DeleteFolderFixture, "a folder that is not there is failure 76") {
     CHECK(FailureOf([&] { cleanup::DeleteFolder(folders, files, "C:\\gone"); }) == 76);
     CHECK(FailureOf([&] { cleanup::DropLinks(folders, files, "C:\\gone"); }) == 76);

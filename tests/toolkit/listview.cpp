@@ -225,3 +225,32 @@ TEST_CASE_FIXTURE(ListViewFixture,
     CHECK(view.shown == std::vector<Aspect>{Aspect::Items, Aspect::Value});
     CHECK(list.SelectedRow() == 1);
 }
+
+TEST_CASE_FIXTURE(ListViewFixture, "rows that move below the focus make the window place it anew") {
+    Fill({"a", "b", "c"});
+    list.SetSelected(2, true);
+    SUBCASE("with nothing selected") {
+        list.SetSelected(2, false);
+    }
+    SUBCASE("with a selected row elsewhere that has it no longer") {
+        list.SelectionMade(0, 2, false);
+        list.SelectionMade(1, 1, true);
+        list.FocusMoved(7);
+        CHECK_FALSE(list.HasFocus(2));
+    }
+    view.shown.clear();
+    list.RemoveRow(0);
+    CHECK(view.shown == std::vector<Aspect>{Aspect::Items, Aspect::Value});
+}
+
+TEST_CASE_FIXTURE(ListViewFixture, "rows in order are not moved by asking for the order again") {
+    Fill({"b", "a"});
+    list.SetSorted(true);
+    list.SetText(0, 0, "c");
+    view.shown.clear();
+    list.SetSorted(true);
+    CHECK(Column() == Texts{"b", "c"});
+    CHECK(view.shown == std::vector<Aspect>{Aspect::Items});
+    list.SetSorted(true);
+    CHECK(view.shown == std::vector<Aspect>{Aspect::Items});
+}
