@@ -51,3 +51,8 @@ TEST_CASE_FIXTURE(KnownLinksFixture, "on a server folders begin behind the share
     links.Add(folders, "\\\\server\\share\\temp\\link");
     CHECK(links.AllowRemoval(folders, "\\\\server\\share\\temp\\link\\a.tmp"));
 }
+
+TEST_CASE_FIXTURE(KnownLinksFixture, "a server and its share are looked at by nobody") {
+    links.AllowRemoval(folders, "\\\\server\\share\\a.tmp");
+    CHECK(machine.journal.Calls("GetFileAttributesExW").empty());
+}

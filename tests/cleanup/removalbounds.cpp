@@ -325,6 +325,30 @@ TEST_CASE_FIXTURE(Bounds, "a temp folder that is reached through a junction is c
     CHECK_FALSE(IsThere("C:\\Profil\\Temp\\sub"));
 }
 
+TEST_CASE_FIXTURE(Bounds, "recent documents that are reached through a junction are cleaned") {
+    disk.MakeLink("C:\\Short", "C:\\Profil");
+    machine.shell.specialFolders[8] = "C:\\Short\\Recent";
+    File("C:\\Profil\\Recent\\a.lnk");
+    frame.chkCleanUserTempFolder.SetValue(0);
+    Tick(frame.chkRecentDocFolder);
+    Search();
+    NotePlaces();
+    CHECK(ChangedOutside() == Lines{});
+    CHECK_FALSE(IsThere("C:\\Profil\\Recent\\a.lnk"));
+}
+
+TEST_CASE_FIXTURE(Bounds, "a temp folder of Windows that is a junction is cleaned") {
+    machine.systemFacts.windowsDirectory = "C:\\WIN";
+    disk.MakeFolder("C:\\WIN");
+    disk.MakeLink("C:\\WIN\\Temp", "D:\\WinTemp");
+    File("D:\\WinTemp\\sub\\b.dat");
+    frame.chkCleanUserTempFolder.SetValue(0);
+    Search();
+    NotePlaces();
+    CHECK(ChangedOutside() == Lines{});
+    CHECK_FALSE(IsThere("D:\\WinTemp\\sub"));
+}
+
 TEST_CASE_FIXTURE(Bounds, "a folder whose links cannot be taken out is not given to the shell") {
     intoBin = true;
     disk.MakeLink("C:\\UserTemp\\a\\link", "C:\\data").held = true;

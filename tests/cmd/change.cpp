@@ -81,3 +81,18 @@ TEST_CASE("the values of a key that goes are told with it and not deleted one by
           std::vector<std::string>{"gelöscht HKCU\\K\\L [v]: REG_SZ \"\"", "gelöscht HKCU\\K\\L"});
     CHECK_FALSE(program.machine.registry.HasKey(HKCU, "K\\L"));
 }
+
+TEST_CASE("texts are told as texts only when their zeros stand as they should") {
+    const auto told = [](std::uint32_t type, std::vector<std::uint8_t> bytes) {
+        const std::string text =
+            cmd::ToDo({Kind::WriteValue, HKCU, "K", "v", std::nullopt, Value{type, bytes}});
+        return text.substr(text.find(": ") + 2);
+    };
+    CHECK(told(1, {0, 0}) == "REG_SZ \"\"");
+    CHECK(told(1, {}) == "REG_SZ \"\"");
+    CHECK(told(1, {0, 0, 0, 0}) == "REG_SZ 00 00 00 00");
+    CHECK(told(7, {0, 0, 0, 0}) == "REG_MULTI_SZ \"\"");
+    CHECK(told(7, {0, 0}) == "REG_MULTI_SZ 00 00");
+    CHECK(told(7, {'a', 0, 0, 0, 'b', 0, 0, 0, 0, 0}) == "REG_MULTI_SZ \"a\" \"b\"");
+    CHECK(told(7, {'a', 0, 0, 0}) == "REG_MULTI_SZ 61 00 00 00");
+}

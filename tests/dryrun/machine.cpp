@@ -47,6 +47,14 @@ TEST_CASE_FIXTURE(OverFiles, "a file that is written as it was is no change, a r
     CHECK(dry.files.Changes()[0].content == std::nullopt);
 }
 
+TEST_CASE_FIXTURE(OverFiles, "a file as it was is opened for reading below, a changed one is not") {
+    files.Close(files.OpenForReading(Path));
+    CHECK(inner.journal.Calls("OpenForReading").size() == 1);
+    files.WriteText(Path, "new");
+    files.Close(files.OpenForReading(Path));
+    CHECK(inner.journal.Calls("OpenForReading").size() == 1);
+}
+
 TEST_CASE_FIXTURE(OverFiles, "what is appended stands behind what is there") {
     const auto file = files.OpenForAppend(Path);
     files.Write(file, " and new");
