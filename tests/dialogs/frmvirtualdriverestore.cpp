@@ -95,8 +95,10 @@ TEST_CASE_FIXTURE(Drives, "the stored drives are made again by the routine that 
     form.RestoreDrives();
     CHECK(Started() == Lines{"command.com /csubst E: C:\\A", "command.com /csubst F: SYSTEM"});
     machine.settingsStore.Save("dmVDriveC", "Config", "Count", "0");
+    machine.folders.current = "D:\\";
     form.RestoreDrives();
     CHECK(Started().empty());
+    CHECK(machine.folders.current == "D:\\");
 }
 
 TEST_CASE_FIXTURE(Drives, "each stored drive is awaited before the next one is made") {
