@@ -32,13 +32,16 @@ TEST_CASE("each number of the platform has its own German text") {
     CHECK(DescriptionOf(18) == "Benutzerunterbrechung");
     CHECK(DescriptionOf(52) == "Dateiname oder -nummer falsch");
     CHECK(DescriptionOf(53) == "Datei nicht gefunden");
+    CHECK(DescriptionOf(68) == "Gerät nicht verfügbar");
     CHECK(DescriptionOf(70) == "Zugriff verweigert");
     CHECK(DescriptionOf(75) == "Fehler beim Zugriff auf Pfad/Datei");
     CHECK(DescriptionOf(76) == "Pfad nicht gefunden");
+    CHECK(DescriptionOf(91) == "Objektvariable oder With-Blockvariable nicht festgelegt");
     CHECK(DescriptionOf(380) == "Ungültiger Eigenschaftswert");
     CHECK(DescriptionOf(429) == "Objekterstellung durch ActiveX-Komponente nicht möglich");
     CHECK(DescriptionOf(440) == "Automatisierungsfehler");
     CHECK(DescriptionOf(453) == "Angegebene DLL-Funktion nicht gefunden");
+    CHECK(DescriptionOf(35600) == "Index außerhalb des gültigen Bereichs");
 }
 
 TEST_CASE("an unknown number has the platform's general text") {
