@@ -5,6 +5,8 @@
 #include <doctest/doctest.h>
 #include <psapi.h>
 
+#include <iterator>
+
 #include "support/drawingobjects.h"
 #include "support/openhandles.h"
 
@@ -19,6 +21,20 @@ int DrawingObjects() {
 
 int Handles() {
     return support::OpenHandles();
+}
+
+int MemoryBlocks() {
+    HANDLE heaps[64];
+    const DWORD count = GetProcessHeaps(static_cast<DWORD>(std::size(heaps)), heaps);
+    REQUIRE(count <= std::size(heaps));
+    int blocks = 0;
+    for (DWORD i = 0; i < count; ++i) {
+        PROCESS_HEAP_ENTRY entry = {};
+        HeapLock(heaps[i]);
+        while (HeapWalk(heaps[i], &entry)) blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+        HeapUnlock(heaps[i]);
+    }
+    return blocks;
 }
 
 std::size_t PrivateMemory() {

@@ -11,6 +11,8 @@ namespace windows {
 int DrawingObjects();
 // Files, events and what else has a handle.
 int Handles();
+// Blocks of memory in use: what `new` gives, and what the system takes for itself in this process.
+int MemoryBlocks();
 // Bytes that are the process's own.
 std::size_t PrivateMemory();
 
