@@ -170,6 +170,18 @@ TEST_CASE_FIXTURE(Object, "reading leaves one key open, everything else closes i
     CHECK(machine.registry.OpenHandles() == 2);
 }
 
+TEST_CASE_FIXTURE(Object, "of a key that cannot be opened nothing more is asked") {
+    std::vector<std::string> names;
+    int count = 1;
+    object.EnumerateSections(names, count);
+    CHECK(count == 0);
+    object.EnumerateValues(names, count);
+    CHECK(count == 0);
+    CHECK(machine.journal.Calls("RegEnumKeyExA").empty());
+    CHECK(machine.journal.Calls("RegEnumValueA").empty());
+    CHECK(machine.journal.Calls("RegCloseKey").empty());
+}
+
 TEST_CASE_FIXTURE(Object, "each call asks for the rights that are told for it") {
     object.CreateKey();
     object.Value();
