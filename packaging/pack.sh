@@ -47,9 +47,16 @@ $([[ -z $sign ]] || echo "$sign \"\$1\"")
 cp "\$1" "$work/Entfernen.exe"
 SCRIPT
 chmod +x "$work/uninstaller"
-makensis -V2 -WX -NOCD -INPUTCHARSET UTF8 "-DFILES=$work/files" \
+makensis -V4 -WX -NOCD -INPUTCHARSET UTF8 "-DFILES=$work/files" \
     "-DICON=$root/resources/Quillmore.ico" "-DOUTPUT=$name-Setup.exe" \
     "-DUNINSTALLER=$work/uninstaller" "-DVERSION=$version" "-DVERSION_NUMBERS=$numbers" \
-    "$here/Quillmore.nsi"
+    "$here/Quillmore.nsi" >"$work/log" || { tail -20 "$work/log" >&2; exit 1; }
+# What of the maker's own goes into the installer, to be looked at.
+plugins=$(sed -n 's|^Processing default plugins: "\(.*\)/\*\.dll"$|\1|p' "$work/log" | head -1)
+mkdir "$work/plugins"
+sed -n 's/^File: "\(.*\.dll\)"->"$PLUGINSDIR.*/\1/p' "$work/log" | sort -u |
+    while read -r plugin; do
+        cp "$plugins/$plugin" "$work/plugins"
+    done
 Sign "$name-Setup.exe"
 sha256sum "$name.zip" "$name-Setup.exe" >SHA256SUMS

@@ -6,7 +6,8 @@
 #   audit.sh service-packs LATER HEADERS    none of them came with a service pack
 #   audit.sh asked LATER PROGRAM            of those functions the program names the ones marked so
 #   audit.sh headers KIND HEADERS           32-bit, for Windows 5.1, and windowed with a manifest, or
-#                                           console
+#                                           console; an installer may be for an earlier Windows, and
+#                                           so may a plug-in, which has no manifest
 #   audit.sh instructions DISASSEMBLY       nothing that a processor without SSE cannot run
 #   audit.sh size PROGRAM BYTES             the file is no larger than that
 #   audit.sh code-end MAP                   prints where the linker put the end of the code
@@ -17,6 +18,9 @@
 #   audit.sh suite ALLOWED MORE LATER OBJDUMP PROGRAM MAP
 #                                           imports from either list, service-packs, headers of a
 #                                           console program and instructions
+#   audit.sh installer ALLOWED MORE LATER BYTES OBJDUMP INSTALLER UNINSTALLER PLUG-INS
+#                                           the same of an installer, its uninstaller and all DLLs in
+#                                           the folder of its plug-ins, and size of the installer
 # HEADERS is what `objdump -p` prints, DISASSEMBLY what `objdump -d` prints. Every violation is one
 # line; the exit code is 1 when there is any.
 set -euo pipefail
@@ -102,7 +106,7 @@ CheckAsked() {
 CheckHeaders() {
     local subsystem
     case $1 in
-        windowed) subsystem=00000002 ;;
+        windowed | installer | plug-in) subsystem=00000002 ;;
         console) subsystem=00000003 ;;
         *) echo "no kind of program: $1" && return 1 ;;
     esac
@@ -111,6 +115,14 @@ CheckHeaders() {
             found = label in field ? field[label] : "absent"
             if (found != wanted) {
                 print label " is " found ", not " wanted
+                bad = 1
+            }
+        }
+        function ExpectAtMost(label, major, minor) {
+            found = (("Major" label) in field) ? field["Major" label] "." field["Minor" label] : "absent"
+            if (found == "absent" || field["Major" label] + 0 > major ||
+                (field["Major" label] + 0 == major && field["Minor" label] + 0 > minor)) {
+                print label " is " found ", later than " major "." minor
                 bad = 1
             }
         }
@@ -126,12 +138,17 @@ CheckHeaders() {
         END {
             Expect("file format", "pei-i386")
             Expect("Magic", "(PE32)")
-            Expect("MajorOSystemVersion", "5")
-            Expect("MinorOSystemVersion", "1")
-            Expect("MajorSubsystemVersion", "5")
-            Expect("MinorSubsystemVersion", "1")
+            if (kind == "windowed" || kind == "console") {
+                Expect("MajorOSystemVersion", "5")
+                Expect("MinorOSystemVersion", "1")
+                Expect("MajorSubsystemVersion", "5")
+                Expect("MinorSubsystemVersion", "1")
+            } else {
+                ExpectAtMost("OSystemVersion", 5, 1)
+                ExpectAtMost("SubsystemVersion", 5, 1)
+            }
             Expect("Subsystem", subsystem)
-            if (kind == "windowed") Expect("manifest", "present")
+            if (kind == "windowed" || kind == "installer") Expect("manifest", "present")
             # Functions in a table of their own would escape the look at the imports.
             Expect("delayed imports", "00000000")
             exit bad
@@ -228,6 +245,40 @@ CheckSuite() {
     return $status
 }
 
+# Nothing tells where the code of these ends, but they have no tables behind it.
+CheckInstaller() {
+    local allowed=$1 more=$2 later=$3 limit=$4 objdump=$5 installer=$6 uninstaller=$7 plugins=$8
+    local status=0 texts file kind said
+    texts=$(mktemp -d)
+    cat "$allowed" "$more" >"$texts/allowed"
+    for file in "$installer" "$uninstaller" "$plugins"/*.dll; do
+        kind=installer
+        [[ $file == *.dll ]] && kind=plug-in
+        if [[ ! -f $file ]]; then
+            echo "$file is not there"
+            status=1
+            continue
+        fi
+        "$objdump" -p "$file" >"$texts/headers"
+        "$objdump" -d "$file" >"$texts/disassembly"
+        # The name before each violation, as one run looks at several files.
+        said=$(
+            status=0
+            CheckImports "$texts/allowed" "$texts/headers" || status=1
+            CheckServicePacks "$later" "$texts/headers" || status=1
+            CheckHeaders $kind "$texts/headers" || status=1
+            CheckInstructions "$texts/disassembly" || status=1
+            exit $status
+        ) || { sed "s|^|$(basename "$file"): |" <<<"$said"; status=1; }
+    done
+    CheckSize "$installer" "$limit" || status=1
+    rm -r "$texts"
+    if ((status == 0)); then
+        echo "$installer: $(stat -c %s "$installer") bytes, nothing that XP lacks, nor its plug-ins"
+    fi
+    return $status
+}
+
 what=${1:-}
 shift || true
 case $what in
@@ -242,5 +293,6 @@ case $what in
     size) CheckSize "$@" ;;
     program) CheckProgram "$@" ;;
     suite) CheckSuite "$@" ;;
+    installer) CheckInstaller "$@" ;;
     *) sed -n '2,/^$/s/^# \?//p' "$0" >&2; exit 2 ;;
 esac

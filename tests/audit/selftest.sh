@@ -116,6 +116,77 @@ if "$here/audit.sh" size "$work/hundred" 99 >/dev/null; then
     Report "a file larger than the limit passed"
 fi
 
+Accepts "an earlier system passes for an installer" headers installer \
+    <(sed -E 's/^(Major(OS|Subs)ystemVersion\t)5/\14/' "$here/samples/headers.txt")
+Refuses "an installer for a later system" "OSystemVersion is 6.1, later than 5.1" \
+    's/^\(MajorOSystemVersion\t\)5/\16/' headers.txt headers installer
+Refuses "an installer for a later subsystem" "SubsystemVersion is 5.2, later than 5.1" \
+    's/^\(MinorSubsystemVersion\t\)1/\12/' headers.txt headers installer
+Refuses "an installer without a manifest" "manifest is absent" \
+    's/ID: 0x000018/ID: 0x000010/' headers.txt headers installer
+Accepts "a plug-in needs no manifest" headers plug-in \
+    <(sed 's/ID: 0x000018/ID: 0x000010/' "$here/samples/headers.txt")
+
+# A whole installer, of which a stand-in for objdump says what stands in the texts of that name.
+mkdir -p "$work/package/plug-ins"
+touch "$work/package/"{Setup.exe,Entfernen.exe,plug-ins/Some.dll}
+cat >"$work/objdump" <<'SCRIPT'
+#!/bin/bash
+cat "$2$1"
+SCRIPT
+chmod +x "$work/objdump"
+installer=(installer "$here/samples/allowed.txt" /dev/null "$later" 100 "$work/objdump"
+    "$work/package/Setup.exe" "$work/package/Entfernen.exe" "$work/package/plug-ins")
+Describe() {
+    local file
+    for file in "$work/package/"{Setup.exe,Entfernen.exe,plug-ins/Some.dll}; do
+        cp "$here/samples/headers.txt" "$file-p"
+        cp "$here/samples/disassembly.txt" "$file-d"
+    done
+}
+# Spoils NAME MESSAGE SED-SCRIPT FILE: refused with FILE changed, one of those of the package.
+Spoils() {
+    local code=0
+    Describe
+    sed -i "$3" "$work/package/$4"
+    "$here/audit.sh" "${installer[@]}" >"$work/said" || code=$?
+    if ((code != 1)); then
+        Report "$1: exit code $code"
+    elif ! grep -qxF -- "$2" "$work/said"; then
+        Report "$1: said $(<"$work/said")"
+    fi
+}
+Describe
+Accepts "an installer in order" "${installer[@]}"
+newer='not known to be exported by XP SP3: shell32!SHGetKnownFolderPath'
+Spoils "a newer function in the installer" "Setup.exe: $newer" \
+    's/ShellExecuteA/SHGetKnownFolderPath/' Setup.exe-p
+Spoils "a newer function in the uninstaller" "Entfernen.exe: $newer" \
+    's/ShellExecuteA/SHGetKnownFolderPath/' Entfernen.exe-p
+Spoils "a newer function in a plug-in" "Some.dll: $newer" \
+    's/ShellExecuteA/SHGetKnownFolderPath/' plug-ins/Some.dll-p
+Spoils "a function of a service pack in an installer" \
+    "Setup.exe: came with a service pack: shell32!LaterFunction" \
+    's/ShellExecuteA/LaterFunction/' Setup.exe-p
+Spoils "an SSE2 instruction in a plug-in" \
+    "$(printf 'Some.dll: not on every processor of XP: %s' "$(sed -n 's/ret/mfence/p' \
+        "$here/samples/disassembly.txt" | head -1)")" \
+    's/ret/mfence/' plug-ins/Some.dll-d
+Spoils "a plug-in for a later system" "Some.dll: OSystemVersion is 6.1, later than 5.1" \
+    's/^\(MajorOSystemVersion\t\)5/\16/' plug-ins/Some.dll-p
+Describe
+rm "$work/package/Entfernen.exe"
+Spoils "a missing uninstaller" "$work/package/Entfernen.exe is not there" '' Entfernen.exe-p
+touch "$work/package/Entfernen.exe"
+rm "$work/package/plug-ins/Some.dll"
+Spoils "an installer without its plug-ins" "$work/package/plug-ins/*.dll is not there" '' \
+    plug-ins/Some.dll-p
+touch "$work/package/plug-ins/Some.dll"
+Describe
+truncate -s 101 "$work/package/Setup.exe"
+Spoils "an installer that is too large" "$work/package/Setup.exe has 101 bytes, more than 100" '' \
+    Setup.exe-p
+
 if ((failures > 0)); then
     echo "$failures failed" >&2
     exit 1
