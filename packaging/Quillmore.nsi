@@ -34,13 +34,15 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "Copyright (c) 2026 Quillmore contri
 VIAddVersionKey /LANG=1031 "ProductName" "Quillmore"
 VIAddVersionKey /LANG=1031 "ProductVersion" "${VERSION_NUMBERS}"
 
-!define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillmore"
+!define ENTRIES "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define ENTRY "${ENTRIES}\Quillmore"
 !define RUN "Software\Microsoft\Windows\CurrentVersion\Run"
 !define STORE "Software\VB and VBA Program Settings"
 ; Message boxes of the installer and of the uninstaller.
 !define TITLE "Quillmore"
 
 !define CANCELLED 1
+!define NOT_WRITTEN 2
 !define NOT_XP 3
 !define RUNNING 4
 !define NO_RIGHTS 5
@@ -276,7 +278,7 @@ Section "Quillmore" program
   WriteRegStr SHCTX "${ENTRY}" "QuietUninstallString" '"$INSTDIR\Entfernen.exe" /S'
   WriteRegStr SHCTX "${ENTRY}" "UninstallString" '"$INSTDIR\Entfernen.exe"'
   ${If} ${Errors}
-    SetErrorLevel 2
+    SetErrorLevel ${NOT_WRITTEN}
     MessageBox MB_OK|MB_ICONSTOP "Nicht alles ließ sich schreiben. Vielleicht fehlen die Rechte, oder die Festplatte ist voll." /SD IDOK
     Abort "Nicht alles ließ sich schreiben."
   ${EndIf}
@@ -413,20 +415,30 @@ Function un.TakeWhatElse
   !insertmacro TakeBox $boxRun $dropRun
 FunctionEnd
 
+; With an error stops while there is still a way to try again.
+Function un.StopIfLocked
+  ${IfNot} ${Errors}
+    Return
+  ${EndIf}
+  SetErrorLevel ${NOT_WRITTEN}
+  MessageBox MB_OK|MB_ICONSTOP "Nicht alles ließ sich entfernen. Vielleicht ist eine der Dateien noch geöffnet.$\r$\n$\r$\nQuillmore bleibt unter „Software“ eingetragen; versuchen Sie es später noch einmal." /SD IDOK
+  Abort "Nicht alles ließ sich entfernen."
+FunctionEnd
+
 Section "Uninstall"
   Call un.WaitForProgram
+  ClearErrors
   Delete "$INSTDIR\Quillmore.exe"
   Delete "$INSTDIR\QuillmoreCmd.exe"
   Delete "$INSTDIR\Anleitung.mht"
   Delete "$INSTDIR\Liesmich.txt"
   Delete "$INSTDIR\Lizenz.txt"
   Delete "$INSTDIR\Sicherung.cmd"
-  Delete "$INSTDIR\Entfernen.exe"
   Delete "$SMPROGRAMS\Quillmore\Quillmore.lnk"
   Delete "$SMPROGRAMS\Quillmore\Anleitung.lnk"
   Delete "$SMPROGRAMS\Quillmore\Sicherung der Einstellungen.lnk"
+  Call un.StopIfLocked
   RMDir "$SMPROGRAMS\Quillmore"
-  DeleteRegKey SHCTX "${ENTRY}"
 
   Call un.FindRun
   ${If} $R1 == 1
@@ -438,7 +450,21 @@ Section "Uninstall"
     DeleteRegKey /ifempty HKCU "${STORE}"
   ${EndIf}
   ${If} $dropLog == 1
+    ClearErrors
     Delete "$INSTDIR\Quillmore.log"
+    Call un.StopIfLocked
+  ${EndIf}
+
+  ; Started by "_?=" the uninstaller runs where it lies and cannot delete itself.
+  ${If} $EXEPATH != "$INSTDIR\Entfernen.exe"
+    ClearErrors
+    Delete "$INSTDIR\Entfernen.exe"
+    Call un.StopIfLocked
+  ${EndIf}
+  DeleteRegKey SHCTX "${ENTRY}"
+  ${If} $kind == user
+    ; Of a user who has nothing else of his own the list was not there before.
+    DeleteRegKey /ifempty HKCU "${ENTRIES}"
   ${EndIf}
   ; Only an empty folder goes.
   SetOutPath "$TEMP"

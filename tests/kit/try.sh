@@ -4,6 +4,7 @@
 # before: no key or value in the registry, no file or folder on drive C:. PART as in runner.cpp.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../../tools/wine-environment"
+source "$(dirname "${BASH_SOURCE[0]}")/../support/prefixdump.sh"
 archive=$(realpath "$1")
 part=${2:-1}
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -13,19 +14,6 @@ Leave() {
     EndWine
     EndDisplay
     rm -r "$work"
-}
-
-# The whole registry as it stands on the disk, without the times of keys; and each file with what
-# is in it. Left out is what Wine itself writes at a start: its list of the fonts of the system
-# around it, when the screen's driver was installed, and how its console looks.
-Dump() {
-    EndWine
-    for hive in system user userdef; do
-        sed -e '/^\[Console\]/,/^$/d' -e '/^#time=/d' -e 's/^\(\[.*\]\) [0-9]*$/\1/' -e '/^"[^"]* (TrueType)"=/d' \
-            -e '/^"DriverDateData"=/d' -e "s/^/$hive: /" "$prefix/$hive.reg"
-    done
-    (cd "$prefix/drive_c" && find . -mindepth 1 ! -path "$folder/Ergebnis.txt" \
-        \( -type f -exec sha256sum {} + -o -print \) | LC_ALL=C sort)
 }
 
 UseWine "$root/build/kit-prefix"
@@ -46,6 +34,9 @@ rmdir Quillmore-Pruefung
 StartDisplay
 # What a first start leaves behind is not the kit's.
 InWine timeout 60 wine Teile/contract_child.exe sleep 1 >/dev/null 2>&1 || true
+Dump() {
+    DumpPrefix ! -path "$folder/Ergebnis.txt"
+}
 Dump >"$work/before"
 code=0
 InWine timeout --kill-after=10 900 wine cmd /c Pruefen.cmd "$part" >"$work/said" 2>/dev/null ||
