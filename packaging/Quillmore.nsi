@@ -22,6 +22,9 @@ Name "Quillmore ${VERSION}"
 Caption "Installation von Quillmore ${VERSION}"
 UninstallCaption "Quillmore entfernen"
 BrandingText " "
+; The usual captions are wider than the buttons.
+DetailsButtonText "&Details"
+UninstallButtonText "&Entfernen"
 OutFile "${OUTPUT}"
 !uninstfinalize '"${UNINSTALLER}" "%1"' = 0
 
@@ -296,7 +299,7 @@ Function ShowDone
   ${NSD_CreateCheckbox} 0 60u 100% 12u "&Anleitung öffnen"
   Pop $boxManual
   GetDlgItem $0 $HWNDPARENT 1
-  SendMessage $0 ${WM_SETTEXT} 0 "STR:&Fertig stellen"
+  SendMessage $0 ${WM_SETTEXT} 0 "STR:&Fertig"
   GetDlgItem $0 $HWNDPARENT 2
   EnableWindow $0 0
   GetDlgItem $0 $HWNDPARENT 3

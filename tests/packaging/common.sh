@@ -63,6 +63,8 @@ Check() {
         echo "FAILED: $sentence" >&2
         sed 's/^/    /' "$work/said" >&2
         failures=$((failures + 1))
+        # A window that has stayed would be in the way of all others.
+        EndWine
     fi
 }
 
@@ -141,4 +143,27 @@ Dump() {
 Unchanged() {
     Dump >"$work/after"
     diff "$work/before" "$work/after"
+}
+
+# OtherWindows COMMAND...: while the installer sees another one.
+OtherWindows() {
+    local key='HKCU\Software\Wine\AppDefaults\Setup.exe' code=0
+    Run reg add "$key" /v Version /d win7 /f >/dev/null
+    "$@" || code=$?
+    Run reg delete "$key" /f >/dev/null
+    return $code
+}
+
+# Lock FILE: until Unlock it is open, and nobody can write or delete it.
+Lock() {
+    : >"$work/held"
+    Run Paket/visitor.exe hold "$(WindowsPath "$1")" >"$work/held" &
+    holder=$!
+    until [[ -s $work/held ]] || ! kill -0 "$holder" 2>/dev/null; do sleep 0.05; done
+}
+
+Unlock() {
+    touch Paket/release
+    wait "$holder"
+    rm Paket/release
 }

@@ -55,18 +55,11 @@ Upgrade() {
 
 # While somebody reads the manual.
 LockedFile() {
-    local holder
-    : >"$work/held"
-    Run Paket/visitor.exe hold "$(WindowsPath "$for_all")\\Anleitung.mht" >"$work/held" &
-    holder=$!
-    until [[ -s $work/held ]] || ! kill -0 "$holder" 2>/dev/null; do sleep 0.05; done
-    "$@" || { EndHolder "$holder"; return 1; }
-    EndHolder "$holder"
-}
-
-EndHolder() {
-    Run taskkill /f /im visitor.exe >/dev/null
-    wait "$1" 2>/dev/null || true
+    local status=0
+    Lock "$for_all/Anleitung.mht"
+    "$@" || status=1
+    Unlock
+    return $status
 }
 
 StaysForAnotherTry() {
@@ -101,15 +94,6 @@ PutAway() {
     rmdir "$for_all"
     Run reg delete "$store" /f >/dev/null
     Run reg delete "$run" /v Quillmore /f >/dev/null
-}
-
-# OtherWindows COMMAND...: while the installer sees another one.
-OtherWindows() {
-    local key='HKCU\Software\Wine\AppDefaults\Setup.exe' code=0
-    Run reg add "$key" /v Version /d win7 /f >/dev/null
-    "$@" || code=$?
-    Run reg delete "$key" /f >/dev/null
-    return $code
 }
 
 version=$(basename "$1" -Setup.exe)

@@ -5,9 +5,10 @@
 //   ticked TEXT, unticked TEXT
 //                    the box with that caption is as it should be
 //   fits             every caption of the window in front can be read in full
-//   gone TITLE       waits until no window has that title
+//   gone TITLE       waits until no window has a title that begins so
 // Or alone, before what it is about:
-//   hold FILE        opens the file so that nobody else can delete it, and waits to be ended
+//   hold FILE        opens the file so that nobody else can write or delete it, until there is a
+//                    file C:\Paket\release
 //   run PROGRAM [ARGUMENT...], limited PROGRAM [ARGUMENT...]
 //                    runs it, for a user who is no administrator; waits for all that it starts in
 //                    turn, and answers with its own exit code
@@ -35,7 +36,9 @@ using endtoend::Failed;
 using endtoend::Look;
 using platform::win32::FromWide;
 using platform::win32::KernelHandle;
-using platform::win32::ToWide;
+
+// Milliseconds; also on a machine with much else to do.
+constexpr unsigned Patience = 30000;
 
 // Of the window in front; it may go while it is being looked at.
 std::vector<Look> LooksInFront() {
@@ -63,18 +66,21 @@ bool Shows(const Look& look, const std::string& text) {
 void See(const std::string& text) {
     std::string seen;
     try {
-        endtoend::Until("", [&] {
-            seen = '"' + endtoend::SeenTitle(endtoend::See().front) + '"';
-            std::vector<Look> looks;
-            try {
-                looks = LooksInFront();
-            } catch (const Failed&) {
-                return false;
-            }
-            for (const Look& look : looks) seen += " [" + look.text + ']';
-            return std::any_of(looks.begin(), looks.end(),
-                               [&](const Look& look) { return Shows(look, text); });
-        });
+        endtoend::Until(
+            "",
+            [&] {
+                seen = '"' + endtoend::SeenTitle(endtoend::See().front) + '"';
+                std::vector<Look> looks;
+                try {
+                    looks = LooksInFront();
+                } catch (const Failed&) {
+                    return false;
+                }
+                for (const Look& look : looks) seen += " [" + look.text + ']';
+                return std::any_of(looks.begin(), looks.end(),
+                                   [&](const Look& look) { return Shows(look, text); });
+            },
+            Patience);
     } catch (const Failed&) {
         throw Failed("waited in vain for \"" + text + "\"; in front is " + seen);
     }
@@ -101,12 +107,17 @@ void ExpectTick(const std::string& text, bool ticked) {
             }
             return false;
         },
-        10000);
+        Patience / 3);
 }
 
 void ExpectFit(const std::string&) {
     std::string cut;
-    for (const Look& look : LooksInFront()) {
+    for (Look look : LooksInFront()) {
+        const LONG type = look.style & BS_TYPEMASK;
+        // Of a button that has no mark, all is for the caption.
+        if (look.Is("Button") && (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON)) {
+            look.windowClass = "chameleonButton";
+        }
         const std::string why = endtoend::WhyCut(look);
         if (!why.empty() && !look.text.empty()) cut += "\"" + look.text + "\" " + why + "; ";
     }
@@ -114,12 +125,17 @@ void ExpectFit(const std::string&) {
 }
 
 void WaitGone(const std::string& title) {
-    endtoend::Until('"' + title + "\" to be gone", [&] {
-        for (HWND window : endtoend::Application(0).TopLevel()) {
-            if (IsWindowVisible(window) && endtoend::SeenTitle(window) == title) return false;
-        }
-        return true;
-    });
+    endtoend::Until(
+        '"' + title + "\" to be gone",
+        [&] {
+            for (HWND window : endtoend::Application(0).TopLevel()) {
+                if (IsWindowVisible(window) && endtoend::SeenTitle(window).starts_with(title)) {
+                    return false;
+                }
+            }
+            return true;
+        },
+        Patience);
 }
 
 struct Step {
@@ -142,7 +158,9 @@ int Hold(const std::wstring& path) {
     if (!file) throw Failed("cannot open " + FromWide(path));
     std::printf("held\n");
     std::fflush(stdout);
-    Sleep(INFINITE);
+    endtoend::Until("the release", [] {
+        return GetFileAttributesW(L"C:\\Paket\\release") != INVALID_FILE_ATTRIBUTES;
+    });
     return 0;
 }
 
@@ -180,14 +198,17 @@ int RunWhole(std::wstring commandLine, bool isLimited) {
     const KernelHandle thread(started.hThread);
     if (!AssignProcessToJobObject(job.Get(), process.Get())) throw Failed("no job");
     ResumeThread(thread.Get());
-    endtoend::Until("the end of " + FromWide(commandLine), [&] {
-        JOBOBJECT_BASIC_ACCOUNTING_INFORMATION account = {};
-        if (!QueryInformationJobObject(job.Get(), JobObjectBasicAccountingInformation, &account,
-                                       sizeof account, nullptr)) {
-            throw Failed("the job does not tell");
-        }
-        return account.ActiveProcesses == 0;
-    });
+    endtoend::Until(
+        "the end of " + FromWide(commandLine),
+        [&] {
+            JOBOBJECT_BASIC_ACCOUNTING_INFORMATION account = {};
+            if (!QueryInformationJobObject(job.Get(), JobObjectBasicAccountingInformation, &account,
+                                           sizeof account, nullptr)) {
+                throw Failed("the job does not tell");
+            }
+            return account.ActiveProcesses == 0;
+        },
+        4 * Patience);
     DWORD code = 0;
     GetExitCodeProcess(process.Get(), &code);
     return static_cast<int>(code);
