@@ -393,6 +393,8 @@ Function un.AskWhatElse
   Pop $0
   ${NSD_CreateLabel} 0 38u 100% 18u "$INSTDIR"
   Pop $0
+  ; As it is called, also with an "&".
+  ${NSD_AddStyle} $0 ${SS_NOPREFIX}
   StrCpy $row 76
   Call un.FindRun
   ${If} $R1 == 1
@@ -424,7 +426,7 @@ Function un.StopIfLocked
     Return
   ${EndIf}
   SetErrorLevel ${NOT_WRITTEN}
-  MessageBox MB_OK|MB_ICONSTOP "Nicht alles ließ sich entfernen. Vielleicht ist eine der Dateien noch geöffnet.$\r$\n$\r$\nQuillmore bleibt unter „Software“ eingetragen; versuchen Sie es später noch einmal." /SD IDOK
+  MessageBox MB_OK|MB_ICONSTOP "Nicht alles ließ sich entfernen.$\r$\nVielleicht ist eine Datei noch geöffnet.$\r$\n$\r$\nQuillmore bleibt unter „Software“ eingetragen; versuchen Sie es später noch einmal." /SD IDOK
   Abort "Nicht alles ließ sich entfernen."
 FunctionEnd
 

@@ -93,7 +93,8 @@ LockedRemoval() {
     Lock "$for_all/Anleitung.mht"
     Remover "$for_all"
     Visit see "Andere Dateien im Ordner bleiben" key alt+e && Page locked see "Nicht alles ließ sich" &&
-        Visit key enter && Page stopped see "Abbruch der Deinstallation" && Visit key escape gone "Quillmore entfernen" && wait "$started" || status=1
+        Visit key enter && Page stopped see "Abbruch der Deinstallation" &&
+        Visit key escape gone "Quillmore entfernen" && wait "$started" || status=1
     Unlock
     [[ -f $for_all/Entfernen.exe && $(Value "HKLM\\$entry" DisplayVersion) == 9.8.7 ]] || status=1
     return $status
@@ -114,7 +115,8 @@ InstallForOne() {
     Start Paket/Setup.exe
     Visit see "Für wen Quillmore $version" ticked "Für alle Benutzer" key alt+m ticked "Nur für mich" \
         unticked "Für alle Benutzer" key alt+w see "Der Ordner sollte deshalb einer sein" key alt+i \
-        see "Die Installation wurde erfolgreich" key alt+w see "Quillmore $version ist installiert" key alt+s unticked "Quillmore jetzt starten" \
+        see "Die Installation wurde erfolgreich" key alt+w \
+        see "Quillmore $version ist installiert" key alt+s unticked "Quillmore jetzt starten" \
         key alt+f && Ended 0 && Installed HKCU "$version" "$for_one" "$menu_one"
 }
 
