@@ -135,7 +135,7 @@ Absent() {
 
 # The uninstaller's copy of itself stays until the next start of Windows, which deletes it.
 Dump() {
-    DumpPrefix ! -path './users/*/Temp/~nsu*.tmp' ! -path './users/*/Temp/~nsu*.tmp/Un.exe' |
+    DumpPrefix ! -path './users/*/Temp/~nsu*.tmp' ! -path './users/*/Temp/~nsu*.tmp/Un*.exe' |
         grep -v '^system: "PendingFileRenameOperations"='
 }
 

@@ -28,7 +28,7 @@ SameSettings() {
 }
 
 Kept() {
-    [[ $(<"$1/Quillmore.log") == log && $(<"$1/Meins.txt") == mine ]]
+    diff <(echo log) "$1/Quillmore.log" && diff <(echo mine) "$1/Meins.txt"
 }
 
 # Starts the program of FOLDER, which asks for a first confirmation.
