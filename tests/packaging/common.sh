@@ -84,6 +84,11 @@ Remove() {
     Run Paket/visitor.exe run "\"$(WindowsPath "$1")\\Entfernen.exe\"" /S "${@:2}"
 }
 
+# EndProgram FOLDER: its process ends a little later than its window.
+EndProgram() {
+    Run Paket/driver.exe close && Run Paket/visitor.exe free "$(WindowsPath "$1")\\Quillmore.exe"
+}
+
 # WindowsPath FOLDER
 WindowsPath() {
     echo "C:\\${1//\//\\}"

@@ -38,10 +38,6 @@ StartProgram() {
         Run Paket/driver.exe wait frmMain
 }
 
-EndProgram() {
-    Run Paket/driver.exe close
-}
-
 RefusedForNow() {
     Ends 4 Run Paket/Newer.exe /S &&
         Ends 4 Run "$for_all/Entfernen.exe" /S "_?=$(WindowsPath "$for_all")" &&
@@ -107,7 +103,7 @@ Check "all files, the menu and the entry are there, for all users" \
     Installed HKLM "$version" "$for_all" "$menu_all"
 Check "the installed program starts" StartProgram "$for_all"
 Check "while it runs, upgrade and removal are refused with 4" RefusedForNow
-Check "it ends" EndProgram
+Check "it ends" EndProgram "$for_all"
 Furnish "$for_all" anderswo
 Check "a newer version replaces it and keeps settings, log and files of others" \
     Upgrade HKLM "$for_all" "$menu_all"
@@ -133,7 +129,7 @@ Check "all files, the menu and the entry are there, for one user" \
     Installed HKCU "$version" "$for_one" "$menu_one"
 Check "and no entry for all" Absent HKLM "$for_all" "$menu_all"
 Check "the program starts from there" StartProgram "$for_one"
-Check "and ends" EndProgram
+Check "and ends" EndProgram "$for_one"
 Furnish "$for_one" "$for_one"
 Check "an upgrade without the switch stays with one user" Upgrade HKCU "$for_one" "$menu_one"
 rm "$for_one/Meins.txt"

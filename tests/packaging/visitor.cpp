@@ -5,6 +5,7 @@
 //   ticked TEXT, unticked TEXT
 //                    the box with that caption is as it should be
 //   fits             every caption of the window in front can be read in full
+//   free FILE        waits until the file can be written, as no program is that runs
 //   gone TITLE       waits until no window has a title that begins so
 // Or alone, before what it is about:
 //   hold FILE        opens the file so that nobody else can write or delete it, until there is a
@@ -124,6 +125,18 @@ void ExpectFit(const std::string&) {
     if (!cut.empty()) throw Failed("cut: " + cut);
 }
 
+void WaitFree(const std::string& path) {
+    endtoend::Until(
+        path + " to be free",
+        [&] {
+            const platform::win32::FileHandle file(
+                CreateFileW(platform::win32::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr,
+                            OPEN_EXISTING, 0, nullptr));
+            return static_cast<bool>(file);
+        },
+        Patience);
+}
+
 void WaitGone(const std::string& title) {
     endtoend::Until(
         '"' + title + "\" to be gone",
@@ -149,6 +162,7 @@ const std::map<std::string, Step> Steps = {
     {"ticked", {1, [](const std::string& text) { ExpectTick(text, true); }}},
     {"unticked", {1, [](const std::string& text) { ExpectTick(text, false); }}},
     {"fits", {0, ExpectFit}},
+    {"free", {1, WaitFree}},
     {"gone", {1, WaitGone}},
 };
 

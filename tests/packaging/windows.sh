@@ -71,8 +71,8 @@ UpgradeRunning() {
     Start Paket/Newer.exe
     Visit see "Für wen Quillmore 9.8.7" ticked "Für alle Benutzer" key alt+w &&
         Page running see "Quillmore.exe läuft noch" &&
-        Run Paket/driver.exe close &&
-        Visit key alt+w see "Die Installation wurde erfolgreich" \
+        EndProgram "$for_all" &&
+        Visit see "Quillmore.exe läuft noch" key alt+w see "Die Installation wurde erfolgreich" \
             key alt+w see "Quillmore 9.8.7 ist installiert" \
             key alt+s unticked "Quillmore jetzt starten" key alt+f && Ended 0
 }
