@@ -391,10 +391,9 @@ Function un.AskWhatElse
   Pop $0
   ${NSD_CreateLabel} 0 0 100% 36u "Entfernt werden das Programm und seine Einträge im Startmenü und unter „Software“. Was Quillmore an Windows eingestellt hat, bleibt eingestellt. Andere Dateien im Ordner bleiben."
   Pop $0
-  ${NSD_CreateLabel} 0 38u 100% 18u "$INSTDIR"
-  Pop $0
   ; As it is called, also with an "&".
-  ${NSD_AddStyle} $0 ${SS_NOPREFIX}
+  nsDialogs::CreateControl ${__NSD_Label_CLASS} ${__NSD_Label_STYLE}|${SS_NOPREFIX} ${__NSD_Label_EXSTYLE} 0 38u 100% 18u "$INSTDIR"
+  Pop $0
   StrCpy $row 76
   Call un.FindRun
   ${If} $R1 == 1

@@ -50,7 +50,7 @@ End() {
 }
 
 Run() {
-    InWine timeout --kill-after=10 120 wine "$@" 2>>"$work/errors"
+    InWine timeout --kill-after=10 300 wine "$@" 2>>"$work/errors"
 }
 
 # Check SENTENCE COMMAND...: prints the sentence, which holds when the command does.
