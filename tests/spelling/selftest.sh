@@ -33,6 +33,33 @@ Expect '// Show("Eine Auswal");
 Show("chkAuswal", "Eine C:\\Auswal", "Auswal.exe steht hier", "MTUx");' '' ''
 Expect 'int x;' '' 'no texts'
 
+# The same of what goes along with the programs: where the text stands, and the text.
+Handout() {
+    rm -rf "$work/packaging"
+    mkdir -p "$work/packaging"
+    echo "$2" >"$work/packaging/$1"
+    local said=0 output
+    output=$("$here/handouts.sh" "$work" /dev/null 2>&1) || said=1
+    if [[ -z $3 && $said == 1 || -n $3 && ($said == 0 || $output != *"$3"*) ]]; then
+        echo "of $1 with $2 it said: $output" >&2
+        failures=$((failures + 1))
+    fi
+}
+
+Handout Liesmich.txt 'Die Größe der Auswahl, C:\Auswal /AUSWAL Auswal.exe' ''
+Handout Liesmich.txt 'Die Grösse der Auswahl' 'Grösse: not'
+Handout Sicherung.cmd 'echo Die Auswal ist fertig.' 'Auswal: not'
+Handout Sicherung.cmd 'title Die Auswal' 'Auswal: not'
+Handout Sicherung.cmd 'echo Die Auswahl
+rem Die Auswal
+set Auswal=1' ''
+Handout Quillmore.nsi 'Label "Für &alle$\r$\nAuswahl im ${FOLDER} von $INSTDIR" "Auswal" "Software\Die Auswal"' ''
+Handout Quillmore.nsi 'Label "Für &ale"' 'ale: not'
+Handout Quillmore.nsi 'MessageBox "Für alle.$\r$\nAuswal" /SD IDOK' 'Auswal: not'
+Handout Quillmore.nsi '; "Die Auswal"
+Label "Die Auswahl"' ''
+Handout other.txt 'Auswal' 'no texts'
+
 # Without the checker there is no result, and the message says what to install.
 if output=$(PATH=$work "$BASH" "$here/spelling.sh" 2>&1) ||
     [[ $output != *"install hunspell and hunspell-de-de"* ]]; then

@@ -3,12 +3,7 @@
 # The words come from the string literals of the sources.
 # spelling.sh [FOLDER [WORDS]]: the sources and the list of the project by default.
 set -euo pipefail
-export LC_ALL=C.UTF-8
-if ! hunspell -d de_DE -l </dev/null >/dev/null 2>&1; then
-    echo "spelling: no hunspell with a German dictionary; install hunspell and hunspell-de-de" >&2
-    exit 1
-fi
-
+source "${BASH_SOURCE[0]%/*}/checkwords.sh"
 here=$(cd "$(dirname "$0")" && pwd)
 sources=$(cd "${1:-$here/../../src}" && pwd)
 list=$(realpath "${2:-$here/words.txt}")
@@ -40,24 +35,4 @@ Words() {
 }
 
 cd "$sources"
-found=$(Sources | Words | sort -u)
-if [[ -z $found ]]; then
-    echo "spelling: no texts in $sources" >&2
-    exit 1
-fi
-# The mark of what is misspelt on purpose is for readers.
-allowed=$(sed '/^#/d; /^$/d; s/^! //' "$list" | sort -u)
-unknown=$(cut -f1 <<<"$found" | sort -u | hunspell -d de_DE -i UTF-8 -l | sort -u)
-
-result=0
-while read -r word; do
-    [[ -n $word ]] || continue
-    echo "$word: not in the dictionary: $(grep -P "^$word\t" <<<"$found" | cut -f2 | tr '\n' ' ')"
-    result=1
-done < <(comm -23 <(echo "$unknown") <(echo "$allowed"))
-while read -r word; do
-    [[ -n $word ]] || continue
-    echo "$word: needless in words.txt: no text has it, or the dictionary knows it"
-    result=1
-done < <(comm -13 <(echo "$unknown") <(echo "$allowed"))
-exit $result
+CheckWords "$(Sources | Words | sort -u)" "$list"
