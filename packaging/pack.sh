@@ -31,7 +31,9 @@ cp "$@" "$work/files"
 for program in "$work"/files/*.exe; do
     Sign "$program"
 done
-sed "s/@SHORT_VERSION@/$version/" "$here/Liesmich.txt" >"$work/Liesmich.txt"
+# 2.3.8 is v2.38 in the title of the window.
+sed "s/@SHORT_VERSION@/$version/; s/@TITLE_VERSION@/v${version%.*}${version##*.}/" \
+    "$here/Liesmich.txt" >"$work/Liesmich.txt"
 "$root/tools/windows-text" "$work/Liesmich.txt" >"$work/files/Liesmich.txt"
 # The licences of what is linked in ask to go along.
 { cat "$root/LICENSE"; echo; cat "$root/THIRD-PARTY.md"; } >"$work/Lizenz.txt"
