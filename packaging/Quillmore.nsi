@@ -52,6 +52,9 @@ VIAddVersionKey /LANG=1031 "ProductVersion" "${VERSION_NUMBERS}"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+; High contrast is for all of a window.
+!define MUI_BGCOLOR "SYSCLR:Window"
+!define MUI_TEXTCOLOR "SYSCLR:WindowText"
 !define MUI_ABORTWARNING
 !define MUI_CUSTOMFUNCTION_ABORT Cancelled
 !define MUI_CUSTOMFUNCTION_UNABORT un.Cancelled
