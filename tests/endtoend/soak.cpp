@@ -54,7 +54,7 @@ constexpr Bound Bounds[] = {
     {"handles", &Footprint::handles, 1, 4, 4},
     {"drawing objects", &Footprint::drawing, 0, 6, 12},
     {"user objects", &Footprint::user, 0, 12, 40},
-    // It grows by 1 KB; of each box some 32 bytes stay.
+    // It grows by 1 KB: each label that gets its font costs Wine a block.
     {"private KB", &Footprint::kilobytes, 2, 64, 4096},
 };
 
