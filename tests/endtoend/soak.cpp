@@ -43,7 +43,7 @@ struct Footprint {
 // system's own stores are full, and memory says nothing then.
 struct Bound {
     const char* name;
-    int Footprint::*value;
+    int Footprint::* value;
     int perCycle;
     int allowance;
     int shortAllowance;
@@ -277,7 +277,7 @@ unsigned Cycles() {
 }
 
 int MiddleOf(const std::vector<Footprint>& footprints, std::size_t first, std::size_t count,
-             int Footprint::*value) {
+             int Footprint::* value) {
     std::vector<int> values;
     for (std::size_t at = first; at < first + count; ++at) values.push_back(footprints[at].*value);
     std::sort(values.begin(), values.end());

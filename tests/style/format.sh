@@ -7,5 +7,5 @@ if ((${#sources[@]} == 0)); then
     echo "no sources found" >&2
     exit 1
 fi
-clang-format --dry-run -Werror "${sources[@]}"
+clang-format-19 --dry-run -Werror "${sources[@]}"
 echo "${#sources[@]} sources are in format"

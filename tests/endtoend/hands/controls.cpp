@@ -158,8 +158,7 @@ void Walk::UseSlider(HWND slider) {
         const std::string where = (left ? "left" : "right") + (" on " + NameOf(slider));
         if (byMouse_) {
             const POINT place = {left ? area.left + 12 : area.right - 9, middle};
-            Step(
-                "click " + where, [&] { ClickMouse(place); }, moved);
+            Step("click " + where, [&] { ClickMouse(place); }, moved);
         } else {
             PressKey(where, left ? VK_LEFT : VK_RIGHT, moved);
         }
@@ -176,8 +175,7 @@ void Walk::UseChoice(HWND combo) {
         const POINT arrow = {area.right - 8, area.top + 10};
         const POINT firstItem = {area.left + 12, area.bottom + 8};
         for (const POINT& then : {arrow, firstItem}) {
-            Step(
-                "click the arrow of " + name, [&] { ClickMouse(arrow); }, open);
+            Step("click the arrow of " + name, [&] { ClickMouse(arrow); }, open);
             Step(
                 then.x == arrow.x ? "click it again" : "click the first item",
                 [&] { ClickMouse(then); }, closed);
@@ -205,8 +203,7 @@ void Walk::UseRows(HWND list) {
     const auto focused = [&] { return Focused() == list; };
     const bool hasRows = ClassOf(list) == "SysListView32" && Send(list, LVM_GETITEMCOUNT) > 0;
     if (byMouse_) {
-        Step(
-            "click " + name, [&] { ClickMouse(FirstRowOf(list)); }, focused);
+        Step("click " + name, [&] { ClickMouse(FirstRowOf(list)); }, focused);
     } else {
         PressKey("Down on " + name, VK_DOWN, focused);
         PressKey("Home", VK_HOME, focused);
@@ -244,8 +241,7 @@ void Walk::OpenMenus(HWND control) {
             RECT area = {};
             GetWindowRect(control, &area);
             const POINT beside = {area.left + 6, area.top + 6};
-            Step(
-                "click beside the menu", [&] { ClickMouse(beside); }, left);
+            Step("click beside the menu", [&] { ClickMouse(beside); }, left);
         } else {
             PressKey("Escape", VK_ESCAPE, left);
         }
@@ -275,8 +271,7 @@ void Walk::Choose(const Menu& menu, int item) const {
 
 void Walk::ChooseFromMenu(HWND control, const Menu& menu, int item, const Come& come) {
     OpenMenu(control, byMouse_ ? RightButton : MenuKey);
-    Step(
-        "item " + std::to_string(item) + " of the menu", [&] { Choose(menu, item); }, come);
+    Step("item " + std::to_string(item) + " of the menu", [&] { Choose(menu, item); }, come);
 }
 
 }  // namespace endtoend

@@ -115,8 +115,7 @@ void Walk::UseButton(HWND button) {
 // It fades in, and only then has a button that can be reached.
 void Walk::WaitForAbout() {
     const HWND button = Named("frmAbout.cmdOK");
-    StepOutside(
-        "the dialog has come into sight", [] {}, [&] { return IsWindowEnabled(button); });
+    StepOutside("the dialog has come into sight", [] {}, [&] { return IsWindowEnabled(button); });
     if (!byMouse_) PressKey("Tab", VK_TAB, [&] { return Focused() == button; });
 }
 
@@ -149,14 +148,12 @@ void Walk::LeaveBox(int button) {
     const auto gone = [&] { return !IsWindowVisible(box.window); };
     const bool onlyOne = box.buttons.size() < 2;
     if (byMouse_ && pressed) {
-        Step(
-            "click " + where, [&] { ClickMouse(MiddleOf(pressed)); }, gone);
+        Step("click " + where, [&] { ClickMouse(MiddleOf(pressed)); }, gone);
     } else if (button == IDCANCEL || onlyOne) {
         PressKey("Escape, for " + where, VK_ESCAPE, gone);
     } else if (mark != std::string::npos) {
         const auto key = static_cast<wchar_t>(caption[mark + 1] | 0x20);
-        Step(
-            "access key of " + where, [&] { TypeCharacter(key, {VK_MENU}); }, gone);
+        Step("access key of " + where, [&] { TypeCharacter(key, {VK_MENU}); }, gone);
     } else {
         for (std::size_t tabs = 0; tabs < box.buttons.size() && See().focus != pressed; ++tabs) {
             const HWND from = See().focus;

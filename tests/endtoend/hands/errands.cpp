@@ -79,8 +79,7 @@ void Walk::Warning() {
         workplace_ = std::make_unique<Workplace>(Workplace::Warning::Fresh);
         program_ = std::make_unique<Program>(workplace_->Executable());
         const HWND warning = program_->Wait("frmFirstInfo");
-        Step(
-            "start", [] {}, [&] { return InFront(warning); });
+        Step("start", [] {}, [&] { return InFront(warning); });
         WalkThrough();
         const HWND answer = Go(button);
         if (button == std::string("Command2")) {
@@ -132,10 +131,7 @@ void Walk::MoveWindow() {
     if (byMouse_) {
         const POINT caption = CaptionOf(form);
         Step(
-            "drag the caption",
-            [&] {
-                DragMouse(caption, {caption.x + 40, caption.y + 30});
-            },
+            "drag the caption", [&] { DragMouse(caption, {caption.x + 40, caption.y + 30}); },
             moved);
         for (const bool maximised : {true, false}) {
             Step(
@@ -197,8 +193,7 @@ void Walk::SearchFiles() {
         Push(clean);
         Answer("Tempdateien löschen", answer);
     }
-    Step(
-        "the files are gone", [] {}, [&] { return rows() == 0; });
+    Step("the files are gone", [] {}, [&] { return rows() == 0; });
     if (byMouse_) return;
     Step(
         "Alt+A", [] { TypeCharacter(L'a', {VK_MENU}); },
@@ -213,8 +208,7 @@ void Walk::InstalledSoftware() {
     WaitFor("frmInstalledSoftware");
     const HWND dialog = See().front;
     const HWND rows = Named("lvwSoftware");
-    Step(
-        "F5", [] { Type(VK_F5); }, [&] { return Send(rows, LVM_GETITEMCOUNT) > 0; });
+    Step("F5", [] { Type(VK_F5); }, [&] { return Send(rows, LVM_GETITEMCOUNT) > 0; });
     for (const char* name : {"cmdUninstall", "cmdDeleteItem"}) {
         Go("lvwSoftware");
         UseRows(rows);
@@ -251,8 +245,7 @@ void Walk::StartTools() {
         if (label == "lblSFC") Answer("Überprüfung der Windows XP Systemdateien", IDYES);
         if (!standIn) return;
         std::printf("     starts %s\n", standIn->WaitStart().commandLine.c_str());
-        Step(
-            "it has ended", [] {}, [&] { return InFront(form); });
+        Step("it has ended", [] {}, [&] { return InFront(form); });
     };
     Go("lblCMD");
     for (std::size_t at = 0; at < std::size(Programs); ++at)
@@ -291,11 +284,9 @@ void Walk::Tray() {
     };
     hide();
     open();
-    StepOutside(
-        "Escape", [] { Type(VK_ESCAPE); }, [] { return !See().menu; });
+    StepOutside("Escape", [] { Type(VK_ESCAPE); }, [] { return !See().menu; });
     open();
-    StepOutside(
-        "the menu's lock", [&] { Choose(menu, 2); }, [&] { return runner_->WasStarted(); });
+    StepOutside("the menu's lock", [&] { Choose(menu, 2); }, [&] { return runner_->WasStarted(); });
     runner_->WaitStart();
     for (const int item : {3, 4, 5}) {
         open();
@@ -315,13 +306,11 @@ void Walk::Tray() {
             [&] { return !IsWindowVisible(question); });
     }
     const auto back = [&] { return IsWindowVisible(form) && InFront(form); };
-    Step(
-        "double click on the icon", [] { ClickMouse(TrayIcon(), Button::Left, 2); }, back);
+    Step("double click on the icon", [] { ClickMouse(TrayIcon(), Button::Left, 2); }, back);
     ExpectBack(form, box);
     hide();
     open();
-    Step(
-        "the menu's first item", [&] { Choose(menu, 1); }, back);
+    Step("the menu's first item", [&] { Choose(menu, 1); }, back);
     ExpectBack(form, box);
     hide();
     open();
@@ -336,8 +325,7 @@ void Walk::Password() {
     Push(logon, [&] { return Send(logon, BM_GETCHECK) == BST_CHECKED; });
     const HWND field = Go("txtALPassword");
     if (byMouse_) Push(field, [&] { return Focused() == field; });
-    Step(
-        "a character", [] { TypeCharacter(L'a'); }, [&] { return TextOf(field) == "a"; });
+    Step("a character", [] { TypeCharacter(L'a'); }, [&] { return TextOf(field) == "a"; });
     const HWND apply = Go("cmdApply");
     Push(apply);
     Answer(ConfirmTitle, IDYES);
@@ -357,8 +345,7 @@ void Walk::Password() {
     WaitFor("frmPassword");
     const HWND typed = Go("frmPassword.txtPasswort");
     if (byMouse_) Push(typed, [&] { return Focused() == typed; });
-    Step(
-        "a character", [] { TypeCharacter(L'a'); }, [&] { return TextOf(typed) == "a"; });
+    Step("a character", [] { TypeCharacter(L'a'); }, [&] { return TextOf(typed) == "a"; });
     if (byMouse_) {
         Push(Named("frmPassword.cmdOK"), gone);
     } else {
@@ -451,10 +438,8 @@ int Walk::Run() {
     Section("Apply and the password", [&] { Password(); });
     Section("the tray", [&] { Tray(); });
     Section("the end", [&] { LeaveInEachWay(); });
-    Section(
-        "the clock", [&] { SynchronizeClock(); }, "clockless.exe");
-    Section(
-        "the end of the session", [&] { EndSession(); }, "sessionless.exe");
+    Section("the clock", [&] { SynchronizeClock(); }, "clockless.exe");
+    Section("the end of the session", [&] { EndSession(); }, "sessionless.exe");
     program_.reset();
     workplace_.reset();
     runner_.reset();

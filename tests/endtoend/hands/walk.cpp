@@ -90,15 +90,13 @@ bool Walk::StepOutside(const std::string& what, const Act& act, const Come& come
 
 bool Walk::PressKey(const std::string& what, int key, const Come& come,
                     std::initializer_list<int> held) {
-    return Step(
-        what, [&] { Type(key, held); }, come);
+    return Step(what, [&] { Type(key, held); }, come);
 }
 
 bool Walk::Push(HWND control, const Come& come) {
     const std::string name = SeenName(control);
     if (!byMouse_) return PressKey("Space on " + name, VK_SPACE, come);
-    return Step(
-        "click " + name, [&] { ClickMouse(MiddleOf(control)); }, come);
+    return Step("click " + name, [&] { ClickMouse(MiddleOf(control)); }, come);
 }
 
 void Walk::Start(const std::string& standIn) {
@@ -109,8 +107,7 @@ void Walk::Start(const std::string& standIn) {
         WriteFile(workplace_->Executable(), ReadFile(OwnFolder() + '\\' + standIn));
     }
     program_ = std::make_unique<OpenProgram>(*workplace_);
-    Step(
-        "start", [] {}, [&] { return InFront(Named("frmMain")); });
+    Step("start", [] {}, [&] { return InFront(Named("frmMain")); });
 }
 
 // After a fault the next section begins with a window of its own.
@@ -149,8 +146,7 @@ void Walk::OpenPage(int page) {
         const RECT area = Tabs(strip).Area(page);
         POINT place = {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
         ClientToScreen(strip, &place);
-        Step(
-            "click" + to, [&] { ClickMouse(place); }, open);
+        Step("click" + to, [&] { ClickMouse(place); }, open);
         return;
     }
     while (!open()) {
