@@ -63,6 +63,7 @@ Check() {
         echo "FAILED: $sentence" >&2
         sed 's/^/    /' "$work/said" >&2
         failures=$((failures + 1))
+        [[ -z ${pictures:-} ]] || import -window root "$pictures/failed-$failures.png"
         # A window that has stayed would be in the way of all others.
         EndWine
     fi
