@@ -4,6 +4,9 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
+#include <cstdio>
+#include <string>
 #include <vector>
 
 #include "platform/win32/handle.h"
@@ -37,6 +40,32 @@ inline std::vector<DWORD> ScreenPixels(const RECT& area) {
     std::vector<DWORD> pixels(first, first + width * height);
     for (DWORD& pixel : pixels) pixel &= 0xFFFFFF;
     return pixels;
+}
+
+// Where two pictures of the same area are not the same, and what the first such pixel from below
+// is; nothing where they are.
+inline std::string Difference(const std::vector<DWORD>& before, const std::vector<DWORD>& after,
+                              const RECT& area) {
+    const int width = area.right - area.left;
+    if (before.size() != after.size() || width <= 0) return "pictures of another size";
+    RECT box = {width, static_cast<LONG>(before.size()), -1, -1};
+    int count = 0;
+    std::string first;
+    for (std::size_t at = 0; at < before.size(); ++at) {
+        if (before[at] == after[at]) continue;
+        const LONG x = static_cast<LONG>(at) % width;
+        const LONG y = area.bottom - area.top - 1 - static_cast<LONG>(at) / width;
+        box = {std::min(box.left, x), std::min(box.top, y), std::max(box.right, x),
+               std::max(box.bottom, y)};
+        char colours[40];
+        std::snprintf(colours, sizeof colours, "%06lX, then %06lX", before[at], after[at]);
+        if (count++ == 0) first = colours;
+    }
+    if (count == 0) return "";
+    char place[80];
+    std::snprintf(place, sizeof place, "%d pixels in (%ld, %ld) to (%ld, %ld): ", count, box.left,
+                  box.top, box.right, box.bottom);
+    return place + first;
 }
 
 // The inside of a window in pixels of the screen.
