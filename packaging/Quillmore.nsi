@@ -26,6 +26,9 @@ BrandingText " "
 DetailsButtonText "&Details"
 UninstallButtonText "&Entfernen"
 OutFile "${OUTPUT}"
+; Whoever looks for a folder gets one of his own in it. Not a folder by itself: none is named yet.
+!define UNNAMED "-\Quillmore"
+InstallDir "${UNNAMED}"
 !uninstfinalize '"${UNINSTALLER}" "%1"' = 0
 
 VIProductVersion "${VERSION_NUMBERS}"
@@ -41,6 +44,7 @@ VIAddVersionKey /LANG=1031 "ProductVersion" "${VERSION_NUMBERS}"
 !define ENTRY "${ENTRIES}\Quillmore"
 !define RUN "Software\Microsoft\Windows\CurrentVersion\Run"
 !define STORE "Software\VB and VBA Program Settings"
+!define DRIVES_STORE "${STORE}\dmVDriveC"
 ; Message boxes of the installer and of the uninstaller.
 !define TITLE "Quillmore"
 
@@ -49,6 +53,7 @@ VIAddVersionKey /LANG=1031 "ProductVersion" "${VERSION_NUMBERS}"
 !define NOT_XP 3
 !define RUNNING 4
 !define NO_RIGHTS 5
+!define WRONG_FOLDER 6
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -60,7 +65,11 @@ VIAddVersionKey /LANG=1031 "ProductVersion" "${VERSION_NUMBERS}"
 !define MUI_CUSTOMFUNCTION_UNABORT un.Cancelled
 
 Page custom AskForWhom TakeForWhom
+!define MUI_PAGE_HEADER_TEXT "Wohin?"
+!define MUI_PAGE_HEADER_SUBTEXT "In welchen Ordner Quillmore ${VERSION} installiert wird."
 !define MUI_PAGE_CUSTOMFUNCTION_PRE SkipKnownFolder
+!define MUI_PAGE_CUSTOMFUNCTION_LEAVE TakeFolder
+!define MUI_DIRECTORYPAGE_TEXT_DESTINATION "Ordner"
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Quillmore legt sein Fehlerprotokoll neben dem Programm ab. Der Ordner sollte deshalb einer sein, in den Sie schreiben dürfen."
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -71,10 +80,16 @@ UninstPage custom un.AskWhatElse un.TakeWhatElse
 
 !insertmacro MUI_LANGUAGE "German"
 
-; "all" or "user", and whether the choice is left; the folder that an earlier version lies in.
+LangString ^DirBrowseText ${LANG_GERMAN} "Wählen Sie den Ordner, in dem der Ordner „Quillmore“ liegen soll:"
+
+; "all" or "user", and whether the choice is left; the folder that the command line names, and the
+; one that an earlier version lies in, or nothing.
 Var kind
 Var admin
+Var named
 Var earlier
+; Whether none of our files was in the folder before: "yes" or "no".
+Var fresh
 Var boxAll
 Var boxUser
 Var boxStart
@@ -116,6 +131,18 @@ Function ${prefix}SetKind
   ${EndIf}
 FunctionEnd
 
+; Whether the folders in $0 and $1 are the same, also by their short names: "yes" or "no" in $R1. One
+; that is not there is no other's.
+Function ${prefix}CompareFolders
+  StrCpy $R1 no
+  GetFullPathName /SHORT $0 $0
+  GetFullPathName /SHORT $1 $1
+  ${If} $0 != ""
+  ${AndIf} $0 == $1
+    StrCpy $R1 yes
+  ${EndIf}
+FunctionEnd
+
 ; A program that runs cannot be opened for writing, whoever has started it.
 Function ${prefix}WaitForProgram
   Push "Quillmore.exe"
@@ -147,14 +174,40 @@ FunctionEnd
 
 ; --- Installing ------------------------------------------------------------------------------
 
-; The folder of an earlier version of this kind, or nothing.
+; Of all that is called as ours is.
+!macro ForEachFile what
+  !insertmacro ${what} "Quillmore.exe"
+  !insertmacro ${what} "QuillmoreCmd.exe"
+  !insertmacro ${what} "Anleitung.mht"
+  !insertmacro ${what} "Liesmich.txt"
+  !insertmacro ${what} "Lizenz.txt"
+  !insertmacro ${what} "Sicherung.cmd"
+  !insertmacro ${what} "Entfernen.exe"
+!macroend
+
+!macro SeeFile name
+  ${If} ${FileExists} "$INSTDIR\${name}"
+    StrCpy $fresh no
+  ${EndIf}
+!macroend
+
+!macro DeleteFile name
+  Delete "$INSTDIR\${name}"
+!macroend
+
+; The folder of an earlier version of this kind, or nothing. What its entry says twice is believed.
 Function FindEarlier
   ${If} $kind == all
     ReadRegStr $earlier HKLM "${ENTRY}" "InstallLocation"
+    ReadRegStr $0 HKLM "${ENTRY}" "UninstallString"
   ${Else}
     ReadRegStr $earlier HKCU "${ENTRY}" "InstallLocation"
+    ReadRegStr $0 HKCU "${ENTRY}" "UninstallString"
   ${EndIf}
-  ${IfNot} ${FileExists} "$earlier\Entfernen.exe"
+  StrLen $1 $earlier
+  ${If} $1 < 4
+  ${OrIf} $0 != '"$earlier\Entfernen.exe"'
+  ${OrIfNot} ${FileExists} "$earlier\Entfernen.exe"
     StrCpy $earlier ""
   ${EndIf}
 FunctionEnd
@@ -164,16 +217,49 @@ Function TakeKind
   Call FindEarlier
   ${If} $earlier != ""
     StrCpy $INSTDIR $earlier
-  ${ElseIf} $INSTDIR == ""
-    ${If} $kind == all
-      StrCpy $INSTDIR "$PROGRAMFILES\Quillmore"
-    ${Else}
-      StrCpy $INSTDIR "$LOCALAPPDATA\Quillmore"
-    ${EndIf}
+  ${ElseIf} $INSTDIR != ""
+  ${ElseIf} $named != ""
+    StrCpy $INSTDIR $named
+  ${ElseIf} $kind == all
+    StrCpy $INSTDIR "$PROGRAMFILES\Quillmore"
+  ${Else}
+    StrCpy $INSTDIR "$LOCALAPPDATA\Quillmore"
+  ${EndIf}
+FunctionEnd
+
+; Nothing that somebody else keeps in the folder may be overwritten, or go with us one day; and of
+; two installations in one folder, removing one would take the other's files. Why the folder cannot
+; be taken, or nothing, in $R0.
+Function FindObstacle
+  StrCpy $R0 ""
+  StrCpy $fresh yes
+  !insertmacro ForEachFile SeeFile
+  ${If} $fresh == yes
+  ${OrIf} $INSTDIR == $earlier
+    Return
+  ${EndIf}
+  ${If} $kind == all
+    ReadRegStr $0 HKCU "${ENTRY}" "InstallLocation"
+    StrCpy $2 "nur für Sie"
+  ${Else}
+    ReadRegStr $0 HKLM "${ENTRY}" "InstallLocation"
+    StrCpy $2 "für alle Benutzer"
+  ${EndIf}
+  StrCpy $1 $INSTDIR
+  Call CompareFolders
+  ${If} $R1 == yes
+    StrCpy $R0 "Hier ist Quillmore schon $2 installiert."
+  ; Whoever unpacked the archive there wants to have it installed there.
+  ${ElseIfNot} ${FileExists} "$INSTDIR\Quillmore.exe"
+    StrCpy $R0 "Hier liegen andere Dateien, die so heißen$\r$\nwie die von Quillmore; sie würden überschrieben."
   ${EndIf}
 FunctionEnd
 
 Function .onInit
+  ${If} $INSTDIR == "${UNNAMED}"
+    StrCpy $INSTDIR ""
+  ${EndIf}
+  StrCpy $named $INSTDIR
   ${GetParameters} $R0
   ${WinVerGetBuild} $0
   ${If} $0 != 2600
@@ -207,6 +293,27 @@ Function .onInit
   ${EndIf}
   ${If} ${Silent}
     Call TakeKind
+    Call FindObstacle
+    ${If} $R0 != ""
+      SetErrorLevel ${WRONG_FOLDER}
+      Quit
+    ${EndIf}
+  ${EndIf}
+FunctionEnd
+
+; What there is of the kind in $kind already, in $R0.
+Function DescribeEarlier
+  StrCpy $R0 ""
+  Call FindEarlier
+  ${If} $earlier == ""
+    Return
+  ${EndIf}
+  ${If} $kind == all
+    ReadRegStr $0 HKLM "${ENTRY}" "DisplayVersion"
+    StrCpy $R0 "$\r$\nFür alle Benutzer: $0 in $earlier"
+  ${Else}
+    ReadRegStr $0 HKCU "${ENTRY}" "DisplayVersion"
+    StrCpy $R0 "$\r$\nNur für Sie: $0 in $earlier"
   ${EndIf}
 FunctionEnd
 
@@ -230,6 +337,18 @@ Function AskForWhom
     ${NSD_CreateLabel} 0 76u 100% 28u "Für alle Benutzer kann nur installieren, wer Administratorrechte hat. Auch die meisten Einstellungen von Quillmore verlangen sie."
     Pop $0
   ${EndIf}
+  Push $kind
+  StrCpy $kind all
+  Call DescribeEarlier
+  StrCpy $R1 $R0
+  StrCpy $kind user
+  Call DescribeEarlier
+  StrCpy $R1 "$R1$R0"
+  Pop $kind
+  ${If} $R1 != ""
+    nsDialogs::CreateControl ${__NSD_Label_CLASS} ${__NSD_Label_STYLE}|${SS_NOPREFIX} ${__NSD_Label_EXSTYLE} 0 106u 100% 34u "Schon installiert (bei gleicher Wahl ersetzt „Weiter“ es sogleich):$R1"
+    Pop $0
+  ${EndIf}
   nsDialogs::Show
 FunctionEnd
 
@@ -250,6 +369,15 @@ FunctionEnd
 ; A new version goes where the earlier one is.
 Function SkipKnownFolder
   ${If} $earlier != ""
+    Call FindObstacle
+    Abort
+  ${EndIf}
+FunctionEnd
+
+Function TakeFolder
+  Call FindObstacle
+  ${If} $R0 != ""
+    MessageBox MB_OK|MB_ICONEXCLAMATION "$INSTDIR$\r$\n$\r$\n$R0$\r$\n$\r$\nWählen Sie einen anderen Ordner."
     Abort
   ${EndIf}
 FunctionEnd
@@ -290,6 +418,26 @@ Section "Quillmore" program
   ${EndIf}
 SectionEnd
 
+; Of what could not become whole nothing stays, unless there was something before.
+Function .onInstFailed
+  ${If} $fresh == yes
+    !insertmacro ForEachFile DeleteFile
+    Delete "$SMPROGRAMS\Quillmore\Quillmore.lnk"
+    Delete "$SMPROGRAMS\Quillmore\Anleitung.lnk"
+    Delete "$SMPROGRAMS\Quillmore\Sicherung der Einstellungen.lnk"
+    RMDir "$SMPROGRAMS\Quillmore"
+    ReadRegStr $0 SHCTX "${ENTRY}" "InstallLocation"
+    ${If} $0 == $INSTDIR
+      DeleteRegKey SHCTX "${ENTRY}"
+    ${EndIf}
+    ${If} $kind == user
+      DeleteRegKey /ifempty HKCU "${ENTRIES}"
+    ${EndIf}
+    SetOutPath "$TEMP"
+    RMDir "$INSTDIR"
+  ${EndIf}
+FunctionEnd
+
 Function ShowDone
   !insertmacro MUI_HEADER_TEXT "Fertig" "Quillmore ${VERSION} ist installiert."
   nsDialogs::Create 1018
@@ -324,11 +472,22 @@ FunctionEnd
 
 ; --- Removing --------------------------------------------------------------------------------
 
+; Only of the folder that an entry names is it known that what lies there is ours.
 Function un.onInit
-  StrCpy $kind all
+  StrCpy $kind user
   ReadRegStr $0 HKCU "${ENTRY}" "InstallLocation"
-  ${If} $0 == $INSTDIR
-    StrCpy $kind user
+  StrCpy $1 $INSTDIR
+  Call un.CompareFolders
+  ${If} $R1 == no
+    StrCpy $kind all
+    ReadRegStr $0 HKLM "${ENTRY}" "InstallLocation"
+    StrCpy $1 $INSTDIR
+    Call un.CompareFolders
+  ${EndIf}
+  ${If} $R1 == no
+    MessageBox MB_OK|MB_ICONSTOP "In diesem Ordner ist Quillmore nicht installiert,$\r$\nweder für alle Benutzer noch für Sie:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nEntfernt wird nichts." /SD IDOK
+    SetErrorLevel ${WRONG_FOLDER}
+    Quit
   ${EndIf}
   Call un.SetKind
   Call un.AskRights
@@ -365,7 +524,8 @@ FunctionEnd
 Function un.FindStore
   StrCpy $R1 0
   EnumRegKey $0 HKCU "${STORE}\Quillmore" 0
-  ${If} $0 != ""
+  EnumRegKey $1 HKCU "${DRIVES_STORE}" 0
+  ${If} "$0$1" != ""
     StrCpy $R1 1
   ${EndIf}
 FunctionEnd
@@ -454,6 +614,8 @@ Section "Uninstall"
   ${EndIf}
   ${If} $dropStore == 1
     DeleteRegKey HKCU "${STORE}\Quillmore"
+    ; The dialog of the drives keeps its own apart.
+    DeleteRegKey HKCU "${DRIVES_STORE}"
     DeleteRegKey /ifempty HKCU "${STORE}"
   ${EndIf}
   ${If} $dropLog == 1

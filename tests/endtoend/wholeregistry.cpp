@@ -21,7 +21,7 @@ std::string WithoutDates(std::string_view text) {
         if (line.starts_with("#time=")) continue;
         if (line.starts_with('[')) line = line.substr(0, line.rfind(']') + 1);
         // Wine dates its display driver anew whenever a program is the first on its desktop.
-        if (line.starts_with("\"DriverDateData\"=")) continue;
+        if (line.starts_with("\"DriverDate")) continue;
         kept.append(line).append(1, '\n');
     }
     return kept;

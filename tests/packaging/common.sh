@@ -99,6 +99,23 @@ Value() {
     Run reg query "$1" /v "$2" 2>/dev/null | tr -d '\r' | sed -n 's/^    .*    REG_[A-Z]*    //p'
 }
 
+# Leads LINK FOLDER FILE: the shortcut leads to the file of that folder.
+Leads() {
+    grep -qaF "$(WindowsPath "$2" | iconv -f UTF-8 -t CP1252)\\$3" "$1" && return
+    echo "$1 does not lead to $3"
+    return 1
+}
+
+# SizeTold HIVE FOLDER: the entry tells it within a tenth, in KB.
+SizeTold() {
+    local told size
+    told=$(($(Value "$1\\$entry" EstimatedSize)))
+    size=$(cd "$2" && cat "${programs[@]}" | wc -c)
+    ((told * 1024 * 10 > size * 9 && told * 1024 * 10 < size * 11)) && return
+    echo "told is a size of $told KB, not $((size / 1024))"
+    return 1
+}
+
 # Installed HIVE VERSION FOLDER MENU: all files, all of the menu and the whole entry.
 Installed() {
     local hive=$1 version=$2 folder=$3 menu=$4 path status=0
@@ -108,6 +125,10 @@ Installed() {
             LC_ALL=C sort) || status=1
     diff <(printf '%s\n' Anleitung.lnk Quillmore.lnk "Sicherung der Einstellungen.lnk") \
         <(find "$menu/Quillmore" -printf '%P\n' | sed 1d | LC_ALL=C sort) || status=1
+    Leads "$menu/Quillmore/Quillmore.lnk" "$folder" Quillmore.exe || status=1
+    Leads "$menu/Quillmore/Anleitung.lnk" "$folder" Anleitung.mht || status=1
+    Leads "$menu/Quillmore/Sicherung der Einstellungen.lnk" "$folder" Sicherung.cmd || status=1
+    SizeTold "$hive" "$folder" || status=1
     grep -qF " $version" "$folder/Liesmich.txt" || { echo "Liesmich.txt is of another version"; status=1; }
     diff <(cat <<ENTRY
     DisplayIcon    REG_SZ    $path\\Quillmore.exe,0
@@ -139,7 +160,8 @@ Absent() {
     return $status
 }
 
-# The uninstaller's copy of itself stays until the next start of Windows, which deletes it.
+# The uninstaller's copy of itself stays; where its user may ask for that, the next start of Windows
+# deletes it.
 Dump() {
     DumpPrefix ! -path './users/*/Temp/~nsu*.tmp' ! -path './users/*/Temp/~nsu*.tmp/Un*.exe' |
         grep -v '^system: "PendingFileRenameOperations"='

@@ -4,6 +4,7 @@
 # later version.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+archive=$(realpath "${1%-Setup.exe}.zip")
 Begin silent "$@"
 Dump >"$work/before"
 
@@ -12,10 +13,11 @@ Limited() {
     Run Paket/visitor.exe limited "\"$1\"" "${@:2}"
 }
 
-# The log, a file of the user's and an entry in the autostart for the program of FOLDER.
+# The log, the drives' own settings, a file of the user's and an entry in the autostart for the program of FOLDER.
 Furnish() {
     echo log >"$1/Quillmore.log"
     echo mine >"$1/Meins.txt"
+    Run reg add "$store\\dmVDriveC\\Config" /v chkAll /d 1 /f >/dev/null
     Run reg add "$run" /v Quillmore /d "\"$(WindowsPath "$2")\\Quillmore.exe\"" /f >/dev/null
 }
 
@@ -36,6 +38,15 @@ StartProgram() {
     Run Paket/driver.exe start "$(WindowsPath "$1")\\Quillmore.exe" >/dev/null &&
         Run Paket/driver.exe wait frmFirstInfo && Run Paket/driver.exe click Command2 &&
         Run Paket/driver.exe wait frmMain
+}
+
+# The console program, which is taken to run while its file cannot be written.
+RefusedForConsole() {
+    local status=0
+    Lock "$for_all/QuillmoreCmd.exe"
+    Ends 4 Run Paket/Newer.exe /S || status=1
+    Unlock
+    return $status
 }
 
 RefusedForNow() {
@@ -84,6 +95,78 @@ RemovedWithout() {
     Remove "$for_all" && Absent HKLM "$for_all" "$menu_all" && Kept "$for_all" && SameSettings
 }
 
+# Somebody's own files that are called as ours, alone in a folder.
+Foreign() {
+    mkdir "$1"
+    for name in Anleitung.mht Liesmich.txt Lizenz.txt Quillmore.log; do
+        echo "somebody's" >"$1/$name"
+    done
+}
+
+# Spared FOLDER [NAME]: they are as they were, with nothing but NAME beside them.
+Spared() {
+    local name
+    for name in Anleitung.mht Liesmich.txt Lizenz.txt Quillmore.log; do
+        diff <(echo "somebody's") "$1/$name" || return 1
+    done
+    diff <(printf '%s\n' Anleitung.mht Liesmich.txt Lizenz.txt Quillmore.log ${2:+"$2"} | sort) \
+        <(ls "$1" | sort)
+}
+
+ForeignFolder() {
+    Ends 6 Run Paket/Setup.exe /S '/D=C:\Fremd' && Spared Fremd && Absent HKLM Nichts "$menu_all"
+}
+
+# An entry that says so is not believed about a folder with a file called as the uninstaller.
+ForeignEntry() {
+    echo "somebody's" >Fremd/Entfernen.exe
+    Run reg add "HKLM\\$entry" /v InstallLocation /d 'C:\Fremd' /f >/dev/null
+    Ends 0 Run Paket/Setup.exe /S || return 1
+    diff <(echo "somebody's") Fremd/Entfernen.exe && rm Fremd/Entfernen.exe && Spared Fremd &&
+        Installed HKLM "$version" "$for_all" "$menu_all"
+}
+
+# The uninstaller knows of no other folder than the one that was installed to.
+StrayUninstaller() {
+    cp "$for_all/Entfernen.exe" Fremd
+    Ends 6 Run Fremd/Entfernen.exe /S /ALLES '_?=C:\Fremd' && Remove Fremd /ALLES &&
+        Spared Fremd Entfernen.exe && Installed HKLM "$version" "$for_all" "$menu_all"
+}
+
+OtherKindThere() {
+    Ends 6 Run Paket/Setup.exe /S /EINBENUTZER "/D=$(WindowsPath "$for_all")" &&
+        Installed HKLM "$version" "$for_all" "$menu_all" && Absent HKCU Nichts "$menu_one"
+}
+
+BothKinds() {
+    Ends 0 Run Paket/Setup.exe /S /EINBENUTZER && Installed HKCU "$version" "$for_one" "$menu_one" &&
+        Installed HKLM "$version" "$for_all" "$menu_all"
+}
+
+# As for an administrator who starts what another user has installed for himself.
+LostEntry() {
+    Run reg export "HKCU\\$entry" 'C:\Paket\entry.reg' /y >/dev/null
+    Run reg delete "HKCU\\$entry" /f >/dev/null
+    Ends 6 Run "$for_one/Entfernen.exe" /S "_?=$(WindowsPath "$for_one")" || return 1
+    Run regedit /S 'C:\Paket\entry.reg'
+    rm Paket/entry.reg
+    Installed HKCU "$version" "$for_one" "$menu_one" &&
+        Installed HKLM "$version" "$for_all" "$menu_all"
+}
+
+OneOfBoth() {
+    Remove "$for_one" && Absent HKCU "$for_one" "$menu_one" &&
+        Installed HKLM "$version" "$for_all" "$menu_all"
+}
+
+Unpacked() {
+    mkdir Ausgepackt
+    cmake -E tar xf "$archive"
+    mv "${archived[@]}" Ausgepackt
+    Ends 0 Run Paket/Setup.exe /S '/D=C:\Ausgepackt' &&
+        Installed HKLM "$version" Ausgepackt "$menu_all" && Remove Ausgepackt
+}
+
 # What is kept on purpose is put away by hand; then nothing is left.
 PutAway() {
     rm "$for_all/Quillmore.log" "$for_all/Meins.txt"
@@ -92,6 +175,11 @@ PutAway() {
     Run reg delete "$run" /v Quillmore /f >/dev/null
 }
 
+RemovedLimited() {
+    Limited "$(WindowsPath "$for_one")\\Entfernen.exe" /S && Absent HKCU "$for_one" "$menu_one"
+}
+
+archived=(Anleitung.mht Liesmich.txt Lizenz.txt Quillmore.exe QuillmoreCmd.exe)
 version=$(basename "$1" -Setup.exe)
 version=${version#Quillmore-}
 documents="Dokumente und Einstellungen/$baseline_user/Eigene Dateien"
@@ -104,6 +192,7 @@ Check "all files, the menu and the entry are there, for all users" \
 Check "the installed program starts" StartProgram "$for_all"
 Check "while it runs, upgrade and removal are refused with 4" RefusedForNow
 Check "it ends" EndProgram "$for_all"
+Check "so is an upgrade while the console program runs" RefusedForConsole
 Furnish "$for_all" anderswo
 Check "a newer version replaces it and keeps settings, log and files of others" \
     Upgrade HKLM "$for_all" "$menu_all"
@@ -140,7 +229,7 @@ Check "without administrator's rights it installs for one user" \
     Ends 0 Limited 'C:\Paket\Setup.exe' /S
 Check "with all files, the menu and the entry" Installed HKCU "$version" "$for_one" "$menu_one"
 Run reg add "$run" /v Quillmore /d "\"$(WindowsPath "$for_one")\\Quillmore.exe\"" /f >/dev/null
-Check "and without them it is removed" Ends 0 Limited "$(WindowsPath "$for_one")\\Entfernen.exe" /S
+Check "and without them it is removed" RemovedLimited
 
 mkdir "Ablage für alle"
 folder="Ablage für alle/Größe & Maß"
@@ -149,9 +238,21 @@ Check "a folder with blanks and umlauts" \
 Check "gets all files" Installed HKLM "$version" "$folder" "$menu_all"
 Check "whatever its name, removal is complete" Remove "$folder"
 rmdir "Ablage für alle"
-mkdir -p "$for_all/Liesmich.txt"
-Check "a file that cannot be written ends with 2" Ends 2 Run Paket/Setup.exe /S
-Check "and makes no entry" test -z "$(Value "HKLM\\$entry" DisplayName)"
-rm -r "$for_all"
-Check "disk and registry are as before those three" Unchanged
+echo "somebody's" >"$menu_all/Quillmore"
+Check "what cannot be written whole ends with 2" Ends 2 Run Paket/Setup.exe /S
+rm "$menu_all/Quillmore"
+Check "and leaves nothing: disk and registry are as before those three" Unchanged
+
+Foreign Fremd
+Check "a folder with somebody's file of such a name is refused with 6, and spared" ForeignFolder
+Check "and it is whatever an entry says" ForeignEntry
+Check "an uninstaller that came there removes nothing" StrayUninstaller
+rm -r Fremd
+Check "the folder of the other kind is refused with 6" OtherKindThere
+Check "both kinds can be there side by side" BothKinds
+Check "with the entry of neither, removal is refused with 6" LostEntry
+Check "removing one spares the other" OneOfBoth
+Check "and then the other goes" Remove "$for_all"
+Check "what was unpacked somewhere can be installed there" Unpacked
+Check "disk and registry are as before, at the end" Unchanged
 End

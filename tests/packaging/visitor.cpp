@@ -2,6 +2,7 @@
 // there and by real keys. Each step is a word and mostly one more:
 //   see TEXT         waits until the window in front shows the text
 //   key KEY          presses it: "alt+w", "enter", "space", "escape"
+//   type TEXT        writes it where the focus is
 //   ticked TEXT, unticked TEXT
 //                    the box with that caption is as it should be
 //   fits             every caption of the window in front can be read in full
@@ -96,6 +97,12 @@ void Press(const std::string& key) {
     endtoend::TypeCharacter(static_cast<wchar_t>(key.back()), {VK_MENU});
 }
 
+void Write(const std::string& text) {
+    for (const wchar_t character : platform::win32::ToWide(text)) {
+        endtoend::TypeCharacter(character);
+    }
+}
+
 // A key that has just been pressed takes its time.
 void ExpectTick(const std::string& text, bool ticked) {
     endtoend::Until(
@@ -159,6 +166,7 @@ struct Step {
 const std::map<std::string, Step> Steps = {
     {"see", {1, See}},
     {"key", {1, Press}},
+    {"type", {1, Write}},
     {"ticked", {1, [](const std::string& text) { ExpectTick(text, true); }}},
     {"unticked", {1, [](const std::string& text) { ExpectTick(text, false); }}},
     {"fits", {0, ExpectFit}},

@@ -61,6 +61,23 @@ InstallForAll() {
             ticked "Quillmore jetzt starten" unticked "Anleitung öffnen" && Visit key alt+f && Ended 0
 }
 
+# The folder that is offered can be written over.
+OtherFolder() {
+    Visit type "$1" key alt+i
+}
+
+# A folder with somebody's file of such a name is told, and another can be taken.
+ForeignFolder() {
+    mkdir Fremd
+    echo "somebody's" >Fremd/Liesmich.txt
+    Start Paket/Setup.exe
+    Visit see "Für wen Quillmore $version" key alt+w see "Der Ordner sollte deshalb einer sein" &&
+        OtherFolder 'C:\Fremd' && Page foreign see "sie würden überschrieben" &&
+        Visit key enter see "Der Ordner sollte deshalb einer sein" key escape \
+            see "Sind Sie sicher" key enter && Ended 1 &&
+        diff <(echo "somebody's") Fremd/Liesmich.txt && [[ $(ls Fremd) == Liesmich.txt ]]
+}
+
 # "Quillmore jetzt starten" was ticked.
 ProgramCame() {
     Run Paket/driver.exe wait frmFirstInfo && Run Paket/driver.exe click Command2 &&
@@ -69,8 +86,8 @@ ProgramCame() {
 
 UpgradeRunning() {
     Start Paket/Newer.exe
-    Visit see "Für wen Quillmore 9.8.7" ticked "Für alle Benutzer" key alt+w &&
-        Page running see "Quillmore.exe läuft noch" &&
+    Page earlier see "Für alle Benutzer: $version in C:\\Programme\\Quillmore" \
+        ticked "Für alle Benutzer" && Visit key alt+w && Page running see "Quillmore.exe läuft noch" &&
         EndProgram "$for_all" &&
         Visit see "Quillmore.exe läuft noch" key alt+w see "Die Installation wurde erfolgreich" \
             key alt+w see "Quillmore 9.8.7 ist installiert" \
@@ -139,6 +156,25 @@ WithoutRights() {
         see "Sind Sie sicher" key enter && Ended 1
 }
 
+LimitedWhole() {
+    Start Paket/visitor.exe limited 'C:\Paket\Setup.exe'
+    Visit see "kann nur installieren, wer" key alt+w see "Der Ordner sollte deshalb einer sein" \
+        key alt+i see "Die Installation wurde erfolgreich" key alt+w \
+        see "Quillmore $version ist installiert" key alt+s key alt+f && Ended 0 &&
+        Installed HKCU "$version" "$for_one" "$menu_one" || return 1
+    Start Paket/visitor.exe limited "\"$(WindowsPath "$for_one")\\Entfernen.exe\""
+    Visit see "Andere Dateien im Ordner bleiben" key alt+e see "Fertig" key alt+b && Ended 0 &&
+        Absent HKCU "$for_one" "$menu_one"
+}
+
+# Of a folder that is no installation of anybody.
+StrayUninstaller() {
+    mkdir Fremd
+    cp "$for_all/Entfernen.exe" Fremd
+    Remover Fremd
+    Page stray see "weder für alle Benutzer noch für Sie" && Visit key enter && wait "$started"
+}
+
 LargeFonts() {
     local status=0
     dots=120
@@ -146,7 +182,8 @@ LargeFonts() {
     Run regedit /S 'C:\largefonts.reg'
     # Read when the desktop starts.
     EndWine
-    WithoutRights && InstallForAll && ProgramCame && UpgradeRunning && Furnish "$for_all" &&
+    WithoutRights && ForeignFolder && rm -r Fremd && InstallForAll && ProgramCame &&
+        UpgradeRunning && StrayUninstaller && rm -r Fremd && Furnish "$for_all" &&
         LockedRemoval && Run Paket/Newer.exe /S && RemoveForAll || status=1
     return $status
 }
@@ -155,6 +192,9 @@ Check "another Windows: told, and no goes no further" OtherWindows RefuseOther
 Check "yes goes on, and cancel ends with 1" OtherWindows CancelOther
 Check "without administrator's rights it offers one user only" WithoutRights
 Check "and nothing of these was written" Unchanged
+Check "a folder with somebody's file of such a name is told" ForeignFolder
+rm -r Fremd
+Check "without administrator's rights it installs for one user, and removes" LimitedWhole
 Check "by the proposed answers it installs for all" InstallForAll
 Check "all files, the menu and the entry" Installed HKLM "$version" "$for_all" "$menu_all"
 Check "and starts the program" ProgramCame
@@ -163,6 +203,8 @@ Check "which was nothing to the installed files" Installed HKLM "$version" "$for
 Check "a running program: told, and with it ended it goes on" UpgradeRunning
 Check "all files, the menu and the entry of the newer version" \
     Installed HKLM 9.8.7 "$for_all" "$menu_all"
+Check "an uninstaller in another folder removes nothing, and says so" StrayUninstaller
+rm -r Fremd
 Furnish "$for_all"
 Check "a removal that is stopped by a file in use is told, and stays possible" LockedRemoval
 Check "another installation mends it" Ends 0 Run Paket/Newer.exe /S
