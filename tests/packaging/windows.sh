@@ -78,6 +78,18 @@ ForeignFolder() {
         diff <(echo "somebody's") Fremd/Liesmich.txt && [[ $(ls Fremd) == Liesmich.txt ]]
 }
 
+# The folder of the command line stays whatever is chosen; where none is named, each choice has its own.
+NamedFolder() {
+    Start Paket/Setup.exe '/D=C:\Befohlen'
+    Visit see "Für wen Quillmore $version" key alt+w see 'C:\Befohlen' key alt+z \
+        see "Für wen Quillmore $version" key alt+m key alt+w see 'C:\Befohlen' key escape \
+        see "Sind Sie sicher" key enter && Ended 1 || return 1
+    Start Paket/Setup.exe
+    Visit see "Für wen Quillmore $version" key alt+w see 'C:\Programme\Quillmore' key alt+z \
+        see "Für wen Quillmore $version" key alt+m key alt+w \
+        see 'AppData\Local\Quillmore' key escape see "Sind Sie sicher" key enter && Ended 1
+}
+
 # "Quillmore jetzt starten" was ticked.
 ProgramCame() {
     Run Paket/driver.exe wait frmFirstInfo && Run Paket/driver.exe click Command2 &&
@@ -194,6 +206,7 @@ Check "without administrator's rights it offers one user only" WithoutRights
 Check "and nothing of these was written" Unchanged
 Check "a folder with somebody's file of such a name is told" ForeignFolder
 rm -r Fremd
+Check "a folder of the command line stays, and else each choice has its own" NamedFolder
 Check "without administrator's rights it installs for one user, and removes" LimitedWhole
 Check "by the proposed answers it installs for all" InstallForAll
 Check "all files, the menu and the entry" Installed HKLM "$version" "$for_all" "$menu_all"
