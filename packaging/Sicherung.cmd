@@ -36,7 +36,15 @@ echo Geben Sie sie nicht aus der Hand.
 goto ende
 
 :misslungen
+if exist "%Datei%" goto teilweise
 echo Die Sicherung ist nicht gelungen. Der Grund steht oben.
+goto ende
+
+:teilweise
+echo Nicht alles ließ sich sichern; was fehlt und warum, steht oben. Der Rest liegt
+echo hier:
+echo.
+echo   "%Datei%"
 
 :ende
 echo.

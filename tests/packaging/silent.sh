@@ -91,6 +91,19 @@ BackupTwice() {
         (($(find "$documents" -name '*.reg' | wc -l) == 2))
 }
 
+# With a stand-in that cannot back up all; of one that is called Wine tells only that it failed.
+BackupPartly() {
+    local code=0
+    mkdir Teil
+    sed 's/^"%~dp0QuillmoreCmd.exe"/call "%~dp0Teil.cmd"/' "$for_all/Sicherung.cmd" >Teil/Sicherung.cmd
+    printf '@echo etwas>%%2\r\n@exit /b 3\r\n' >Teil/Teil.cmd
+    Run cmd /c 'C:\Teil\Sicherung.cmd' </dev/null >"$work/partly" || code=$?
+    rm -r Teil
+    cat "$work/partly"
+    ((code != 0)) && grep -aq 'Der Rest liegt' "$work/partly" && ! grep -aq 'nicht gelungen' "$work/partly" &&
+        grep -aq 'Quillmore-Sicherung .* (3)\.reg"' "$work/partly"
+}
+
 RemovedWithout() {
     Remove "$for_all" && Absent HKLM "$for_all" "$menu_all" && Kept "$for_all" && SameSettings
 }
@@ -201,6 +214,7 @@ Check "a removal that is stopped by a file in use ends with 2 and can be tried a
     LockedFile StaysForAnotherTry
 Check "what it has removed already comes back" Upgrade HKLM "$for_all" "$menu_all"
 Check "the backup goes to the documents, and a second one spares the first" BackupTwice
+Check "one that lacks something says so, and where it is" BackupPartly
 # Wine's own command interpreter leaves files behind.
 rm -f "$documents"/*.reg users/*/Temp/CMD*.tmp
 Check "without administrator's rights it is not removed, which is told by 5" Ends 5 Limited \
