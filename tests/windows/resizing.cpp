@@ -71,6 +71,34 @@ struct ResizingFixture : Desk {
 
 }  // namespace
 
+TEST_CASE_FIXTURE(ResizingFixture, "a frame keeps its line when what it lies on is painted alone") {
+    const HWND page = GetParent(Find(form, "fraLeft"));
+    const auto before = Picture();
+    RedrawWindow(page, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN | RDW_UPDATENOW);
+    CHECK(support::Difference(before, Picture(), support::ClientOnScreen(host.WindowOf(form))) ==
+          "");
+}
+
+TEST_CASE("a frame on the window itself keeps its line when that is painted alone") {
+    Desk desk;
+    TestForm form(desk.host, "frmMain");
+    auto& frame = form.Add<toolkit::Frame>("fraOnly", "Rahmen");
+    auto& box = form.Add<toolkit::CheckBox>("chk", "Kasten");
+    form.SetLayout(toolkit::Column({InFrame(frame, Leaf(box)), Stretch(toolkit::Filler())}));
+    form.Show();
+    const HWND window = desk.host.WindowOf(form);
+    SetForegroundWindow(window);
+    ServeAWhile(200);
+    const RECT area = support::ClientOnScreen(window);
+    const auto before = support::ScreenPixels(area);
+    CHECK(std::set(before.begin(), before.end()).size() > 2);
+    RedrawWindow(window, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN | RDW_UPDATENOW);
+    ServeAWhile(200);
+    CHECK(support::Difference(before, support::ScreenPixels(area), area) == "");
+}
+
 TEST_CASE_FIXTURE(ResizingFixture, "a window of another size leaves nothing of the one before") {
     const auto before = Picture();
     SUBCASE("larger") {

@@ -1,5 +1,6 @@
 // What a form's window is told by the system and by its controls.
 #include "platform/win32/windows/formwindow.h"
+#include "platform/win32/windows/paintunder.h"
 #include "toolkit/drawncontrol.h"
 
 namespace platform::win32 {
@@ -63,6 +64,8 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEMOVE:
             surroundings_.Guard([this] { form_.MouseMoved(); });
             return 0;
+        case WM_PAINT:
+            return PaintUnderFrames(window, wParam, lParam);
         case WM_CTLCOLORSTATIC: {
             const LRESULT brush = DefWindowProcW(window, message, wParam, lParam);
             if (const auto control = controls_.Find(reinterpret_cast<HWND>(lParam))) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "platform/win32/text.h"
+#include "platform/win32/windows/paintunder.h"
 
 namespace platform::win32 {
 namespace {
@@ -30,6 +31,8 @@ LRESULT CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
         case WM_MOUSEMOVE:
         case WM_NEXTDLGCTL:
             return SendMessageW(GetParent(window), message, wParam, lParam);
+        case WM_PAINT:
+            return PaintUnderFrames(window, wParam, lParam);
         default:
             return DefWindowProcW(window, message, wParam, lParam);
     }
