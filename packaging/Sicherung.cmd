@@ -45,6 +45,9 @@ echo Nicht alles ließ sich sichern; was fehlt und warum, steht oben. Der Rest l
 echo hier:
 echo.
 echo   "%Datei%"
+echo.
+echo Auch er kann ein Kennwort der automatischen Anmeldung enthalten.
+echo Geben Sie die Datei nicht aus der Hand.
 
 :ende
 echo.
