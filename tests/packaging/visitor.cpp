@@ -65,6 +65,16 @@ bool Shows(const Look& look, const std::string& text) {
     return endtoend::WithoutMarks(look.text).find(text) != std::string::npos;
 }
 
+// The titles of all that is to be seen, for whoever wonders what is in front instead.
+std::string AllTitles() {
+    std::string titles;
+    for (HWND window : endtoend::Application(0).TopLevel()) {
+        if (!IsWindowVisible(window)) continue;
+        titles += " \"" + endtoend::SeenTitle(window) + "\" of " + endtoend::ClassOf(window);
+    }
+    return titles;
+}
+
 void See(const std::string& text) {
     std::string seen;
     try {
@@ -84,7 +94,8 @@ void See(const std::string& text) {
             },
             Patience);
     } catch (const Failed&) {
-        throw Failed("waited in vain for \"" + text + "\"; in front is " + seen);
+        throw Failed("waited in vain for \"" + text + "\"; in front is " + seen + "; there are" +
+                     AllTitles());
     }
 }
 
