@@ -61,18 +61,13 @@ InstallForAll() {
             ticked "Quillmore jetzt starten" unticked "Anleitung öffnen" && Visit key alt+f && Ended 0
 }
 
-# The folder that is offered can be written over.
-OtherFolder() {
-    Visit type "$1" key alt+i
-}
-
-# A folder with somebody's file of such a name is told, and another can be taken.
+# Of a folder with somebody's file of such a name it is told, and the page stays.
 ForeignFolder() {
     mkdir Fremd
     echo "somebody's" >Fremd/Liesmich.txt
     Start Paket/Setup.exe
     Visit see "Für wen Quillmore $version" key alt+w see "Der Ordner sollte deshalb einer sein" &&
-        OtherFolder 'C:\Fremd' && Page foreign see "sie würden überschrieben" &&
+        Visit type 'C:\Fremd' key alt+i && Page foreign see "sie würden überschrieben" &&
         Visit key enter see "Der Ordner sollte deshalb einer sein" key escape \
             see "Sind Sie sicher" key enter && Ended 1 &&
         diff <(echo "somebody's") Fremd/Liesmich.txt && [[ $(ls Fremd) == Liesmich.txt ]]
@@ -184,7 +179,8 @@ StrayUninstaller() {
     mkdir Fremd
     cp "$for_all/Entfernen.exe" Fremd
     Remover Fremd
-    Page stray see "weder für alle Benutzer noch für Sie" && Visit key enter && wait "$started"
+    Page stray see "weder für alle Benutzer noch für Sie" && Visit key enter && wait "$started" &&
+        [[ $(ls Fremd) == Entfernen.exe ]] && Installed HKLM 9.8.7 "$for_all" "$menu_all"
 }
 
 LargeFonts() {
